@@ -1,0 +1,107 @@
+#pragma once
+
+#include "store/Errores.h"
+#include "store/OrigenesDeDatos.h"
+#include "store/Valor.h"
+
+#include <exception>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+struct sqlite3;
+
+namespace pastorix {
+
+class Preparada;
+class Catalogo;
+
+// How a database file is opened; every outcome but the two first is an error with its own description.
+enum class ResultadoApertura {
+    Lista,
+    Convertida,    // it was an Access file (or stood in another column order) and has just been brought to our form
+    Ausente,
+    ClaveErronea,
+    NoEsBase,
+    Dañada,
+    OtroEsquema,   // a sound database that lacks one of our tables
+    Bloqueada,
+    SoloLectura,
+};
+
+struct OpcionesApertura {
+    bool trabajo = true;        // convert and bring to canonical order if need be; false: open as it is
+    bool soloLectura = false;
+    bool desconfiada = false;   // a file from elsewhere: checked before use, nothing in it is run
+    std::string carpetaBackup;  // where a converted original is kept; empty: folder BackUp beside the file's folder
+};
+
+// One connection to one database. Not copyable; closed by its destructor. Statements are written in the dialect of the
+// system's databases (see docs/architecture.md) and translated here; nothing reaches SQLite untranslated.
+class Conexion {
+public:
+    Conexion();
+    ~Conexion();
+    Conexion(Conexion&&) noexcept;
+    Conexion& operator=(Conexion&&) noexcept;
+
+    // Opens by connection string ("dsn=OD_PRADALC"). Throws ErrorAlmacen.
+    ResultadoApertura Abrir(const OrigenesDeDatos& origenes, std::string_view cadena, std::string_view clave,
+                            const OpcionesApertura& opciones = {});
+    // Opens a file by its path. Throws ErrorAlmacen; ResultadoUltimo() tells which outcome it was.
+    ResultadoApertura AbrirFichero(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones = {});
+    void Cerrar();
+    bool Abierta() const;
+    const std::string& Fichero() const;
+    ResultadoApertura ResultadoUltimo() const;
+
+    // Runs a DELETE, UPDATE or ALTER TABLE; returns the number of rows it touched. Throws ErrorAlmacen.
+    long Execute(std::string_view sentencia);
+
+    // What the open database holds. Valid until the next Execute of an ALTER TABLE.
+    const Catalogo& Esquema() const;
+
+    // Used by Recordset and EnGrupo only.
+    std::shared_ptr<Preparada> Preparar(std::string_view sentencia, bool conFilas, std::vector<Valor>& literales);
+    sqlite3* Manejador() const;
+    void EntrarEnGrupo();
+    void SalirDeGrupo();
+
+private:
+    struct Interior;
+    std::unique_ptr<Interior> m;
+};
+
+// Runs one user action as one durable unit on the connection: committed at its end whatever happened in it (a failed
+// statement leaves what was done before it), undone only if the process never gets there. An exception of the action is thrown
+// on after the commit; a failing commit is itself an ErrorAlmacen. Groups nest; the outermost commits.
+template <typename F>
+auto EnGrupo(Conexion& conexion, F&& accion) {
+    conexion.EntrarEnGrupo();
+    std::exception_ptr error;
+    if constexpr (std::is_void_v<std::invoke_result_t<F>>) {
+        try {
+            std::forward<F>(accion)();
+        } catch (...) {
+            error = std::current_exception();
+        }
+        conexion.SalirDeGrupo();
+        if (error)
+            std::rethrow_exception(error);
+    } else {
+        std::optional<std::invoke_result_t<F>> resultado;
+        try {
+            resultado.emplace(std::forward<F>(accion)());
+        } catch (...) {
+            error = std::current_exception();
+        }
+        conexion.SalirDeGrupo();
+        if (error)
+            std::rethrow_exception(error);
+        return std::move(*resultado);
+    }
+}
+
+} // namespace pastorix
