@@ -16,14 +16,27 @@
 namespace pastorix::access {
 
 enum class Tipo : std::uint8_t {
-    SiNo = 1, Byte = 2, Entero = 3, Largo = 4, Moneda = 5, Simple = 6, Doble = 7, FechaHora = 8,
-    Binario = 9, Texto = 10, Ole = 11, Memo = 12, Guid = 15, Decimal = 16, Otro = 17,
+    SiNo = 1,
+    Byte = 2,
+    Entero = 3,
+    Largo = 4,
+    Moneda = 5,
+    Simple = 6,
+    Doble = 7,
+    FechaHora = 8,
+    Binario = 9,
+    Texto = 10,
+    Ole = 11,
+    Memo = 12,
+    Guid = 15,
+    Decimal = 16,
+    Otro = 17,
 };
 
 struct Columna {
     std::string nombre; // UTF-8
     Tipo tipo{};
-    int longitud = 0;   // bytes of a fixed column; characters of a text
+    int longitud = 0; // bytes of a fixed column; characters of a text
 };
 
 // A date as the file has it: days since 1899-12-30 and milliseconds of that day (time counts forward in negative days too).
@@ -50,7 +63,9 @@ struct Tabla {
 class ErrorAccess : public std::runtime_error {
 public:
     enum class Clase { NoSeLee, NoEsAccess, VersionNoTratada, Dañado };
-    ErrorAccess(Clase clase, const std::string& texto) : std::runtime_error(texto), m_clase(clase) {}
+    ErrorAccess(Clase clase, const std::string& texto)
+        : std::runtime_error(texto)
+        , m_clase(clase) {}
     Clase DeClase() const { return m_clase; }
 
 private:
@@ -70,8 +85,9 @@ public:
     BaseAccess(BaseAccess&&) noexcept;
     BaseAccess& operator=(BaseAccess&&) noexcept;
 
-    int VersionJet() const;             // 3 or 4
-    const std::string& Clave() const;   // database password, UTF-8, empty when none; the rows can be read without it
+    int VersionJet() const; // 3 or 4
+    const std::string&
+    Clave() const; // database password, UTF-8, empty when none; the rows can be read without it
     const std::vector<Tabla>& Tablas() const; // user tables, in the order of the catalogue
 
     // Walks the live rows of a table in physical order; the cells stand in the order of Tabla::columnas. Returns the number
