@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace pastorix {
+
+// The per-user settings of application "PSTX", section "Registro": the version markers "Version_0" and "Version_1", and "Modo".
+
+// The setting of that name; the default when there is none.
+QString GetSetting(const QString& clave, const QString& defecto = {});
+
+// Writes a setting at once; false when the store cannot be written.
+bool SaveSetting(const QString& clave, const QString& valor);
+
+} // namespace pastorix

@@ -1,0 +1,26 @@
+#include "frame/Aplicacion.h"
+
+#include "frame/Iconos.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace pastorix {
+
+void PrepararAplicacion(QApplication& aplicacion) {
+    QApplication::setOrganizationName(QStringLiteral("PASTORIX"));
+    QApplication::setApplicationName(QStringLiteral("pastorix"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Pastorix"));
+    QApplication::setDesktopFileName(QStringLiteral("pastorix"));
+    QApplication::setWindowIcon(Icono("pastorix"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+
+    auto* traductor = new QTranslator(&aplicacion);
+    if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(traductor);
+}
+
+} // namespace pastorix

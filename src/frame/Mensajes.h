@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace pastorix {
+
+// The one way in which the program talks to the user in boxes and file choosers. Tests, the command line and demonstrations
+// install an answerer and no window appears. Under test (QStandardPaths in test mode) a box that nobody answers is reported as a
+// critical message, which fails the run, instead of waiting for ever.
+
+enum class TipoMensaje { Critico = 16, Pregunta = 32, Atencion = 48, Informacion = 64 };
+
+// One box or chooser on its way to the user. Titles and texts are as the sheets wrote them, line breaks included.
+struct Mensaje {
+    enum class Clase { Aviso, Pregunta, FicheroGuardar };
+    Clase clase = Clase::Aviso;
+    TipoMensaje tipo = TipoMensaje::Informacion;
+    QString titulo;
+    QString texto;
+    QString detalle;   // the cause, where the fixed text does not tell it
+    QString propuesta; // FicheroGuardar: proposed path
+    QString filtro;    // FicheroGuardar: "Documento PDF (*.pdf)"
+};
+
+struct Respuesta {
+    bool si = false; // Pregunta
+    QString fichero; // FicheroGuardar; empty: cancelled
+};
+
+using Respondedor = std::function<Respuesta(const Mensaje&)>;
+
+// Installs who answers instead of windows and returns the former one; an empty function brings the windows back.
+Respondedor InstalarRespondedor(Respondedor respondedor);
+
+// A box with one button, Aceptar. Returns 1, the number of that button.
+int Avisar(QWidget* padre, TipoMensaje tipo, const QString& titulo, const QString& texto,
+           const QString& detalle = {});
+
+// A box with Sí and No; true on Sí. No is the default button and what Escape gives, unless porDefectoSi.
+bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto,
+               TipoMensaje tipo = TipoMensaje::Pregunta, bool porDefectoSi = false);
+
+// Asks where to write a file, asking before an existing one is replaced; "" when cancelled.
+QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
+                             const QString& filtro);
+
+} // namespace pastorix

@@ -1,0 +1,100 @@
+#include "frame/PuestaAlDia.h"
+
+#include "frame/Ajustes.h"
+#include "frame/calendario/Formatos.h"
+#include "frame/calendario/Reloj.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+#include <array>
+
+namespace pastorix {
+
+namespace {
+
+constexpr int VersionActual = 309;
+
+// Statements 6 to 8 rename Desconocida to DemoraServIPR and keep its values. Statements 4 and 12 together leave Null where
+// DescCausaPPal was empty or 0; their order matters.
+constexpr std::array<std::string_view, 13> ListaReparaciones{
+    "DELETE FROM T_SERVICIOS WHERE (((N_PARTO) Is Null))",
+    "UPDATE T_Cubriciones SET T_Cubriciones.EnfReprod = 0 WHERE (((T_Cubriciones.EnfReprod) Is Null));",
+    "UPDATE T_Cubriciones SET T_Cubriciones.Enfermendad = 0 WHERE (((T_Cubriciones.Enfermendad) Is Null));",
+    "UPDATE T_Cubriciones SET T_Cubriciones.DescCausaPPal = 0 WHERE (((T_Cubriciones.DescCausaPPal) Is "
+    "Null));",
+    "DELETE FROM T_PARTOS WHERE N_PARTO=0",
+    "ALTER TABLE T_Cubriciones ADD COLUMN DemoraServIPR DOUBLE",
+    "UPDATE T_Cubriciones SET T_Cubriciones.DemoraServIPR = [T_Cubriciones]![Desconocida]",
+    "ALTER TABLE T_Cubriciones DROP COLUMN Desconocida",
+    "UPDATE T_Cubriciones SET DescEnfReprod = Null WHERE DescEnfReprod ='0'",
+    "UPDATE T_Cubriciones SET DescEnfermedad = Null WHERE DescEnfermedad ='0'",
+    "UPDATE T_Cubriciones SET Txt_Otra_Causa = Null WHERE Txt_Otra_Causa ='0'",
+    "UPDATE T_Cubriciones SET DescCausaPpal= Null WHERE DescCausaPpal ='0'",
+    "ALTER TABLE T_Cebo ADD COLUMN Cambiado DOUBLE",
+};
+
+// Adds the cow's row of the year to one table unless she has one. True when it was added.
+bool AbrirAño(Conexion& conexion, std::string_view tabla, double idGanadero, double idVaca,
+              const std::string& año) {
+    const std::string sentencia = "SELECT * FROM " + std::string(tabla) +
+                                  " WHERE Id_Vaca = " + NumeroSql(idVaca) + " AND AÑONAT = " + año;
+    Recordset rs(conexion, sentencia);
+    if (!rs.Eof())
+        return false;
+    rs.AddNew();
+    rs["Id_Ganadero"] = idGanadero;
+    rs["Id_Vaca"] = idVaca;
+    rs["AñoNat"] = año;
+    rs.Update();
+    return true;
+}
+
+} // namespace
+
+std::span<const std::string_view> Reparaciones() {
+    return ListaReparaciones;
+}
+
+void Reparar(Conexion& conexion) {
+    EnGrupo(conexion, [&] {
+        for (const std::string_view sentencia : ListaReparaciones) {
+            try {
+                conexion.Execute(sentencia);
+            } catch (const ErrorAlmacen&) { // expected of a database that is up to date
+            }
+        }
+    });
+}
+
+void ActualizarVersion(Conexion&) {}
+
+void PasarVersion(Conexion& conexion, int base) {
+    const QString clave = QStringLiteral("Version_") + QString::number(base);
+    if (Val(GetSetting(clave).toStdString()) < VersionActual) {
+        ActualizarVersion(conexion);
+        SaveSetting(clave, QString::number(VersionActual));
+    }
+}
+
+long InicializarAñosNaturales(Conexion& conexion, const FuncionAvance& avance) {
+    constexpr std::array<std::string_view, 4> tablas{"T_CCNATVACAS", "T_IBRBVD", "T_NEOSPIROSIS",
+                                                     "T_MAMIVACU"};
+    const std::string año = FormatoFecha(Hoy(), "yyyy");
+    return EnGrupo(conexion, [&] {
+        Recordset vacas(conexion, "SELECT * FROM T_Vacas WHERE ((FECHABAJA) Is Null) ORDER BY ID_VACA");
+        const int total = static_cast<int>(vacas.Contar());
+        long añadidas = 0;
+        for (int hechas = 0; !vacas.Eof(); vacas.Siguiente(), ++hechas) {
+            if (avance)
+                avance(hechas, total);
+            const double idVaca = vacas["Id_Vaca"].Numero();
+            const double idGanadero = vacas["Id_Ganadero"].Numero();
+            for (const std::string_view tabla : tablas)
+                if (AbrirAño(conexion, tabla, idGanadero, idVaca, año))
+                    ++añadidas;
+        }
+        return añadidas;
+    });
+}
+
+} // namespace pastorix
