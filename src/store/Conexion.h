@@ -22,6 +22,7 @@ class Preparada;
 class Catalogo;
 
 // How a database file is opened; every outcome but the two first is an error with its own description.
+#ifndef Q_MOC_RUN // Qt's moc stops at enumerators with an ñ, in whatever header it meets them
 enum class ResultadoApertura {
     Lista,
     Convertida,    // it was an Access file (or stood in another column order) and has just been brought to our form
@@ -33,6 +34,7 @@ enum class ResultadoApertura {
     Bloqueada,
     SoloLectura,
 };
+#endif
 
 using AvanceDeApertura = std::function<void(int hecho, int total)>;
 

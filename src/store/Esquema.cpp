@@ -77,13 +77,19 @@ QByteArray Resumen(const QByteArray& sal, std::string_view clave) {
 std::string LeerMeta(sqlite3* base, const char* nombre) {
     sqlite3_stmt* s = nullptr;
     std::string valor;
-    if (sqlite3_prepare_v2(base, "SELECT valor FROM _pastorix WHERE nombre = ?", -1, &s, nullptr) == SQLITE_OK) {
+    constexpr const char* kSql = "SELECT valor FROM _pastorix WHERE nombre = ?";
+    int codigo = sqlite3_prepare_v2(base, kSql, -1, &s, nullptr);
+    if (codigo == SQLITE_OK) {
         sqlite3_bind_text(s, 1, nombre, -1, SQLITE_STATIC);
-        if (sqlite3_step(s) == SQLITE_ROW)
+        codigo = sqlite3_step(s);
+        if (codigo == SQLITE_ROW)
             if (const auto* t = sqlite3_column_text(s, 0))
                 valor = reinterpret_cast<const char*>(t);
     }
     sqlite3_finalize(s);
+    // Without the table the file is simply not ours; damage and locks are something else.
+    if (codigo != SQLITE_ROW && codigo != SQLITE_DONE && codigo != SQLITE_ERROR)
+        LanzarError(base, codigo, kSql);
     return valor;
 }
 
