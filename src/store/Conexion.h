@@ -5,9 +5,12 @@
 #include "store/Valor.h"
 
 #include <exception>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -31,11 +34,14 @@ enum class ResultadoApertura {
     SoloLectura,
 };
 
+using AvanceDeApertura = std::function<void(int hecho, int total)>;
+
 struct OpcionesApertura {
     bool trabajo = true;        // convert and bring to canonical order if need be; false: open as it is
     bool soloLectura = false;
     bool desconfiada = false;   // a file from elsewhere: checked before use, nothing in it is run
-    std::string carpetaBackup;  // where a converted original is kept; empty: folder BackUp beside the file's folder
+    std::string carpetaBackup;  // where a converted original is kept; empty: folder BackUp in the file's own folder
+    AvanceDeApertura avance;    // told of the progress of a conversion
 };
 
 // One connection to one database. Not copyable; closed by its destructor. Statements are written in the dialect of the
