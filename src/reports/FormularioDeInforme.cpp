@@ -35,14 +35,15 @@ protected:
     void focusInEvent(QFocusEvent* e) override {
         QLineEdit::focusInEvent(e);
         if (e->reason() != Qt::PopupFocusReason)
-            QMetaObject::invokeMethod(this, [this] { selectAll(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { selectAll(); }, Qt::QueuedConnection);
     }
 };
 
 } // namespace
 
-FormularioDeInforme::FormularioDeInforme(Sesion& sesion, ControlInforme& control, const QString& titulo, QWidget* padre,
-                                         const QString& rotuloAño)
+FormularioDeInforme::FormularioDeInforme(Sesion& sesion, ControlInforme& control, const QString& titulo,
+                                         QWidget* padre, const QString& rotuloAño)
     : QDialog(padre)
     , m_sesion(sesion)
     , m_control(control) {
@@ -100,7 +101,10 @@ void FormularioDeInforme::Construir(const QString& rotuloAño) {
     campos->addRow(rotulo(QStringLiteral("&Veterinario"), 0, m_veterinario), m_veterinario);
     campos->addRow(rotulo(QStringLiteral("&Ganadero"), 1, m_lstGanadero), m_lstGanadero);
     // "Año &Referencia": the mnemonic of the last word leaves Alt+A to the button.
-    campos->addRow(rotulo(QString(rotuloAño).insert(rotuloAño.lastIndexOf(QLatin1Char(' ')) + 1, QLatin1Char('&')), 2, m_año), m_año);
+    campos->addRow(
+        rotulo(QString(rotuloAño).insert(rotuloAño.lastIndexOf(QLatin1Char(' ')) + 1, QLatin1Char('&')), 2,
+               m_año),
+        m_año);
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(campos);
     todo->addWidget(botones);
@@ -127,7 +131,8 @@ void FormularioDeInforme::LlenarGanaderos() {
     m_lstGanadero->clear();
     m_lst_Id_Ganadero.clear();
     for (Recordset rs(Base(), sql); !rs.Eof(); rs.Siguiente()) {
-        auto* i = new QListWidgetItem(QString::fromStdString(rs["Nombre"].Texto() + " " + rs["Apellidos"].Texto()), m_lstGanadero);
+        auto* i = new QListWidgetItem(
+            QString::fromStdString(rs["Nombre"].Texto() + " " + rs["Apellidos"].Texto()), m_lstGanadero);
         i->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         i->setCheckState(Qt::Unchecked);
         m_lst_Id_Ganadero.push_back(rs["Id_Ganadero"].Numero());
@@ -163,8 +168,12 @@ bool FormularioDeInforme::MarcarGanadero(double idGanadero) {
     return false;
 }
 
-void FormularioDeInforme::PonerAño(const QString& año) { m_año->setText(año); }
-QString FormularioDeInforme::Año() const { return m_año->text(); }
+void FormularioDeInforme::PonerAño(const QString& año) {
+    m_año->setText(año);
+}
+QString FormularioDeInforme::Año() const {
+    return m_año->text();
+}
 
 std::vector<double> FormularioDeInforme::GanaderosMarcados() const {
     std::vector<double> ids;

@@ -21,7 +21,8 @@ class ControlInforme;
 class FormularioDeInforme : public QDialog {
 public:
     // The form lives as long as the session and the control. Reads veterinarians and farmers at once.
-    FormularioDeInforme(Sesion& sesion, ControlInforme& control, const QString& titulo, QWidget* padre = nullptr,
+    FormularioDeInforme(Sesion& sesion, ControlInforme& control, const QString& titulo,
+                        QWidget* padre = nullptr,
                         const QString& rotuloAño = QStringLiteral("Año Referencia"));
 
     // For callers without a display: checks the farmer as a click would. False when the list does not offer him.
@@ -55,11 +56,11 @@ private:
 
     Sesion& m_sesion;
     ControlInforme& m_control;
-    QComboBox* m_veterinario = nullptr;           // Cd_Veterinario
-    std::vector<double> m_lst_Id_Veterinario;     // same index
+    QComboBox* m_veterinario = nullptr;       // Cd_Veterinario
+    std::vector<double> m_lst_Id_Veterinario; // same index
     QListWidget* m_lstGanadero = nullptr;
-    std::vector<double> m_lst_Id_Ganadero;        // same index
-    QLineEdit* m_año = nullptr;                   // Ct_E
+    std::vector<double> m_lst_Id_Ganadero; // same index
+    QLineEdit* m_año = nullptr;            // Ct_E
     QPushButton* m_aceptar = nullptr;
 };
 
