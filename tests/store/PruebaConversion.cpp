@@ -23,7 +23,8 @@ class PruebaConversion : public QObject {
     int m_n = 0;
 
     QString Copia(const QString& origen) {
-        const auto destino = m_carpeta.filePath(QStringLiteral("%1_%2").arg(++m_n).arg(QFileInfo(origen).fileName()));
+        const auto destino =
+            m_carpeta.filePath(QStringLiteral("%1_%2").arg(++m_n).arg(QFileInfo(origen).fileName()));
         QFile::copy(origen, destino);
         QFile::setPermissions(destino, QFile::ReadOwner | QFile::WriteOwner);
         return destino;
@@ -37,7 +38,9 @@ class PruebaConversion : public QObject {
         return h.result();
     }
     static QString Datos(const char* n) { return QStringLiteral(PASTORIX_DATOS "/") + QString::fromUtf8(n); }
-    static QString Ejemplo(const char* n) { return QStringLiteral(PASTORIX_EJEMPLO "/") + QString::fromUtf8(n); }
+    static QString Ejemplo(const char* n) {
+        return QStringLiteral(PASTORIX_EJEMPLO "/") + QString::fromUtf8(n);
+    }
 
 private Q_SLOTS:
     void EnSuSitio() {
@@ -57,16 +60,19 @@ private Q_SLOTS:
         const auto* cub = c.Esquema().Buscar("T_Cubriciones");
         QCOMPARE(cub->columnas[40].nombre, std::string("DemoraServIPR"));
         QCOMPARE(cub->columnas.back().nombre, std::string("Desconocida"));
-        QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Cebo) AS N FROM T_Cebo WHERE Cambiado = 0"), std::string("749"));
+        QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Cebo) AS N FROM T_Cebo WHERE Cambiado = 0"),
+                 std::string("749"));
         QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Vaca) AS N FROM T_Cubriciones"), std::string("2833"));
         const auto valor = [&](const char* s) { return ValorDeCampo(c, s); };
-        QVERIFY(valor("SELECT Nombre FROM T_Vacas WHERE Id_Vaca = 1200105").starts_with("Ñandú Güeñó áéíóú ÁÉÍÓÚ çÇ ºª"));
+        QVERIFY(valor("SELECT Nombre FROM T_Vacas WHERE Id_Vaca = 1200105")
+                    .starts_with("Ñandú Güeñó áéíóú ÁÉÍÓÚ çÇ ºª"));
         {
             Recordset rs(c, "SELECT FechaNac, FechaBaja FROM T_Vacas WHERE Id_Vaca = 8500114");
             QCOMPARE(rs["FechaNac"].FechaValor(), (Fecha{0, 0})); // day 0 is a date, not Null
             Recordset lejos(c, "SELECT FechaNac FROM T_Vacas WHERE Id_Vaca = 1200042");
             QCOMPARE(FechaIso(*lejos["FechaNac"].FechaValor()), std::string("2205-03-01"));
-            Recordset textos(c, "SELECT RegSaneam, ObsDesecho FROM T_Vacas WHERE Id_Vaca = 4230040 OR Id_Vaca = 4230058 ORDER BY Id_Vaca");
+            Recordset textos(c, "SELECT RegSaneam, ObsDesecho FROM T_Vacas WHERE Id_Vaca = 4230040 OR "
+                                "Id_Vaca = 4230058 ORDER BY Id_Vaca");
             QVERIFY(!textos["RegSaneam"].Nulo()); // empty text stays empty text
             QCOMPARE(textos["RegSaneam"].Texto(), std::string());
             Recordset nombre(c, "SELECT NombreC, Crotal FROM T_Vacas WHERE Id_Vaca = 8500099");
@@ -93,17 +99,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("fichero");
         QTest::addColumn<ResultadoApertura>("resultado");
         QTest::addColumn<QString>("palabra");
-        QTest::newRow("wrong password") << Datos("otra-clave.mdb") << ResultadoApertura::ClaveErronea << QStringLiteral("clave");
-        QTest::newRow("cut") << Datos("recortada.mdb") << ResultadoApertura::Dañada << QStringLiteral("cortad");
-        QTest::newRow("table missing") << Datos("sin-T_Partos.mdb") << ResultadoApertura::OtroEsquema << QStringLiteral("T_Partos");
+        QTest::newRow("wrong password")
+            << Datos("otra-clave.mdb") << ResultadoApertura::ClaveErronea << QStringLiteral("clave");
+        QTest::newRow("cut") << Datos("recortada.mdb") << ResultadoApertura::Dañada
+                             << QStringLiteral("cortad");
+        QTest::newRow("table missing")
+            << Datos("sin-T_Partos.mdb") << ResultadoApertura::OtroEsquema << QStringLiteral("T_Partos");
         QFile texto(m_carpeta.filePath(QStringLiteral("texto.mdb")));
         QVERIFY(texto.open(QIODevice::WriteOnly));
         texto.write("Estimado colega:\n");
         QFile vacio(m_carpeta.filePath(QStringLiteral("vacio.mdb")));
         QVERIFY(vacio.open(QIODevice::WriteOnly));
-        QTest::newRow("text") << texto.fileName() << ResultadoApertura::NoEsBase << QStringLiteral("no es una base");
+        QTest::newRow("text") << texto.fileName() << ResultadoApertura::NoEsBase
+                              << QStringLiteral("no es una base");
         QTest::newRow("empty") << vacio.fileName() << ResultadoApertura::NoEsBase << QStringLiteral("vacío");
-        QTest::newRow("absent") << m_carpeta.filePath(QStringLiteral("no hay.mdb")) << ResultadoApertura::Ausente << QStringLiteral("No existe");
+        QTest::newRow("absent") << m_carpeta.filePath(QStringLiteral("no hay.mdb"))
+                                << ResultadoApertura::Ausente << QStringLiteral("No existe");
     }
     void OtrosFicheros() {
         QFETCH(QString, fichero);
@@ -124,7 +135,8 @@ private Q_SLOTS:
         QCOMPARE(c.ResultadoUltimo(), resultado);
         QVERIFY(!c.Abierta());
         QCOMPARE(Huella(copia), antes);
-        QCOMPARE(QDir(carpeta.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), antes.isEmpty() ? 0 : 1);
+        QCOMPARE(QDir(carpeta.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(),
+                 antes.isEmpty() ? 0 : 1);
     }
 
     void TablasDeMas() {
@@ -174,11 +186,13 @@ private Q_SLOTS:
         QVERIFY(f.open(QIODevice::WriteOnly));
         f.write("mío");
         f.close();
-        QVERIFY_EXCEPTION_THROWN(ConvertirAccess(Ruta(Datos("minima.mdb").toStdString()), Ruta(destino.toStdString()), kClave),
-                                 ErrorConversion);
-        QVERIFY_EXCEPTION_THROWN(ConvertirAccess(Ruta(Datos("recortada.mdb").toStdString()),
-                                                 Ruta(m_carpeta.filePath(QStringLiteral("nueva.mdb")).toStdString()), kClave),
-                                 ErrorConversion);
+        QVERIFY_EXCEPTION_THROWN(
+            ConvertirAccess(Ruta(Datos("minima.mdb").toStdString()), Ruta(destino.toStdString()), kClave),
+            ErrorConversion);
+        QVERIFY_EXCEPTION_THROWN(
+            ConvertirAccess(Ruta(Datos("recortada.mdb").toStdString()),
+                            Ruta(m_carpeta.filePath(QStringLiteral("nueva.mdb")).toStdString()), kClave),
+            ErrorConversion);
         QVERIFY(!QFile::exists(m_carpeta.filePath(QStringLiteral("nueva.mdb"))));
         QVERIFY(f.open(QIODevice::ReadOnly));
         QCOMPARE(f.readAll(), QByteArray("mío"));
@@ -192,14 +206,17 @@ private Q_SLOTS:
         b.c.Execute("ALTER TABLE T_Cebo ADD COLUMN Cambiado DOUBLE");
         b.c.Execute("ALTER TABLE T_Vacas ADD COLUMN Propia MEMO");
         b.Poner("T_Vacas", {{"Id_Vaca", 12001.0}, {"Propia", "ñ"}});
-        sqlite3_exec(b.c.Manejador(), "CREATE TABLE [Mis notas] (a TEXT_MEMO, b DOUBLE); INSERT INTO [Mis notas] VALUES ('x', 2.5)",
-                     nullptr, nullptr, nullptr);
+        sqlite3_exec(
+            b.c.Manejador(),
+            "CREATE TABLE [Mis notas] (a TEXT_MEMO, b DOUBLE); INSERT INTO [Mis notas] VALUES ('x', 2.5)",
+            nullptr, nullptr, nullptr);
         b.c.Cerrar();
         QVERIFY(!VerificarBase(b.fichero, kClave).empty());
         Conexion c;
         QCOMPARE(c.AbrirFichero(b.fichero, kClave), ResultadoApertura::Convertida);
         QCOMPARE(c.Esquema().Buscar("T_Cebo")->columnas[21].nombre, std::string("Cambiado"));
-        QCOMPARE(ValorDeCampo(c, "SELECT Cambiado FROM T_Cebo WHERE Obs = 'nota' AND N_Parto = 3"), std::string("0"));
+        QCOMPARE(ValorDeCampo(c, "SELECT Cambiado FROM T_Cebo WHERE Obs = 'nota' AND N_Parto = 3"),
+                 std::string("0"));
         QCOMPARE(ValorDeCampo(c, "SELECT Propia FROM T_Vacas"), std::string("ñ"));
         QCOMPARE(ValorDeCampo(c, "SELECT b FROM [Mis notas]"), std::string("2,5"));
         QVERIFY(VerificarBase(b.fichero, kClave).empty());

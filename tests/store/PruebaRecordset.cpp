@@ -30,10 +30,17 @@ private Q_SLOTS:
         QCOMPARE(SiguienteId(b.c, "SELECT Nombre, Id_Vaca FROM T_Vacas ORDER BY Id_Vaca", 1), 8.0);
         QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre FROM T_Vacas"), std::string());
         QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre FROM T_Vacas WHERE Id_Vaca = 99"), std::string());
-        QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre, Id_Vaca FROM T_Vacas ORDER BY Id_Vaca", 1), std::string("3"));
+        QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre, Id_Vaca FROM T_Vacas ORDER BY Id_Vaca", 1),
+                 std::string("3"));
         // a taken or missing key is refused and nothing changes
-        QCOMPARE(Numero([&] { b.Poner("T_Vacas", {{"Id_Vaca", 3.0}, {"Nombre", "otra"}}); }), long(CodigoError::Restriccion));
-        QCOMPARE(Numero([&] { b.Poner("T_Vacas", {{"Nombre", "sin código"}}); }), long(CodigoError::Restriccion));
+        QCOMPARE(Numero([&] {
+                     b.Poner("T_Vacas", {{"Id_Vaca", 3.0}, {"Nombre", "otra"}});
+                 }),
+                 long(CodigoError::Restriccion));
+        QCOMPARE(Numero([&] {
+                     b.Poner("T_Vacas", {{"Nombre", "sin código"}});
+                 }),
+                 long(CodigoError::Restriccion));
         QCOMPARE(b.Texto("SELECT Id_Vaca, Nombre FROM T_Vacas ORDER BY Id_Vaca"), std::string("3|-/7|-"));
     }
 
@@ -67,8 +74,10 @@ private Q_SLOTS:
         QCOMPARE(leido[0].Entero(), std::int64_t(12001));
 
         // whole columns take the nearest, halves to even; a text that is no date stays as typed
-        b.Poner("T_Servicios", {{"Id_Vaca", 1.0}, {"N_Servicio", 2.5}, {"N_Parto", "3,5"}, {"Fecha_Servicio", "31/02/01"}});
-        QCOMPARE(b.Texto("SELECT N_Servicio, N_Parto, Fecha_Servicio FROM T_Servicios"), std::string("2|4|31/02/01"));
+        b.Poner("T_Servicios",
+                {{"Id_Vaca", 1.0}, {"N_Servicio", 2.5}, {"N_Parto", "3,5"}, {"Fecha_Servicio", "31/02/01"}});
+        QCOMPARE(b.Texto("SELECT N_Servicio, N_Parto, Fecha_Servicio FROM T_Servicios"),
+                 std::string("2|4|31/02/01"));
         b.Poner("T_Cebo", {{"Id_Cebo", 1.0}, {"Id_Ganadero", 1.0}, {"Cambiado", Valor()}});
         b.Poner("T_Cebo", {{"Id_Cebo", 2.0}, {"Id_Ganadero", 1.0}});
         QCOMPARE(b.Texto("SELECT Id_Cebo FROM T_Cebo WHERE Cambiado = 0"), std::string("1/2"));
@@ -94,7 +103,8 @@ private Q_SLOTS:
         rs.Primero();
         rs["Nombre"] = "no guardada"; // leaving the row forgets what was not updated
         rs.Siguiente();
-        QCOMPARE(b.Texto("SELECT Id_Vaca, Nombre FROM T_Vacas ORDER BY Id_Vaca"), std::string("101|-/102|-/103|-/104|-"));
+        QCOMPARE(b.Texto("SELECT Id_Vaca, Nombre FROM T_Vacas ORDER BY Id_Vaca"),
+                 std::string("101|-/102|-/103|-/104|-"));
         b.c.Execute("DELETE FROM T_Vacas WHERE Id_Vaca = 102");
         rs["Nombre"] = "tarde";
         QCOMPARE(Numero([&] { rs.Update(); }), long(CodigoError::SinFilaActual));
@@ -113,8 +123,10 @@ private Q_SLOTS:
         b.Poner("T_Direcciones", {{"Id_Direccion", 3.0}, {"Id_GV", 57.0}});
         {
             // the address goes, the farmer stays
-            Recordset rs(b.c, "SELECT T_Ganaderos.*, T_Direcciones.* FROM T_Ganaderos INNER JOIN T_Direcciones ON "
-                              "T_Ganaderos.Id_Ganadero = T_Direcciones.Id_GV WHERE Id_GV <> 1", Cursor::Dinamico);
+            Recordset rs(b.c,
+                         "SELECT T_Ganaderos.*, T_Direcciones.* FROM T_Ganaderos INNER JOIN T_Direcciones ON "
+                         "T_Ganaderos.Id_Ganadero = T_Direcciones.Id_GV WHERE Id_GV <> 1",
+                         Cursor::Dinamico);
             QCOMPARE(rs.Contar(), 2L);
             QVERIFY(rs["T_Ganaderos.Id_Direccion"].Nulo());
             QCOMPARE(rs["T_Direcciones.Id_Direccion"].Numero(), 1.0);
@@ -127,7 +139,8 @@ private Q_SLOTS:
         b.Poner("T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
         b.Poner("T_Partos", {{"Id_Parto", 1.0}, {"Id_Vaca", 12001.0}, {"Id_Cebo", 4.0}});
         b.Poner("T_Partos", {{"Id_Parto", 2.0}, {"Id_Vaca", 12001.0}, {"Id_Cebo", 4.0}});
-        Recordset rs(b.c, "SELECT T_Partos.Id_Cebo, T_Vacas.Id_Ganadero, T_Partos.FechaDestete FROM T_Vacas INNER JOIN T_Partos ON "
+        Recordset rs(b.c, "SELECT T_Partos.Id_Cebo, T_Vacas.Id_Ganadero, T_Partos.FechaDestete FROM T_Vacas "
+                          "INNER JOIN T_Partos ON "
                           "T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE T_Partos.Id_Cebo = 4");
         rs["FechaDestete"] = F("1/9/2026");
         rs.Update();
@@ -147,7 +160,8 @@ private Q_SLOTS:
                          EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 2.0}}); });
                          b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
                      });
-                 }), long(CodigoError::Restriccion));
+                 }),
+                 long(CodigoError::Restriccion));
         QCOMPARE(cuenta(), std::string("2")); // done before the failure stays, and is committed
         QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
         QCOMPARE(EnGrupo(b.c, [&] { return 42; }), 42);
@@ -156,7 +170,8 @@ private Q_SLOTS:
         EnGrupo(b.c, [&] {
             b.Poner("T_Vacas", {{"Id_Vaca", 3.0}});
             sqlite3_db_cacheflush(b.c.Manejador());
-            CopiarFichero(Ruta(b.fichero), Ruta(copia)); // what a second process would find after a crash here
+            CopiarFichero(Ruta(b.fichero),
+                          Ruta(copia)); // what a second process would find after a crash here
             CopiarFichero(Ruta(b.fichero + "-journal"), Ruta(copia + "-journal"));
         });
         QCOMPARE(cuenta(), std::string("3"));
@@ -169,7 +184,10 @@ private Q_SLOTS:
         Conexion lector;
         lector.AbrirFichero(b.fichero, kClave);
         sqlite3_exec(lector.Manejador(), "BEGIN; SELECT * FROM T_Vacas", nullptr, nullptr, nullptr);
-        QCOMPARE(Numero([&] { EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 4.0}}); }); }), long(CodigoError::Bloqueada));
+        QCOMPARE(Numero([&] { EnGrupo(b.c, [&] {
+                                  b.Poner("T_Vacas", {{"Id_Vaca", 4.0}});
+                              }); }),
+                 long(CodigoError::Bloqueada));
         sqlite3_exec(lector.Manejador(), "COMMIT", nullptr, nullptr, nullptr);
         QCOMPARE(cuenta(), std::string("3"));
         EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 4.0}}); });
@@ -180,13 +198,16 @@ private Q_SLOTS:
         Base b;
         b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
         sqlite3_exec(b.c.Manejador(), "PRAGMA cache_size=5", nullptr, nullptr, nullptr);
-        sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=1", nullptr, nullptr, nullptr); // no page more than there are
-        QCOMPARE(Numero([&] {
-                     EnGrupo(b.c, [&] {
-                         for (int i = 2; i < 500; ++i)
-                             b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(4000, 'x')}});
-                     });
-                 }), long(CodigoError::DiscoOFichero));
+        sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=1", nullptr, nullptr,
+                     nullptr); // no page more than there are
+        QCOMPARE(
+            Numero([&] {
+                EnGrupo(b.c, [&] {
+                    for (int i = 2; i < 500; ++i)
+                        b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(4000, 'x')}});
+                });
+            }),
+            long(CodigoError::DiscoOFichero));
         sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=100000", nullptr, nullptr, nullptr);
         QVERIFY(!b.Texto("SELECT Id_Vaca FROM T_Vacas WHERE Id_Vaca = 1").empty());
         b.Poner("T_Vacas", {{"Id_Vaca", 501.0}});

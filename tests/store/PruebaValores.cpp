@@ -1,7 +1,7 @@
 #include "prueba.h"
 
-#include "store/Ficheros.h"
 #include "store/Errores.h"
+#include "store/Ficheros.h"
 #include "store/Valor.h"
 
 #include <QDir>
@@ -16,10 +16,23 @@ private Q_SLOTS:
     void Fechas_data() {
         QTest::addColumn<QString>("texto");
         QTest::addColumn<QString>("iso");
-        const char* casos[][2] = {{"1/1/01", "2001-01-01"}, {"31/12/49", "2049-12-31"}, {"1/1/50", "1950-01-01"},
-                                  {"29/02/2004", "2004-02-29"}, {"29/2/05", ""}, {"31/02/01", ""}, {"1/1/205", ""}, {"12/2005", ""},
-                                  {"a/b/cc", ""}, {"1/1/2005/1", ""}, {"-1/1/05", ""}, {" 5/3/2026 ", "2026-03-05"}, {"0/1/01", ""},
-                                  {"1/13/01", ""}, {"30/12/1899", "1899-12-30"}, {"1/3/2205", "2205-03-01"}, {"1/1/0050", ""}};
+        const char* casos[][2] = {{"1/1/01", "2001-01-01"},
+                                  {"31/12/49", "2049-12-31"},
+                                  {"1/1/50", "1950-01-01"},
+                                  {"29/02/2004", "2004-02-29"},
+                                  {"29/2/05", ""},
+                                  {"31/02/01", ""},
+                                  {"1/1/205", ""},
+                                  {"12/2005", ""},
+                                  {"a/b/cc", ""},
+                                  {"1/1/2005/1", ""},
+                                  {"-1/1/05", ""},
+                                  {" 5/3/2026 ", "2026-03-05"},
+                                  {"0/1/01", ""},
+                                  {"1/13/01", ""},
+                                  {"30/12/1899", "1899-12-30"},
+                                  {"1/3/2205", "2205-03-01"},
+                                  {"1/1/0050", ""}};
         for (const auto& c : casos)
             QTest::newRow(c[0]) << QString::fromUtf8(c[0]) << QString::fromUtf8(c[1]);
     }
@@ -45,11 +58,18 @@ private Q_SLOTS:
     }
     void Numeros() {
         double n = -1;
-        for (const auto& [texto, valor] : {std::pair{"2,5", 2.5}, {"2.5", 2.5}, {" 12 ", 12.0}, {"-0,5", -0.5}, {"1e3", 1000.0}, {",5", 0.5}, {"+3", 3.0}}) {
+        for (const auto& [texto, valor] : {std::pair{"2,5", 2.5},
+                                           {"2.5", 2.5},
+                                           {" 12 ", 12.0},
+                                           {"-0,5", -0.5},
+                                           {"1e3", 1000.0},
+                                           {",5", 0.5},
+                                           {"+3", 3.0}}) {
             QVERIFY2(NumeroDeTexto(texto, n), texto);
             QCOMPARE(n, valor);
         }
-        for (const char* malo : {"", " ", "doce", "1,2,3", "1.234,5", "12 x", "nan", "inf", "0x10", "++1", "1e999", "-"})
+        for (const char* malo :
+             {"", " ", "doce", "1,2,3", "1.234,5", "12 x", "nan", "inf", "0x10", "++1", "1e999", "-"})
             QVERIFY2(!NumeroDeTexto(malo, n), malo);
         QCOMPARE(TextoNumero(1200044), std::string("1200044"));
         QCOMPARE(TextoNumero(-0.0), std::string("0"));
@@ -59,7 +79,9 @@ private Q_SLOTS:
     }
     void Ficheros() {
         QTemporaryDir carpeta;
-        const auto ruta = [&](const char* n) { return Ruta(carpeta.filePath(QString::fromUtf8(n)).toStdString()); };
+        const auto ruta = [&](const char* n) {
+            return Ruta(carpeta.filePath(QString::fromUtf8(n)).toStdString());
+        };
         const auto escribir = [&](const char* n, const char* t) {
             QFile f(carpeta.filePath(QString::fromUtf8(n)));
             QVERIFY(f.open(QIODevice::WriteOnly));

@@ -12,16 +12,22 @@ namespace {
 // A record without parity is read as 999: the cow is among those of more than six calvings, never among heifers.
 constexpr double kSinParidad = 999;
 
-Recordset Leer(Conexion& c, const std::string& sql) { return {c, sql, Cursor::Keyset, Bloqueo::SoloLectura}; }
+Recordset Leer(Conexion& c, const std::string& sql) {
+    return {c, sql, Cursor::Keyset, Bloqueo::SoloLectura};
+}
 
 bool EnCategoria(double n, int categoria) {
     if (categoria <= 1)
         return n == categoria;
     switch (categoria) {
-    case MasDeSeisPartos: return n > 6;
-    case DeDosASeisPartos: return n >= 2 && n <= 6;
-    case TodasLasParidas: return n >= 1;
-    default: return false;
+    case MasDeSeisPartos:
+        return n > 6;
+    case DeDosASeisPartos:
+        return n >= 2 && n <= 6;
+    case TodasLasParidas:
+        return n >= 1;
+    default:
+        return false;
     }
 }
 
@@ -30,8 +36,9 @@ double ContarPorParidad(Conexion& c, const std::string& vacas, double añoRef, i
     for (auto rs = Leer(c, vacas); !rs.Eof(); rs.Siguiente()) {
         if (rs["Id_Vaca"].Nulo())
             continue;
-        auto paridades = Leer(c, "SELECT N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(rs["Id_Vaca"].Numero()) +
-                                     " AND Año_Ref <=" + NumeroSql(añoRef) + " ORDER BY Año_Ref, N_Parto");
+        auto paridades =
+            Leer(c, "SELECT N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(rs["Id_Vaca"].Numero()) +
+                        " AND Año_Ref <=" + NumeroSql(añoRef) + " ORDER BY Año_Ref, N_Parto");
         if (paridades.Eof())
             continue;
         paridades.Ultimo();
@@ -60,36 +67,40 @@ std::string FinDeAño(double añoRef) {
     return "30/11/" + (texto.size() > 2 ? texto.substr(texto.size() - 2) : texto);
 }
 
-double CensoVacasAFecha(Conexion& c, double idGanadero, double añoRef, std::string_view fecha, int categoria) {
+double CensoVacasAFecha(Conexion& c, double idGanadero, double añoRef, std::string_view fecha,
+                        int categoria) {
     const auto d = FechaSql2(FechaDeArgumento(fecha));
-    return ContarPorParidad(c,
-                            "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
-                                ") AND ((T_Vacas.FechaDesecho) Is Null Or (T_Vacas.FechaDesecho)>=" + d +
-                                ")) AND (FechaCompra <=" + d + " OR FechaCompra IS Null)",
-                            añoRef, categoria);
+    return ContarPorParidad(
+        c,
+        "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
+            ") AND ((T_Vacas.FechaDesecho) Is Null Or (T_Vacas.FechaDesecho)>=" + d +
+            ")) AND (FechaCompra <=" + d + " OR FechaCompra IS Null)",
+        añoRef, categoria);
 }
 
-double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio, std::string_view fechaFin, double añoRef,
-                           int categoria) {
-    return ContarPorParidad(c,
-                            "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
-                                ") AND ((T_Vacas.FechaDesecho) Is Not Null And (T_Vacas.FechaDesecho)>=" +
-                                FechaSql2(FechaDeArgumento(fechaInicio)) + " And (T_Vacas.FechaDesecho)<=" +
-                                FechaSql2(FechaDeArgumento(fechaFin)) + "))",
-                            añoRef, categoria);
+double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                           std::string_view fechaFin, double añoRef, int categoria) {
+    return ContarPorParidad(
+        c,
+        "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
+            ") AND ((T_Vacas.FechaDesecho) Is Not Null And (T_Vacas.FechaDesecho)>=" +
+            FechaSql2(FechaDeArgumento(fechaInicio)) +
+            " And (T_Vacas.FechaDesecho)<=" + FechaSql2(FechaDeArgumento(fechaFin)) + "))",
+        añoRef, categoria);
 }
 
 double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad) {
     const auto d = FechaSql2(FechaDeArgumento("30/11/" + NumeroSql(añoRef - 1)));
     double n = 0;
-    for (auto rs = Leer(c, "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
-                               ") AND ((T_Vacas.Cularidad)=" + TextoSql(cularidad) +
+    for (auto rs = Leer(c, "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" +
+                               NumeroSql(idGanadero) + ") AND ((T_Vacas.Cularidad)=" + TextoSql(cularidad) +
                                ") AND ((T_Vacas.FechaDesecho) Is Null Or (T_Vacas.FechaDesecho)>" + d + "))");
          !rs.Eof(); rs.Siguiente()) {
         if (rs["Id_Vaca"].Nulo())
             continue;
-        const auto filas = Leer(c, "SELECT N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(rs["Id_Vaca"].Numero()) +
-                                       " AND Año_Ref <=" + NumeroSql(añoRef));
+        const auto filas =
+            Leer(c, "SELECT N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(rs["Id_Vaca"].Numero()) +
+                        " AND Año_Ref <=" + NumeroSql(añoRef));
         if (!filas.Eof())
             ++n;
     }

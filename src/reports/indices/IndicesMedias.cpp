@@ -27,15 +27,21 @@ struct Ventana {
     bool Contiene(double dia) const { return inicio <= dia && dia <= fin; }
 };
 
-double Dia(const std::optional<Fecha>& f) { return f ? f->dia : 0; }
+double Dia(const std::optional<Fecha>& f) {
+    return f ? f->dia : 0;
+}
 
-std::vector<Estancia> Estancias(Conexion& c, const std::string& condicion, const std::string& teniendo, double idGanadero) {
+std::vector<Estancia> Estancias(Conexion& c, const std::string& condicion, const std::string& teniendo,
+                                double idGanadero) {
     Recordset rs(c,
-                 "SELECT T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, T_Vacas.FechaCompra, "
-                 "Max(T_Cubriciones.Fecha_Parto) AS MáxDeFecha_Parto FROM T_Vacas LEFT JOIN T_Cubriciones ON T_Vacas.Id_Vaca = "
+                 "SELECT T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, "
+                 "T_Vacas.FechaCompra, "
+                 "Max(T_Cubriciones.Fecha_Parto) AS MáxDeFecha_Parto FROM T_Vacas LEFT JOIN T_Cubriciones ON "
+                 "T_Vacas.Id_Vaca = "
                  "T_Cubriciones.Id_Vaca WHERE " +
                      condicion +
-                     " GROUP BY T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, T_Vacas.FechaCompra HAVING "
+                     " GROUP BY T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, "
+                     "T_Vacas.FechaCompra HAVING "
                      "(((T_Vacas.Id_Ganadero)=" +
                      NumeroSql(idGanadero) + ")" + teniendo + ")",
                  Cursor::Keyset, Bloqueo::SoloLectura);
@@ -55,8 +61,9 @@ double VacasMediasPartos(Conexion& c, double idGanadero, double añoRef) {
     double paridas = 0;
     double presentes = 0;
     double dias = 0;
-    for (const auto& x : Estancias(c, "((T_Cubriciones.Fecha_Parto)<=" + e + ")",
-                                   " AND ((T_Vacas.FechaBaja) Is Null Or (T_Vacas.FechaBaja)>=" + s + ")", idGanadero)) {
+    for (const auto& x :
+         Estancias(c, "((T_Cubriciones.Fecha_Parto)<=" + e + ")",
+                   " AND ((T_Vacas.FechaBaja) Is Null Or (T_Vacas.FechaBaja)>=" + s + ")", idGanadero)) {
         if (v.Contiene(x.ultimoParto))
             ++paridas;
         else if (x.baja == 0)
@@ -74,10 +81,11 @@ double VacasMediasPresentes(Conexion& c, double idGanadero, double añoRef) {
     const Ventana v(añoRef);
     const auto s = FechaSql2(FechaDeArgumento(InicioDeAño(añoRef)));
     const auto e = FechaSql2(FechaDeArgumento(FinDeAño(añoRef)));
-    const auto lista = Estancias(c, "((T_Cubriciones.Año_Ref)<=" + NumeroSql(añoRef) + ")",
-                                 " AND ((Max(T_Cubriciones.N_Parto))>0) AND ((T_Vacas.FechaBaja) Is Null Or (T_Vacas.FechaBaja)>=" +
-                                     s + ") AND ((T_Vacas.FechaCompra) Is Null Or (T_Vacas.FechaCompra)<=" + e + ")",
-                                 idGanadero);
+    const auto lista = Estancias(
+        c, "((T_Cubriciones.Año_Ref)<=" + NumeroSql(añoRef) + ")",
+        " AND ((Max(T_Cubriciones.N_Parto))>0) AND ((T_Vacas.FechaBaja) Is Null Or (T_Vacas.FechaBaja)>=" +
+            s + ") AND ((T_Vacas.FechaCompra) Is Null Or (T_Vacas.FechaCompra)<=" + e + ")",
+        idGanadero);
     double noTodoElAño = 0;
     double diasDeEntradas = 0;
     double diasDeSalidas = 0;
@@ -96,8 +104,8 @@ double VacasMediasPresentes(Conexion& c, double idGanadero, double añoRef) {
         else if (entra && sale)
             diasDeAmbas += x.baja - x.compra;
     }
-    const double media = static_cast<double>(lista.size()) - noTodoElAño + diasDeEntradas / 365.0 + diasDeSalidas / 365.0 +
-                         diasDeAmbas / 365.0;
+    const double media = static_cast<double>(lista.size()) - noTodoElAño + diasDeEntradas / 365.0 +
+                         diasDeSalidas / 365.0 + diasDeAmbas / 365.0;
     return Val(FormatoNumero(media, "######0"));
 }
 

@@ -33,18 +33,19 @@ Fecha FechaDeArgumento(std::string_view texto);
 // female without a mating record up to the year counts nowhere; one whose last record has no parity counts as of more than six.
 double CensoVacasAFecha(Conexion& c, double idGanadero, double añoRef, std::string_view fecha, int categoria);
 // Cows of the category that left from one date to the other, both included.
-double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio, std::string_view fechaFin, double añoRef,
-                           int categoria);
+double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                           std::string_view fechaFin, double añoRef, int categoria);
 // Cows of a muscling class with mating records up to the year that had not left by 30 November of the year before.
 double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad);
 
 // Calvings in the period and reference year of the parities that the criterion (">1", "=1", ">=1") picks. Twins are one calving.
-double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio, std::string_view fechaFin,
-                       std::string_view criterioParto, double añoRef);
+double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                       std::string_view fechaFin, std::string_view criterioParto, double añoRef);
 // Percentage of the year's calves whose sire is a bull of the common pool (of farmer 1), halves to even; 0 without calves.
 std::int64_t PorcentajeNacidosIA(Conexion& c, double idGanadero, double añoRef);
 // Calves of a muscling class that were alive at weaning, at 120 days or older, with more than 500 g a day: the test of all weaning figures.
-std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad);
+std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoRef,
+                                    std::string_view cularidad);
 // Abortions per cent of the year's records and last year's open ones, as text "###0". ErrorDeEjecucion 11 when there is no record.
 std::string PorcentajeAbortos(Conexion& c, double idGanadero, double añoRef);
 // Calves lost to late pregnancy: the days over 365 between calvings, less those under it, in years of 365 days; may be negative.
@@ -64,11 +65,15 @@ double VacasMediasPresentes(Conexion& c, double idGanadero, double añoRef);
 // Counts at a date, as texts. Momento is "INICIO" or "FIN" of the year.
 std::string SementalesAFecha(Conexion& c, double idGanadero, std::string_view fecha);
 // Parous cows (category 1) or heifers (0) with mating records.
-std::string HembrasAFecha(Conexion& c, double idGanadero, std::string_view fecha, int categoria, double añoRef);
+std::string HembrasAFecha(Conexion& c, double idGanadero, std::string_view fecha, int categoria,
+                          double añoRef);
 // Replacement calves under 15 calendar months. With "FIN" the date argument is moved to the next day, which its caller uses.
-std::string RecriaAFecha(Conexion& c, double idGanadero, std::string& fecha, double añoRef, std::string_view momento);
-std::string CeboAFecha(Conexion& c, double idGanadero, std::string_view fecha, double añoRef, std::string_view momento);
-std::string TernerosMamonesAFecha(Conexion& c, double idGanadero, std::string_view fecha, double añoRef, std::string_view momento);
+std::string RecriaAFecha(Conexion& c, double idGanadero, std::string& fecha, double añoRef,
+                         std::string_view momento);
+std::string CeboAFecha(Conexion& c, double idGanadero, std::string_view fecha, double añoRef,
+                       std::string_view momento);
+std::string TernerosMamonesAFecha(Conexion& c, double idGanadero, std::string_view fecha, double añoRef,
+                                  std::string_view momento);
 
 // Stocking load in livestock units at the start or the end of the year, "######0": bull 1.5, cow 1, heifer 0.8, replacement calf 0.4,
 // fattening animal 0.6. Any other Momento gives "0".

@@ -16,12 +16,16 @@ namespace {
 // Alive at weaning, at 120 days or older, with more than 500 g a day.
 constexpr const char* kDesteteValido = " AND Muere = 'No' AND GDestete > 500 AND EdadDestete >= 120";
 constexpr const char* kGanaderosVacasPartos =
-    " FROM (T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero = T_Vacas.Id_Ganadero) INNER JOIN T_Partos ON T_Vacas.Id_Vaca "
+    " FROM (T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero = T_Vacas.Id_Ganadero) INNER JOIN "
+    "T_Partos ON T_Vacas.Id_Vaca "
     "= T_Partos.Id_Vaca";
-constexpr std::array<const char*, 12> kTablas{"X_Temp", "X_Temp1", "X_Tmp3", "X_Temp2", "X_TempGraph", "X_Tmp4",
-                                              "X_Tmp5", "X_Tmp6",  "X_Tmp7", "X_Tmp8",  "X_Tmp9",      "X_Tmp10"};
+constexpr std::array<const char*, 12> kTablas{"X_Temp",      "X_Temp1", "X_Tmp3", "X_Temp2",
+                                              "X_TempGraph", "X_Tmp4",  "X_Tmp5", "X_Tmp6",
+                                              "X_Tmp7",      "X_Tmp8",  "X_Tmp9", "X_Tmp10"};
 
-double Porcentaje(double parte, double total) { return Round(parte / total * 100); }
+double Porcentaje(double parte, double total) {
+    return Round(parte / total * 100);
+}
 
 // The blocks of one farmer's report, in the order in which they are written.
 class Bloques {
@@ -38,7 +42,8 @@ public:
         TablaDeTrabajo tabla(m_c, "X_Temp");
         auto& f = tabla.Fila();
         f["C1"] = TextoNumero(m_g);
-        f["C2"] = ganadero["NombreG"].Texto() + " " + ganadero["ApellidosG"].Texto() + " - " + ganadero["Localidad"].Texto();
+        f["C2"] = ganadero["NombreG"].Texto() + " " + ganadero["ApellidosG"].Texto() + " - " +
+                  ganadero["Localidad"].Texto();
         f["C3"] = ganadero["TelefonoP"].Texto() +
                   (ganadero["TelefonoM"].Nulo() ? std::string() : " / " + ganadero["TelefonoM"].Texto());
         f["C4"] = TextoNumero(m_y);
@@ -48,7 +53,8 @@ public:
     // The heifers' figures repeat on every row: each row's label belongs to N1 and N2 alone.
     void Censo() {
         const double novillas = CensoVacasAFecha(m_c, m_g, m_y, m_fecha, NovillasEnCubricion);
-        const double novillasIdas = BajasVacasEnPeriodo(m_c, m_g, m_inicio, m_fecha, m_y, NovillasEnCubricion);
+        const double novillasIdas =
+            BajasVacasEnPeriodo(m_c, m_g, m_inicio, m_fecha, m_y, NovillasEnCubricion);
         TablaDeTrabajo tabla(m_c, "X_Temp1");
         for (const auto& [rotulo, categoria] : {std::pair{"Novillas de 1º parto", PrimerParto},
                                                 {"Vacas de 2 a 6 partos", DeDosASeisPartos},
@@ -67,7 +73,8 @@ public:
     }
 
     void Cularidades() {
-        const std::array n{CensoPorCularidad(m_c, m_g, m_y, "G-Normal"), CensoPorCularidad(m_c, m_g, m_y, "G-Aculonado"),
+        const std::array n{CensoPorCularidad(m_c, m_g, m_y, "G-Normal"),
+                           CensoPorCularidad(m_c, m_g, m_y, "G-Aculonado"),
                            CensoPorCularidad(m_c, m_g, m_y, "G-Culón")};
         const double total = n[0] + n[1] + n[2];
         TablaDeTrabajo tabla(m_c, "X_Tmp3");
@@ -82,7 +89,8 @@ public:
 
     // Calvings by month from December to November; the sums by season go to the next table.
     void PartosPorMes() {
-        constexpr std::array kMeses{"Dic", "Ene", "Feb", "Mar", "Abr", "May", "Jun", "Jul", "Ago", "Sep", "Oct", "Nov"};
+        constexpr std::array kMeses{"Dic", "Ene", "Feb", "Mar", "Abr", "May",
+                                    "Jun", "Jul", "Ago", "Sep", "Oct", "Nov"};
         TablaDeTrabajo tabla(m_c, "X_Temp2");
         const auto dos = m_fecha.substr(m_fecha.size() - 2);
         for (std::size_t i = 0; i < kMeses.size(); ++i) {
@@ -150,7 +158,8 @@ public:
             auto& f = tabla.Fila();
             f["Id_Ganadero"] = m_g;
             f["Texto"] = texto;
-            constexpr const char* kConDesviacion = "SELECT Avg(IEPc) AS Media , StDev(IEPc)  As Desv, Count(IEPc) As N";
+            constexpr const char* kConDesviacion =
+                "SELECT Avg(IEPc) AS Media , StDev(IEPc)  As Desv, Count(IEPc) As N";
             Intervalo(f, "SELECT Avg(IEPc) AS Media , Count(IEPc) As N", filtro, " AND IEPc > 0", "N", "N1");
             Intervalo(f, kConDesviacion, filtro, " AND IEPc <= 400 AND IEPc > 0", "N2", "N3");
             Intervalo(f, kConDesviacion, filtro, " AND IEPc > 400", "N5", "N6");
@@ -158,7 +167,8 @@ public:
         auto& f = tabla.Fila();
         f["Id_Ganadero"] = m_g;
         f["Texto"] = "Preñez no confirmada";
-        Recordset rs(m_c, "SELECT Count(T_Cubriciones.Id_Vaca) AS N" + CubricionesDelAño() + " AND T_Cubriciones.DatosCompletos=0");
+        Recordset rs(m_c, "SELECT Count(T_Cubriciones.Id_Vaca) AS N" + CubricionesDelAño() +
+                              " AND T_Cubriciones.DatosCompletos=0");
         f["N"] = rs.Eof() ? "( 0 )" : "( " + TextoNumero(rs["N"].Numero()) + " )";
         tabla.Cerrar();
     }
@@ -171,7 +181,8 @@ public:
              {std::pair{"Perinatal", " AND (Muere = 'Perinatal' OR Muere = 'NaceM')"},
               {"Antes de los 30 días", " AND Muere = 'Antes30d'"},
               {"Antes del Destete", " AND Muere = 'AntesD'"}}) {
-            Recordset rs(m_c, "SELECT Count(T_Ganaderos.Id_Ganadero) as N" + PartosDeGanaderoYAño() + condicion);
+            Recordset rs(m_c,
+                         "SELECT Count(T_Ganaderos.Id_Ganadero) as N" + PartosDeGanaderoYAño() + condicion);
             const double n = rs.Eof() ? 0 : rs["N"].Numero();
             total += n;
             auto& f = tabla.Fila();
@@ -217,7 +228,8 @@ private:
     }
 
     std::string CubricionesDelAño() const {
-        return " FROM T_Cubriciones INNER JOIN T_Vacas ON T_Cubriciones.Id_Vaca = T_Vacas.Id_Vaca WHERE T_Vacas.Id_Ganadero = " +
+        return " FROM T_Cubriciones INNER JOIN T_Vacas ON T_Cubriciones.Id_Vaca = T_Vacas.Id_Vaca WHERE "
+               "T_Vacas.Id_Ganadero = " +
                NumeroSql(m_g) + " AND T_Cubriciones.Año_Ref = " + NumeroSql(m_y);
     }
 
@@ -227,7 +239,8 @@ private:
     }
 
     double TernerosDestetados(const char* criterio) const {
-        return static_cast<double>(Recordset(m_c, "SELECT T_Partos.Id_Parto" + Destetados(criterio)).Contar());
+        return static_cast<double>(
+            Recordset(m_c, "SELECT T_Partos.Id_Parto" + Destetados(criterio)).Contar());
     }
 
     std::int64_t MediaDestete(const char* seleccion, const char* criterio) const {
@@ -236,8 +249,9 @@ private:
     }
 
     double TernerosCebados(const char* sexo, const char* origen) const {
-        Recordset rs(m_c, "SELECT Count(Id_Cebo) AS CuentaTerneros FROM T_Cebo WHERE Id_Ganadero = " + NumeroSql(m_g) +
-                              " AND AñoRef = " + NumeroSql(m_y) + " AND Sexo = '" + sexo + "' AND Origen = '" + origen + "'");
+        Recordset rs(m_c, "SELECT Count(Id_Cebo) AS CuentaTerneros FROM T_Cebo WHERE Id_Ganadero = " +
+                              NumeroSql(m_g) + " AND AñoRef = " + NumeroSql(m_y) + " AND Sexo = '" + sexo +
+                              "' AND Origen = '" + origen + "'");
         return rs.Eof() ? 0 : rs[0].Numero();
     }
 
@@ -265,7 +279,8 @@ private:
     void Cebo(Recordset& f) const {
         const double machos = TernerosCebados("Macho", "Propio");
         const double hembras = TernerosCebados("Hembra", "Propio");
-        const double comprados = TernerosCebados("Macho", "Comprado PostD") + TernerosCebados("Hembra", "Comprado PostD");
+        const double comprados =
+            TernerosCebados("Macho", "Comprado PostD") + TernerosCebados("Hembra", "Comprado PostD");
         const double muertes = MuertesCebo(m_c, m_g, m_y);
         const double total = machos + hembras + comprados - muertes;
         const double partos = PartosDelAño(m_c, m_g, m_y);
@@ -277,8 +292,8 @@ private:
         f["P_CEBOSHP"] = partos > 0 ? Val(FormatoNumero(total / partos * 100, "##0")) : 0.0;
     }
 
-    void Intervalo(Recordset& f, const char* seleccion, const char* filtro, const char* condicion, const char* cuenta,
-                   const char* media) const {
+    void Intervalo(Recordset& f, const char* seleccion, const char* filtro, const char* condicion,
+                   const char* cuenta, const char* media) const {
         Recordset rs(m_c, seleccion + CubricionesDelAño() + " AND " + filtro + condicion);
         if (rs.Eof())
             return;
@@ -289,26 +304,30 @@ private:
     Conexion& m_c;
     double m_g;
     double m_y;
-    std::string m_fecha;   // 30/11/yy
-    std::string m_inicio;  // 1/12/yy of the year before
+    std::string m_fecha;  // 30/11/yy
+    std::string m_inicio; // 1/12/yy of the year before
     std::string m_periodo;
     std::array<std::array<double, 2>, 4> m_estaciones{}; // cows, first calvers
 };
 
 std::string SentenciaGanaderos(const std::vector<double>& ganaderos) {
-    std::string sql =
-        "SELECT T_Ganaderos.Id_Ganadero, T_Ganaderos.Apodo, T_Ganaderos.Nombre AS NombreG, T_Ganaderos.Apellidos AS ApellidosG, "
-        "T_Direcciones.TelefonoP, T_Direcciones.TelefonoM, T_Direcciones.Localidad FROM T_Direcciones RIGHT JOIN T_Ganaderos ON "
-        "(T_Direcciones.Id_GV = T_Ganaderos.Id_Ganadero) AND (T_Direcciones.Id_Direccion = T_Ganaderos.Id_Direccion) WHERE "
-        "Id_Ganadero is not null";
+    std::string sql = "SELECT T_Ganaderos.Id_Ganadero, T_Ganaderos.Apodo, T_Ganaderos.Nombre AS NombreG, "
+                      "T_Ganaderos.Apellidos AS ApellidosG, "
+                      "T_Direcciones.TelefonoP, T_Direcciones.TelefonoM, T_Direcciones.Localidad FROM "
+                      "T_Direcciones RIGHT JOIN T_Ganaderos ON "
+                      "(T_Direcciones.Id_GV = T_Ganaderos.Id_Ganadero) AND (T_Direcciones.Id_Direccion = "
+                      "T_Ganaderos.Id_Direccion) WHERE "
+                      "Id_Ganadero is not null";
     for (std::size_t i = 0; i < ganaderos.size(); ++i)
-        sql += (i == 0 ? " AND T_Ganaderos.Id_Ganadero = " : " OR T_Ganaderos.Id_Ganadero = ") + NumeroSql(ganaderos[i]);
+        sql += (i == 0 ? " AND T_Ganaderos.Id_Ganadero = " : " OR T_Ganaderos.Id_Ganadero = ") +
+               NumeroSql(ganaderos[i]);
     return sql + " ORDER BY T_Ganaderos.Nombre, T_Ganaderos.Apellidos";
 }
 
 } // namespace
 
-void LlenarIndicesTecnicos(Conexion& c, const std::vector<double>& ganaderos, std::string_view año, const AvanceDeInforme& avance) {
+void LlenarIndicesTecnicos(Conexion& c, const std::vector<double>& ganaderos, std::string_view año,
+                           const AvanceDeInforme& avance) {
     const auto avanzar = [&](int porcentaje) {
         if (avance)
             avance(porcentaje, 100);

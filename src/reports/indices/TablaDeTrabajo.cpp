@@ -2,7 +2,9 @@
 
 namespace pastorix {
 
-void VaciarTabla(Conexion& c, std::string_view tabla) { c.Execute("DELETE FROM " + std::string(tabla)); }
+void VaciarTabla(Conexion& c, std::string_view tabla) {
+    c.Execute("DELETE FROM " + std::string(tabla));
+}
 
 TablaDeTrabajo::TablaDeTrabajo(Conexion& c, std::string_view tabla)
     : m_c(c)

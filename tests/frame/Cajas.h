@@ -1,0 +1,59 @@
+#pragma once
+
+#include "frame/Mensajes.h"
+
+#include <QList>
+#include <QStringList>
+
+namespace prueba {
+
+// Answers the boxes of one test and keeps them for it to look at. A question is answered with the next of the given answers; a box of
+// which the test does not ask at its end is a fault, so it has to call Vistas() or Ninguna().
+class Cajas {
+public:
+    Cajas() {
+        m_anterior = pastorix::InstalarRespondedor([this](const pastorix::Mensaje& mensaje) {
+            m_vistas << mensaje;
+            pastorix::Respuesta respuesta;
+            if (mensaje.clase == pastorix::Mensaje::Clase::Pregunta) {
+                if (m_respuestas.isEmpty())
+                    qCritical("question without an answer: %s", qUtf8Printable(mensaje.texto));
+                else
+                    respuesta.si = m_respuestas.takeFirst();
+            }
+            return respuesta;
+        });
+    }
+    ~Cajas() {
+        pastorix::InstalarRespondedor(m_anterior);
+        if (!m_vistas.isEmpty())
+            qCritical("box nobody looked at: %s", qUtf8Printable(Textos().join(QLatin1String(" / "))));
+    }
+    Cajas(const Cajas&) = delete;
+    Cajas& operator=(const Cajas&) = delete;
+
+    void Responder(bool si) { m_respuestas << si; }
+
+    // The boxes since the last look.
+    QList<pastorix::Mensaje> Vistas() { return std::exchange(m_vistas, {}); }
+    // Titles and texts of the boxes since the last look, "title|text" each.
+    QStringList Tomar() {
+        const QStringList textos = Textos();
+        m_vistas.clear();
+        return textos;
+    }
+
+private:
+    QStringList Textos() const {
+        QStringList textos;
+        for (const pastorix::Mensaje& m : m_vistas)
+            textos << m.titulo + QLatin1Char('|') + m.texto;
+        return textos;
+    }
+
+    QList<pastorix::Mensaje> m_vistas;
+    QList<bool> m_respuestas;
+    pastorix::Respondedor m_anterior;
+};
+
+} // namespace prueba

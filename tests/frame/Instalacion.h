@@ -1,0 +1,93 @@
+#pragma once
+
+#include "frame/Arranque.h"
+#include "frame/Entrada.h"
+#include "store/Esquema.h"
+#include "store/Recordset.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+namespace prueba {
+
+using pastorix::Conexion;
+using pastorix::Valor;
+
+using Fila = std::initializer_list<std::pair<const char*, Valor>>;
+
+inline void Insertar(Conexion& conexion, const std::string& tabla, Fila fila) {
+    pastorix::Recordset rs(conexion, "SELECT * FROM " + tabla);
+    rs.AddNew();
+    for (const auto& [campo, valor] : fila)
+        rs[campo] = valor;
+    rs.Update();
+}
+
+inline long Contar(Conexion& conexion, const std::string& tabla, const std::string& donde = {}) {
+    return pastorix::Recordset(conexion, "SELECT * FROM " + tabla + (donde.empty() ? "" : " WHERE " + donde)).Contar();
+}
+
+inline std::string Leer(Conexion& conexion, const std::string& sentencia) {
+    return pastorix::ValorDeCampo(conexion, sentencia);
+}
+
+inline Valor Texto(const char* t) { return std::string(t); }
+
+inline void Escribir(const QString& fichero, const QByteArray& bytes = "x") {
+    QFile f(fichero);
+    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size())
+        qCritical("cannot write %s", qUtf8Printable(fichero));
+}
+
+// A program's folder of its own, with the delivered files beside the program as on a first run.
+class Instalacion {
+public:
+    explicit Instalacion(bool conBases = true) {
+        if (conBases) {
+            Crear("BD_PradalC.mdb", pastorix::ClaseDeBase::Principal);
+            Crear("BD_PradalP.mdb", pastorix::ClaseDeBase::Principal);
+            Crear("Toros.mdb", pastorix::ClaseDeBase::Toros);
+        }
+        sesion.rutas = pastorix::Rutas(Carpeta());
+    }
+
+    QString Carpeta() const { return m_carpeta.path(); }
+    QString En(const char* nombre) const { return m_carpeta.filePath(QString::fromUtf8(nombre)); }
+    QStringList Contenido(const char* subcarpeta = ".") const {
+        return QDir(En(subcarpeta)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    void Crear(const char* nombre, pastorix::ClaseDeBase clase) const {
+        pastorix::CrearBase(En(nombre).toStdString(), clase, pastorix::ClaveDeBases);
+    }
+
+    // A second connection on one of the databases of a started program.
+    Conexion Abrir(const char* base) const {
+        Conexion conexion;
+        conexion.AbrirFichero((m_carpeta.path() + QStringLiteral("/Base de Datos/") + QString::fromUtf8(base)).toStdString(),
+                              pastorix::ClaveDeBases);
+        return conexion;
+    }
+
+    // Users that the login knows: a veterinarian in both databases, a central user of other name in each.
+    void PonerUsuarios() const {
+        for (const char* base : {"BD_PradalC.mdb", "BD_PradalP.mdb"}) {
+            Conexion c = Abrir(base);
+            Insertar(c, "T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", Texto("Eva")}, {"Usuario", Texto("elopez")}});
+            Insertar(c, "Claves", {{"Usuario", Texto("CENTRAL")}, {"Clave", Texto("oficina")}, {"NIVEL", Texto("CENTRAL")}});
+            Insertar(c, "Claves", {{"Usuario", Texto("AUXILIAR")}, {"Clave", Texto("otra")}, {"NIVEL", Texto("AUXILIAR")}});
+        }
+    }
+
+    pastorix::Sesion sesion;
+
+private:
+    QTemporaryDir m_carpeta;
+};
+
+} // namespace prueba
