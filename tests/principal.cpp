@@ -17,7 +17,9 @@ static QStringList& Esperados() {
     static QStringList lista;
     return lista;
 }
-void EsperarAviso(const char* trozo) { Esperados() << QString::fromUtf8(trozo); }
+void EsperarAviso(const char* trozo) {
+    Esperados() << QString::fromUtf8(trozo);
+}
 } // namespace prueba
 
 // An unexpected warning of Qt (a missing signal, a painter on nothing, a layout on top of another) is a fault that nobody would
@@ -27,8 +29,9 @@ static QtMessageHandler manejadorAnterior = nullptr;
 
 static void Manejar(QtMsgType tipo, const QMessageLogContext& contexto, const QString& texto) {
     if (tipo == QtWarningMsg || tipo == QtCriticalMsg) {
-        bool esperado = texto.contains(QLatin1String("propagateSizeHints")) || // the offscreen platform's own remarks
-                        texto.contains(QLatin1String("This plugin does not support"));
+        bool esperado =
+            texto.contains(QLatin1String("propagateSizeHints")) || // the offscreen platform's own remarks
+            texto.contains(QLatin1String("This plugin does not support"));
         for (const QString& trozo : prueba::Esperados())
             esperado = esperado || texto.contains(trozo);
         if (!esperado) {

@@ -19,5 +19,5 @@ struct Alta {
 void EsperarAviso(const char* trozo);
 } // namespace prueba
 
-#define PRUEBA(Clase)                                                                                                  \
+#define PRUEBA(Clase)                                                                                        \
     static const prueba::Alta alta_##Clase([] { return std::unique_ptr<QObject>(new Clase); });

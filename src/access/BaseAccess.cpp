@@ -81,13 +81,17 @@ bool BaseAccess::LoParece(std::span<const std::uint8_t> principio) {
 }
 
 BaseAccess BaseAccess::Abrir(const std::filesystem::path& fichero) {
-    std::error_code error;
+    std::error_code error; // its own texts are in the language of the system, not the user's
+    if (!std::filesystem::exists(fichero, error))
+        NoSeLee(error ? "no se puede llegar a él" : "no existe");
     if (!std::filesystem::is_regular_file(fichero, error))
-        NoSeLee(error ? error.message() : "no es un fichero");
+        NoSeLee("no es un fichero");
     const std::uint64_t bytes = std::filesystem::file_size(fichero, error);
     if (error)
-        NoSeLee(error.message());
+        NoSeLee("no se sabe cuánto mide");
     std::ifstream entrada(fichero, std::ios::binary);
+    if (!entrada)
+        NoSeLee("no se deja abrir");
     const auto Leer = [&entrada](std::uint8_t* donde, std::uint64_t cuantos) {
         // The stream only knows char; the bytes are the same.
         if (!entrada.read(reinterpret_cast<char*>(donde), static_cast<std::streamsize>(cuantos)))

@@ -13,11 +13,13 @@ constexpr int kNivelMaximo = 60;
 
 // Words that end a list of columns or tables and therefore cannot be a plain name; a bracketed name can be anything.
 constexpr std::array<std::string_view, 24> kReservadas{
-    "SELECT", "FROM",  "WHERE", "GROUP", "ORDER", "HAVING", "INNER",    "LEFT",     "RIGHT", "JOIN",  "ON",     "AND",
-    "OR",     "NOT",   "IS",    "NULL",  "LIKE",  "BETWEEN", "DISTINCT", "DISTINCTROW", "TOP",   "UNION", "INSERT", "INTO"};
+    "SELECT", "FROM",    "WHERE",    "GROUP",       "ORDER", "HAVING", "INNER",  "LEFT",
+    "RIGHT",  "JOIN",    "ON",       "AND",         "OR",    "NOT",    "IS",     "NULL",
+    "LIKE",   "BETWEEN", "DISTINCT", "DISTINCTROW", "TOP",   "UNION",  "INSERT", "INTO"};
 
 bool Reservada(std::string_view palabra) {
-    return std::any_of(kReservadas.begin(), kReservadas.end(), [&](std::string_view r) { return IgualSinCaso(r, palabra); });
+    return std::any_of(kReservadas.begin(), kReservadas.end(),
+                       [&](std::string_view r) { return IgualSinCaso(r, palabra); });
 }
 
 } // namespace
@@ -30,7 +32,8 @@ AnalizadorExpresiones::Nivel::Nivel(AnalizadorExpresiones& a)
     }
 }
 
-AnalizadorExpresiones::AnalizadorExpresiones(std::string_view forma, std::string_view sentencia, const Catalogo& catalogo)
+AnalizadorExpresiones::AnalizadorExpresiones(std::string_view forma, std::string_view sentencia,
+                                             const Catalogo& catalogo)
     : m_sentencia(sentencia)
     , m_catalogo(catalogo)
     , m_fichas(Fichas(forma, sentencia)) {}
@@ -76,7 +79,9 @@ std::string AnalizadorExpresiones::Nombre(const char* deQue) {
     return std::string(f.texto);
 }
 
-void AnalizadorExpresiones::Volver(std::size_t posicion) { m_i = posicion; }
+void AnalizadorExpresiones::Volver(std::size_t posicion) {
+    m_i = posicion;
+}
 
 void AnalizadorExpresiones::SaltarHasta(std::string_view palabra) {
     while (!Acabado() && !(Actual().tipo == TipoFicha::Nombre && IgualSinCaso(Actual().texto, palabra)))
@@ -114,10 +119,11 @@ const TablaCatalogo* AnalizadorExpresiones::TablaEstrella() {
 std::vector<TablaDeConsulta> AnalizadorExpresiones::TablasConLado() const {
     std::vector<TablaDeConsulta> lados;
     for (const auto* t : m_tablas) {
-        const bool porClave = !t->clave.empty() && std::all_of(t->clave.begin(), t->clave.end(), [&](const auto& c) {
-            return std::any_of(m_igualdades.begin(), m_igualdades.end(),
-                               [&](const Igualdad& i) { return i.tabla == t && i.columna->nombre == c; });
-        });
+        const bool porClave =
+            !t->clave.empty() && std::all_of(t->clave.begin(), t->clave.end(), [&](const auto& c) {
+                return std::any_of(m_igualdades.begin(), m_igualdades.end(),
+                                   [&](const Igualdad& i) { return i.tabla == t && i.columna->nombre == c; });
+            });
         lados.push_back({t, m_tablas.size() > 1 && porClave});
     }
     return lados;
@@ -144,11 +150,13 @@ AnalizadorExpresiones::Expr AnalizadorExpresiones::Expresion() {
 AnalizadorExpresiones::Expr AnalizadorExpresiones::ExpresionOAlias() {
     if (Actual().tipo == TipoFicha::Nombre || Actual().tipo == TipoFicha::Corchetes) {
         const auto nombre = Actual().texto;
-        const bool esColumna =
-            std::any_of(m_tablas.begin(), m_tablas.end(), [&](const auto* t) { return t->Buscar(nombre) >= 0; });
-        const auto alias = std::find_if(m_alias.begin(), m_alias.end(), [&](const auto& a) { return IgualSinCaso(a, nombre); });
+        const bool esColumna = std::any_of(m_tablas.begin(), m_tablas.end(),
+                                           [&](const auto* t) { return t->Buscar(nombre) >= 0; });
+        const auto alias = std::find_if(m_alias.begin(), m_alias.end(),
+                                        [&](const auto& a) { return IgualSinCaso(a, nombre); });
         const auto& sigue = m_fichas[m_i + 1];
-        if (!esColumna && alias != m_alias.end() && sigue.texto != "." && sigue.texto != "!" && sigue.texto != "(") {
+        if (!esColumna && alias != m_alias.end() && sigue.texto != "." && sigue.texto != "!" &&
+            sigue.texto != "(") {
             ++m_i;
             return {Entrecomillar(*alias)};
         }
@@ -182,13 +190,16 @@ AnalizadorExpresiones::Expr AnalizadorExpresiones::Comparacion() {
         const auto b = Concatenacion();
         return {a.sql + (no ? " NOT LIKE " : " LIKE ") + b.sql, TipoColumna::SiNo};
     }
-    const auto conOrden = [&](const Expr& b) { return EsTexto(a.tipo) || EsTexto(b.tipo) ? " COLLATE ES" : ""; };
+    const auto conOrden = [&](const Expr& b) {
+        return EsTexto(a.tipo) || EsTexto(b.tipo) ? " COLLATE ES" : "";
+    };
     if (Palabra("BETWEEN")) {
         const auto b = Concatenacion();
         Exigir("AND");
         const auto c = Concatenacion();
         const auto* collate = conOrden(b);
-        return {(no ? "NOT (" : "(") + a.sql + " >= " + b.sql + collate + " AND " + a.sql + " <= " + c.sql + collate + ")",
+        return {(no ? "NOT (" : "(") + a.sql + " >= " + b.sql + collate + " AND " + a.sql + " <= " + c.sql +
+                    collate + ")",
                 TipoColumna::SiNo};
     }
     if (no)
@@ -316,9 +327,12 @@ AnalizadorExpresiones::Expr AnalizadorExpresiones::Columna() {
     if (lugar < 0)
         Fallar(CodigoError::ColumnaDesconocida, "No existe la columna " + nombre);
     const auto& columna = tabla->columnas[static_cast<std::size_t>(lugar)];
-    return {Entrecomillar(tabla->nombre) + "." + Entrecomillar(columna.nombre), columna.tipo, tabla, &columna};
+    return {Entrecomillar(tabla->nombre) + "." + Entrecomillar(columna.nombre), columna.tipo, tabla,
+            &columna};
 }
 
-std::string AnalizadorExpresiones::ConOrden(const Expr& e) { return EsTexto(e.tipo) ? e.sql + " COLLATE ES" : e.sql; }
+std::string AnalizadorExpresiones::ConOrden(const Expr& e) {
+    return EsTexto(e.tipo) ? e.sql + " COLLATE ES" : e.sql;
+}
 
 } // namespace pastorix

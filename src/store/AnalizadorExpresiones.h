@@ -21,7 +21,7 @@ protected:
     struct Expr {
         std::string sql;
         TipoColumna tipo = TipoColumna::Otro;
-        const TablaCatalogo* tabla = nullptr;    // set, with columna, for a plain column
+        const TablaCatalogo* tabla = nullptr; // set, with columna, for a plain column
         const ColumnaTabla* columna = nullptr;
     };
 
@@ -44,7 +44,7 @@ protected:
     bool Simbolo(std::string_view simbolo);
     void Exigir(std::string_view palabra);
     void ExigirSimbolo(std::string_view simbolo);
-    std::string Nombre(const char* deQue);  // takes a name, bracketed or not
+    std::string Nombre(const char* deQue); // takes a name, bracketed or not
     std::size_t Posicion() const { return m_i; }
     void Volver(std::size_t posicion);
     void SaltarHasta(std::string_view palabra);

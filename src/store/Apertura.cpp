@@ -30,8 +30,9 @@ Principio LeerPrincipio(const fs::path& ruta) {
         return Principio::Vacio;
     if (access::BaseAccess::LoParece({reinterpret_cast<const std::uint8_t*>(bytes.data()), n}))
         return Principio::Access;
-    return std::string_view(bytes.data(), n).starts_with(std::string_view("SQLite format 3\0", 16)) ? Principio::Sqlite
-                                                                                                   : Principio::Otro;
+    return std::string_view(bytes.data(), n).starts_with(std::string_view("SQLite format 3\0", 16))
+               ? Principio::Sqlite
+               : Principio::Otro;
 }
 
 std::string PrimerTexto(sqlite3* base, const char* sql) {
@@ -61,7 +62,8 @@ void Limitar(sqlite3* base) {
 BasePropia AbrirSqlite(const fs::path& ruta, const OpcionesApertura& opciones) {
     sqlite3* cruda = nullptr;
     const int modo = opciones.soloLectura ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-    const int codigo = sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda, modo | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int codigo =
+        sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda, modo | SQLITE_OPEN_NOMUTEX, nullptr);
     BasePropia base(cruda);
     if (codigo != SQLITE_OK)
         LanzarError(cruda, codigo, {});
@@ -73,9 +75,12 @@ BasePropia AbrirSqlite(const fs::path& ruta, const OpcionesApertura& opciones) {
 
 ResultadoApertura DeCodigo(CodigoError codigo) {
     switch (codigo) {
-    case CodigoError::Bloqueada: return ResultadoApertura::Bloqueada;
-    case CodigoError::SoloLectura: return ResultadoApertura::SoloLectura;
-    default: return ResultadoApertura::Dañada;
+    case CodigoError::Bloqueada:
+        return ResultadoApertura::Bloqueada;
+    case CodigoError::SoloLectura:
+        return ResultadoApertura::SoloLectura;
+    default:
+        return ResultadoApertura::Dañada;
     }
 }
 
@@ -88,7 +93,8 @@ std::string Unir(const std::vector<std::string>& lista) {
 
 class Apertura {
 public:
-    Apertura(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones, ResultadoApertura& resultado)
+    Apertura(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones,
+             ResultadoApertura& resultado)
         : m_fichero(fichero)
         , m_ruta(Ruta(fichero))
         , m_clave(clave)
@@ -128,10 +134,14 @@ private:
     // Brings an Access file to our form; refuses whatever is no database at all.
     void Preparar() {
         switch (LeerPrincipio(m_ruta)) {
-        case Principio::Sqlite: return;
-        case Principio::Vacio: Fallar(ResultadoApertura::NoEsBase, "El fichero está vacío: " + m_fichero);
-        case Principio::Otro: Fallar(ResultadoApertura::NoEsBase, "El fichero no es una base de datos: " + m_fichero);
-        case Principio::Access: break;
+        case Principio::Sqlite:
+            return;
+        case Principio::Vacio:
+            Fallar(ResultadoApertura::NoEsBase, "El fichero está vacío: " + m_fichero);
+        case Principio::Otro:
+            Fallar(ResultadoApertura::NoEsBase, "El fichero no es una base de datos: " + m_fichero);
+        case Principio::Access:
+            break;
         }
         if (!m_opciones.trabajo)
             Fallar(ResultadoApertura::NoEsBase, "El fichero es de Access y está sin convertir: " + m_fichero);
@@ -147,18 +157,23 @@ private:
         try {
             auto base = AbrirSqlite(m_ruta, m_opciones);
             const auto sello = LeerSello(base.get(), m_clave);
-            PrimerTexto(base.get(), "SELECT count(*) FROM sqlite_schema"); // damage and locks show here, not as a missing stamp
+            PrimerTexto(
+                base.get(),
+                "SELECT count(*) FROM sqlite_schema"); // damage and locks show here, not as a missing stamp
             if (!sello.nuestra)
-                Fallar(ResultadoApertura::NoEsBase, "El fichero no es una base de datos del programa: " + m_fichero);
+                Fallar(ResultadoApertura::NoEsBase,
+                       "El fichero no es una base de datos del programa: " + m_fichero);
             if (!sello.claveCorrecta)
-                Fallar(ResultadoApertura::ClaveErronea, "La clave de la base de datos no es correcta: " + m_fichero);
+                Fallar(ResultadoApertura::ClaveErronea,
+                       "La clave de la base de datos no es correcta: " + m_fichero);
             if (m_opciones.desconfiada)
                 if (const auto mal = PrimerTexto(base.get(), "PRAGMA quick_check(1)"); mal != "ok")
-                    Fallar(ResultadoApertura::Dañada, "La base de datos está dañada: " + m_fichero + " (" + mal + ")");
+                    Fallar(ResultadoApertura::Dañada,
+                           "La base de datos está dañada: " + m_fichero + " (" + mal + ")");
             const auto d = CompararEsquema(Catalogo::DeBase(base.get()), sello.clase);
             if (!d.tablasAusentes.empty())
-                Fallar(ResultadoApertura::OtroEsquema,
-                       "A la base de datos le faltan tablas: " + Unir(d.tablasAusentes) + " (" + m_fichero + ")");
+                Fallar(ResultadoApertura::OtroEsquema, "A la base de datos le faltan tablas: " +
+                                                           Unir(d.tablasAusentes) + " (" + m_fichero + ")");
             if (!m_opciones.soloLectura && sqlite3_db_readonly(base.get(), "main") == 1) {
                 m_resultado = ResultadoApertura::SoloLectura;
                 throw ErrorAlmacen(CodigoError::SoloLectura, "El fichero es de solo lectura: " + m_fichero);
@@ -182,7 +197,9 @@ private:
 
 } // namespace
 
-void CierraBase::operator()(sqlite3* base) const { sqlite3_close_v2(base); }
+void CierraBase::operator()(sqlite3* base) const {
+    sqlite3_close_v2(base);
+}
 
 BasePropia AbrirBase(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones,
                      ResultadoApertura& resultado) {

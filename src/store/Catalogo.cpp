@@ -37,7 +37,8 @@ struct Consulta {
     Consulta(sqlite3* base, const std::string& sql) {
         if (sqlite3_prepare_v2(base, sql.c_str(), -1, &s, nullptr) != SQLITE_OK)
             throw ErrorAlmacen(CodigoError::NoSePuedeAbrir,
-                               std::string("No se puede leer el esquema de la base de datos: ") + sqlite3_errmsg(base));
+                               std::string("No se puede leer el esquema de la base de datos: ") +
+                                   sqlite3_errmsg(base));
     }
     ~Consulta() { sqlite3_finalize(s); }
     Consulta(const Consulta&) = delete;
@@ -73,14 +74,21 @@ TablaCatalogo LeerTabla(sqlite3* base, const std::string& nombre) {
 
 int CodigoDeTipo(TipoColumna tipo) {
     switch (tipo) {
-    case TipoColumna::Doble: return 5;
-    case TipoColumna::Largo: return 3;
-    case TipoColumna::Texto: return 202;
-    case TipoColumna::Memo: return 203;
+    case TipoColumna::Doble:
+        return 5;
+    case TipoColumna::Largo:
+        return 3;
+    case TipoColumna::Texto:
+        return 202;
+    case TipoColumna::Memo:
+        return 203;
     case TipoColumna::Fecha:
-    case TipoColumna::FechaHora: return 135;
-    case TipoColumna::SiNo: return 11;
-    case TipoColumna::Otro: break;
+    case TipoColumna::FechaHora:
+        return 135;
+    case TipoColumna::SiNo:
+        return 11;
+    case TipoColumna::Otro:
+        break;
     }
     return 204;
 }
@@ -96,8 +104,10 @@ Catalogo Catalogo::DeBase(sqlite3* base) {
     Catalogo c;
     std::vector<std::string> nombres;
     {
-        Consulta tablas(base, "SELECT name FROM sqlite_schema WHERE type='table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
-                              "AND name <> '_pastorix' ORDER BY rowid");
+        Consulta tablas(
+            base,
+            "SELECT name FROM sqlite_schema WHERE type='table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
+            "AND name <> '_pastorix' ORDER BY rowid");
         while (tablas.Fila())
             nombres.push_back(tablas.Texto(0));
     }

@@ -15,15 +15,21 @@ enum class TipoColumna { Doble, Largo, Texto, Memo, Fecha, FechaHora, SiNo, Otro
 // Type codes by which lists tell their columns apart: 202 text, 135 date, 5 double, 3 long, 203 memo, 11 yes/no, 204 other.
 int CodigoDeTipo(TipoColumna tipo);
 
-inline bool EsTexto(TipoColumna t) { return t == TipoColumna::Texto || t == TipoColumna::Memo; }
-inline bool EsFecha(TipoColumna t) { return t == TipoColumna::Fecha || t == TipoColumna::FechaHora; }
-inline bool EsNumero(TipoColumna t) { return t == TipoColumna::Doble || t == TipoColumna::Largo || t == TipoColumna::SiNo; }
+inline bool EsTexto(TipoColumna t) {
+    return t == TipoColumna::Texto || t == TipoColumna::Memo;
+}
+inline bool EsFecha(TipoColumna t) {
+    return t == TipoColumna::Fecha || t == TipoColumna::FechaHora;
+}
+inline bool EsNumero(TipoColumna t) {
+    return t == TipoColumna::Doble || t == TipoColumna::Largo || t == TipoColumna::SiNo;
+}
 
 struct ColumnaTabla {
-    std::string nombre;        // canonical spelling
-    std::string declaracion;   // as in CREATE TABLE: "TEXT(50)"
+    std::string nombre;      // canonical spelling
+    std::string declaracion; // as in CREATE TABLE: "TEXT(50)"
     TipoColumna tipo = TipoColumna::Otro;
-    int anchura = 0;           // characters of a text, 0 without limit
+    int anchura = 0; // characters of a text, 0 without limit
     bool noNula = false;
 };
 

@@ -19,13 +19,15 @@ namespace {
 constexpr std::size_t kPreparadasMaximo = 1000;
 
 // A literal that is put into a number column must be one, as the old databases demanded.
-void ComprobarAsignados(const Traduccion& t, const std::vector<Valor>& literales, std::string_view sentencia) {
+void ComprobarAsignados(const Traduccion& t, const std::vector<Valor>& literales,
+                        std::string_view sentencia) {
     for (const auto& [lugar, tipo] : t.asignados) {
         const auto& v = literales[static_cast<std::size_t>(lugar)];
         const auto* texto = std::get_if<std::string>(&v);
         double n = 0;
         if (texto && !NumeroDeTexto(*texto, n))
-            throw ErrorAlmacen(CodigoError::TipoInadecuado, "El texto no es un número: " + *texto, SentenciaVisible(sentencia));
+            throw ErrorAlmacen(CodigoError::TipoInadecuado, "El texto no es un número: " + *texto,
+                               SentenciaVisible(sentencia));
     }
 }
 
@@ -57,12 +59,13 @@ Conexion::~Conexion() = default;
 Conexion::Conexion(Conexion&&) noexcept = default;
 Conexion& Conexion::operator=(Conexion&&) noexcept = default;
 
-ResultadoApertura Conexion::Abrir(const OrigenesDeDatos& origenes, std::string_view cadena, std::string_view clave,
-                                  const OpcionesApertura& opciones) {
+ResultadoApertura Conexion::Abrir(const OrigenesDeDatos& origenes, std::string_view cadena,
+                                  std::string_view clave, const OpcionesApertura& opciones) {
     return AbrirFichero(origenes.Resolver(cadena).fichero, clave, opciones);
 }
 
-ResultadoApertura Conexion::AbrirFichero(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones) {
+ResultadoApertura Conexion::AbrirFichero(const std::string& fichero, std::string_view clave,
+                                         const OpcionesApertura& opciones) {
     if (m->base)
         throw ErrorAlmacen(CodigoError::ObjetoCerrado, "La conexión ya está abierta: " + m->fichero);
     m->base = AbrirBase(fichero, clave, opciones, m->resultado);
@@ -78,17 +81,26 @@ void Conexion::Cerrar() {
     m->base.reset();
 }
 
-bool Conexion::Abierta() const { return m->base != nullptr; }
-const std::string& Conexion::Fichero() const { return m->fichero; }
-ResultadoApertura Conexion::ResultadoUltimo() const { return m->resultado; }
-sqlite3* Conexion::Manejador() const { return m->base.get(); }
+bool Conexion::Abierta() const {
+    return m->base != nullptr;
+}
+const std::string& Conexion::Fichero() const {
+    return m->fichero;
+}
+ResultadoApertura Conexion::ResultadoUltimo() const {
+    return m->resultado;
+}
+sqlite3* Conexion::Manejador() const {
+    return m->base.get();
+}
 
 const Catalogo& Conexion::Esquema() const {
     m->Exigir();
     return *m->catalogo;
 }
 
-std::shared_ptr<Preparada> Conexion::Preparar(std::string_view sentencia, bool conFilas, std::vector<Valor>& literales) {
+std::shared_ptr<Preparada> Conexion::Preparar(std::string_view sentencia, bool conFilas,
+                                              std::vector<Valor>& literales) {
     m->Exigir();
     SepararLiterales(sentencia, m->forma, literales);
     if (conFilas)
@@ -97,7 +109,8 @@ std::shared_ptr<Preparada> Conexion::Preparar(std::string_view sentencia, bool c
         return it->second;
     const std::string_view forma(m->forma.data(), m->forma.size() - (conFilas ? 1 : 0));
     auto t = Traducir(forma, sentencia, *m->catalogo, conFilas);
-    auto preparada = std::make_shared<Preparada>(m->base.get(), m->catalogo, std::move(t), std::string(sentencia));
+    auto preparada =
+        std::make_shared<Preparada>(m->base.get(), m->catalogo, std::move(t), std::string(sentencia));
     if (preparada->De().clase != ClaseSentencia::Alter) {
         if (m->preparadas.size() >= kPreparadasMaximo)
             m->preparadas.clear();
@@ -111,7 +124,8 @@ long Conexion::Execute(std::string_view sentencia) {
     const auto preparada = Preparar(sentencia, false, literales);
     const auto& t = preparada->De();
     if (t.clase == ClaseSentencia::Select)
-        throw ErrorAlmacen(CodigoError::Sintaxis, "Una consulta se abre, no se ejecuta", SentenciaVisible(sentencia));
+        throw ErrorAlmacen(CodigoError::Sintaxis, "Una consulta se abre, no se ejecuta",
+                           SentenciaVisible(sentencia));
     ComprobarAsignados(t, literales, sentencia);
     auto* s = preparada->Manejador();
     for (std::size_t i = 0; i < literales.size(); ++i)
@@ -145,12 +159,14 @@ void Conexion::SalirDeGrupo() {
         return;
     // A full disk or a failing one makes SQLite undo the whole group by itself; that must not pass for a save.
     if (sqlite3_get_autocommit(m->base.get()) != 0)
-        throw ErrorAlmacen(CodigoError::DiscoOFichero, "No se ha podido guardar: la base de datos ha deshecho la operación");
+        throw ErrorAlmacen(CodigoError::DiscoOFichero,
+                           "No se ha podido guardar: la base de datos ha deshecho la operación");
     const int codigo = sqlite3_exec(m->base.get(), "COMMIT", nullptr, nullptr, nullptr);
     if (codigo != SQLITE_OK) {
         const std::string detalle = sqlite3_errmsg(m->base.get());
         sqlite3_exec(m->base.get(), "ROLLBACK", nullptr, nullptr, nullptr);
-        throw ErrorAlmacen((codigo & 0xFF) == SQLITE_BUSY ? CodigoError::Bloqueada : CodigoError::DiscoOFichero,
+        throw ErrorAlmacen((codigo & 0xFF) == SQLITE_BUSY ? CodigoError::Bloqueada
+                                                          : CodigoError::DiscoOFichero,
                            "No se ha podido guardar (" + detalle + ")");
     }
 }

@@ -22,26 +22,29 @@ class Preparada;
 class Catalogo;
 
 // How a database file is opened; every outcome but the two first is an error with its own description.
+#ifndef Q_MOC_RUN // Qt's moc stops at enumerators with an ñ, in whatever header it meets them
 enum class ResultadoApertura {
     Lista,
-    Convertida,    // it was an Access file (or stood in another column order) and has just been brought to our form
+    Convertida, // it was an Access file (or stood in another column order) and has just been brought to our form
     Ausente,
     ClaveErronea,
     NoEsBase,
     Dañada,
-    OtroEsquema,   // a sound database that lacks one of our tables
+    OtroEsquema, // a sound database that lacks one of our tables
     Bloqueada,
     SoloLectura,
 };
+#endif
 
 using AvanceDeApertura = std::function<void(int hecho, int total)>;
 
 struct OpcionesApertura {
-    bool trabajo = true;        // convert and bring to canonical order if need be; false: open as it is
+    bool trabajo = true; // convert and bring to canonical order if need be; false: open as it is
     bool soloLectura = false;
-    bool desconfiada = false;   // a file from elsewhere: checked before use, nothing in it is run
-    std::string carpetaBackup;  // where a converted original is kept; empty: folder BackUp in the file's own folder
-    AvanceDeApertura avance;    // told of the progress of a conversion
+    bool desconfiada = false; // a file from elsewhere: checked before use, nothing in it is run
+    std::string
+        carpetaBackup; // where a converted original is kept; empty: folder BackUp in the file's own folder
+    AvanceDeApertura avance; // told of the progress of a conversion
 };
 
 // One connection to one database. Not copyable; closed by its destructor. Statements are written in the dialect of the
@@ -57,7 +60,8 @@ public:
     ResultadoApertura Abrir(const OrigenesDeDatos& origenes, std::string_view cadena, std::string_view clave,
                             const OpcionesApertura& opciones = {});
     // Opens a file by its path. Throws ErrorAlmacen; ResultadoUltimo() tells which outcome it was.
-    ResultadoApertura AbrirFichero(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones = {});
+    ResultadoApertura AbrirFichero(const std::string& fichero, std::string_view clave,
+                                   const OpcionesApertura& opciones = {});
     void Cerrar();
     bool Abierta() const;
     const std::string& Fichero() const;
@@ -70,7 +74,8 @@ public:
     const Catalogo& Esquema() const;
 
     // Used by Recordset and EnGrupo only.
-    std::shared_ptr<Preparada> Preparar(std::string_view sentencia, bool conFilas, std::vector<Valor>& literales);
+    std::shared_ptr<Preparada> Preparar(std::string_view sentencia, bool conFilas,
+                                        std::vector<Valor>& literales);
     sqlite3* Manejador() const;
     void EntrarEnGrupo();
     void SalirDeGrupo();

@@ -33,7 +33,8 @@ void Ejecutar(sqlite3* base, const std::string& sql) {
 // A database that is built beside the scenes: no journal and no sync until it is whole, then one sync and a rename.
 BasePropia NuevaBase(const fs::path& ruta) {
     sqlite3* cruda = nullptr;
-    const int codigo = sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    const int codigo = sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda,
+                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     BasePropia base(cruda);
     if (codigo != SQLITE_OK)
         LanzarError(cruda, codigo, {});
@@ -51,10 +52,13 @@ void Terminar(BasePropia base, const fs::path& ruta) {
 ResultadoApertura ResultadoDe(access::ErrorAccess::Clase clase) {
     using Clase = access::ErrorAccess::Clase;
     switch (clase) {
-    case Clase::NoSeLee: return ResultadoApertura::Ausente;
+    case Clase::NoSeLee:
+        return ResultadoApertura::Ausente;
     case Clase::NoEsAccess:
-    case Clase::VersionNoTratada: return ResultadoApertura::NoEsBase;
-    case Clase::Dañado: break;
+    case Clase::VersionNoTratada:
+        return ResultadoApertura::NoEsBase;
+    case Clase::Dañado:
+        break;
     }
     return ResultadoApertura::Dañada;
 }
@@ -68,13 +72,15 @@ const access::Tabla* BuscarTabla(const BaseAccess& base, std::string_view nombre
 
 // The catalogue of bulls is told from the big databases by what it lacks: neither cows nor central users.
 ClaseDeBase ClaseDe(const BaseAccess& base) {
-    const bool grande = BuscarTabla(base, "T_Vacas") || BuscarTabla(base, "T_Cubriciones") || BuscarTabla(base, "Claves");
+    const bool grande =
+        BuscarTabla(base, "T_Vacas") || BuscarTabla(base, "T_Cubriciones") || BuscarTabla(base, "Claves");
     return !grande && BuscarTabla(base, "T_Sementales") ? ClaseDeBase::Toros : ClaseDeBase::Principal;
 }
 
 class Conversor {
 public:
-    Conversor(const BaseAccess& origen, sqlite3* destino, HojaDeConversion& hoja, const AvanceDeApertura& avance)
+    Conversor(const BaseAccess& origen, sqlite3* destino, HojaDeConversion& hoja,
+              const AvanceDeApertura& avance)
         : m_origen(origen)
         , m_destino(destino)
         , m_hoja(hoja)
@@ -106,7 +112,8 @@ private:
             if (!t.nombre.starts_with("X_") && !BuscarTabla(m_origen, t.nombre))
                 faltan += (faltan.empty() ? "" : ", ") + t.nombre;
         if (!faltan.empty())
-            throw ErrorConversion(ResultadoApertura::OtroEsquema, "A la base de datos le faltan tablas: " + faltan);
+            throw ErrorConversion(ResultadoApertura::OtroEsquema,
+                                  "A la base de datos le faltan tablas: " + faltan);
     }
 
     void Canonica(const TablaCatalogo& canonica, const access::Tabla& tabla) {
@@ -114,7 +121,8 @@ private:
         for (const auto& c : tabla.columnas)
             if (!destino.Reconocer(c)) {
                 destino.Ampliar(c);
-                m_hoja.curiosidades.push_back("La tabla " + canonica.nombre + " tiene además la columna " + c.nombre);
+                m_hoja.curiosidades.push_back("La tabla " + canonica.nombre + " tiene además la columna " +
+                                              c.nombre);
             }
         for (const auto& c : destino.SinOrigen())
             m_hoja.curiosidades.push_back("En la tabla " + canonica.nombre + " no estaba la columna " + c);
@@ -142,10 +150,12 @@ private:
         });
         linea.escritas = destino.Contar();
         if (linea.escritas != linea.leidas)
-            throw ErrorConversion(ResultadoApertura::Dañada, "La tabla " + linea.nombre + " no se ha podido copiar entera");
+            throw ErrorConversion(ResultadoApertura::Dañada,
+                                  "La tabla " + linea.nombre + " no se ha podido copiar entera");
         if (linea.leidas != linea.declaradas)
-            m_hoja.curiosidades.push_back("La tabla " + linea.nombre + " decía tener " + std::to_string(linea.declaradas) +
-                                          " registros y tiene " + std::to_string(linea.leidas));
+            m_hoja.curiosidades.push_back("La tabla " + linea.nombre + " decía tener " +
+                                          std::to_string(linea.declaradas) + " registros y tiene " +
+                                          std::to_string(linea.leidas));
         for (const auto& c : destino.Curiosidades())
             m_hoja.curiosidades.push_back(c);
         m_hoja.tablas.push_back(std::move(linea));
@@ -160,13 +170,15 @@ private:
 };
 
 // Builds the converted database under a name of its own; the caller puts it where it belongs.
-HojaDeConversion ConvertirEn(const fs::path& origen, const fs::path& nueva, std::string_view clave, const AvanceDeApertura& avance) {
+HojaDeConversion ConvertirEn(const fs::path& origen, const fs::path& nueva, std::string_view clave,
+                             const AvanceDeApertura& avance) {
     HojaDeConversion hoja;
     hoja.origen = TextoDeRuta(origen);
     try {
         const auto access = BaseAccess::Abrir(origen);
         if (access.Clave() != clave)
-            throw ErrorConversion(ResultadoApertura::ClaveErronea, "La clave de la base de datos no es correcta");
+            throw ErrorConversion(ResultadoApertura::ClaveErronea,
+                                  "La clave de la base de datos no es correcta");
         hoja.jet = access.VersionJet();
         auto base = NuevaBase(nueva);
         Conversor(access, base.get(), hoja, avance).Convertir(clave);
@@ -185,8 +197,10 @@ fs::path NombreDeBackup(const fs::path& fichero, const fs::path& carpeta, const 
     fs::create_directories(carpeta, error);
     if (error)
         throw ErrorAlmacen(CodigoError::DiscoOFichero,
-                           "No se puede crear la carpeta: " + TextoDeRuta(carpeta) + " (" + error.message() + ")");
-    const auto momento = QDateTime::currentDateTime().toString(QStringLiteral("ddMMyyyy_HHmmss")).toStdString();
+                           "No se puede crear la carpeta: " + TextoDeRuta(carpeta) + " (" + error.message() +
+                               ")");
+    const auto momento =
+        QDateTime::currentDateTime().toString(QStringLiteral("ddMMyyyy_HHmmss")).toStdString();
     const auto base = TextoDeRuta(fichero.stem()) + "_" + motivo + "_" + momento;
     auto nombre = carpeta / Ruta(base + ".mdb");
     for (int n = 2; fs::exists(nombre, error); ++n)
@@ -227,13 +241,14 @@ void CopiarCanonica(sqlite3* base, const TablaCatalogo& canonica, const TablaCat
     for (const auto& c : vieja.columnas) {
         const int lugar = canonica.Buscar(c.nombre);
         if (lugar < 0)
-            Ejecutar(base, "ALTER TABLE main." + Entrecomillar(canonica.nombre) + " ADD COLUMN " + Entrecomillar(c.nombre) + " " +
-                               TablaDestino::DeclaracionCompleta(c));
+            Ejecutar(base, "ALTER TABLE main." + Entrecomillar(canonica.nombre) + " ADD COLUMN " +
+                               Entrecomillar(c.nombre) + " " + TablaDestino::DeclaracionCompleta(c));
         const auto& nueva = lugar < 0 ? c : canonica.columnas[static_cast<std::size_t>(lugar)];
-        par(nueva.nombre, nueva.noNula ? "ifnull(" + Entrecomillar(c.nombre) + ", 0)" : Entrecomillar(c.nombre));
+        par(nueva.nombre,
+            nueva.noNula ? "ifnull(" + Entrecomillar(c.nombre) + ", 0)" : Entrecomillar(c.nombre));
     }
-    Ejecutar(base, "INSERT INTO main." + Entrecomillar(canonica.nombre) + " (" + destino + ") SELECT " + origen + " FROM vieja." +
-                       Entrecomillar(vieja.nombre) + " ORDER BY rowid");
+    Ejecutar(base, "INSERT INTO main." + Entrecomillar(canonica.nombre) + " (" + destino + ") SELECT " +
+                       origen + " FROM vieja." + Entrecomillar(vieja.nombre) + " ORDER BY rowid");
 }
 
 } // namespace
@@ -241,12 +256,13 @@ void CopiarCanonica(sqlite3* base, const TablaCatalogo& canonica, const TablaCat
 std::string HojaDeConversion::Texto() const {
     std::string t = "Fichero: " + origen + "\nFormato: Access, Jet " + std::to_string(jet) + "\n\n";
     const auto columna = [&](std::string c, std::size_t ancho, bool derecha) {
-        const auto visibles = static_cast<std::size_t>(
-            std::count_if(c.begin(), c.end(), [](char b) { return (static_cast<unsigned char>(b) & 0xC0U) != 0x80U; }));
+        const auto visibles = static_cast<std::size_t>(std::count_if(
+            c.begin(), c.end(), [](char b) { return (static_cast<unsigned char>(b) & 0xC0U) != 0x80U; }));
         const std::string blancos(ancho > visibles ? ancho - visibles : 0, ' ');
         t += derecha ? blancos + c : c + blancos;
     };
-    const auto linea = [&](const std::string& a, const std::string& b, const std::string& c, const std::string& d) {
+    const auto linea = [&](const std::string& a, const std::string& b, const std::string& c,
+                           const std::string& d) {
         columna(a, 30, false);
         columna(b, 12, true);
         columna(c, 12, true);
@@ -273,7 +289,8 @@ HojaDeConversion ConvertirAccess(const fs::path& origen, const fs::path& destino
                                  const AvanceDeApertura& avance) {
     std::error_code error;
     if (fs::exists(destino, error))
-        throw ErrorConversion(ResultadoApertura::SoloLectura, "El fichero de destino ya existe: " + TextoDeRuta(destino));
+        throw ErrorConversion(ResultadoApertura::SoloLectura,
+                              "El fichero de destino ya existe: " + TextoDeRuta(destino));
     const FicheroTemporal nueva(NombreTemporal(destino));
     auto hoja = ConvertirEn(origen, nueva.Nombre(), clave, avance);
     PonerEnSuSitio(nueva.Nombre(), destino);
@@ -291,7 +308,8 @@ void ConvertirEnSuSitio(const fs::path& fichero, std::string_view clave, const f
     PonerEnSuSitio(nueva.Nombre(), fichero);
 }
 
-void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& carpetaBackup, const AvanceDeApertura& avance) {
+void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& carpetaBackup,
+             const AvanceDeApertura& avance) {
     const FicheroTemporal nueva(NombreTemporal(fichero));
     OpcionesApertura opciones;
     opciones.trabajo = false;

@@ -30,7 +30,7 @@ struct HojaDeConversion {
         std::uint64_t declaradas = 0; // rows that the file says it has
         std::uint64_t leidas = 0;
         std::uint64_t escritas = 0;
-        bool deMas = false;           // a table the program does not know; kept all the same
+        bool deMas = false; // a table the program does not know; kept all the same
     };
     std::string origen;
     int jet = 0;
@@ -41,17 +41,17 @@ struct HojaDeConversion {
 
 // Reads an Access file into a new database of ours: canonical tables and columns first, then whatever else it holds. `destino` must
 // not exist; it appears complete or not at all. Throws ErrorConversion, or ErrorAlmacen when the disk fails.
-HojaDeConversion ConvertirAccess(const std::filesystem::path& origen, const std::filesystem::path& destino, std::string_view clave,
-                                 const AvanceDeApertura& avance = {});
+HojaDeConversion ConvertirAccess(const std::filesystem::path& origen, const std::filesystem::path& destino,
+                                 std::string_view clave, const AvanceDeApertura& avance = {});
 
 // Converts a file and puts the result in its place; the original and the sheet of what was read go to `carpetaBackup`, as
 // <name>_Access_<ddmmyyyy>_<hhmmss>. At every moment the one or the other is in place, complete.
-void ConvertirEnSuSitio(const std::filesystem::path& fichero, std::string_view clave, const std::filesystem::path& carpetaBackup,
-                        const AvanceDeApertura& avance = {});
+void ConvertirEnSuSitio(const std::filesystem::path& fichero, std::string_view clave,
+                        const std::filesystem::path& carpetaBackup, const AvanceDeApertura& avance = {});
 
 // Brings the tables of one of our own databases to canonical order in the same manner (after repairs added columns at the end, or in
 // files of other programs), so that copying by position is copying by name.
-void Ordenar(const std::filesystem::path& fichero, std::string_view clave, const std::filesystem::path& carpetaBackup,
-             const AvanceDeApertura& avance = {});
+void Ordenar(const std::filesystem::path& fichero, std::string_view clave,
+             const std::filesystem::path& carpetaBackup, const AvanceDeApertura& avance = {});
 
 } // namespace pastorix

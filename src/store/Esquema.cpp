@@ -77,13 +77,19 @@ QByteArray Resumen(const QByteArray& sal, std::string_view clave) {
 std::string LeerMeta(sqlite3* base, const char* nombre) {
     sqlite3_stmt* s = nullptr;
     std::string valor;
-    if (sqlite3_prepare_v2(base, "SELECT valor FROM _pastorix WHERE nombre = ?", -1, &s, nullptr) == SQLITE_OK) {
+    constexpr const char* kSql = "SELECT valor FROM _pastorix WHERE nombre = ?";
+    int codigo = sqlite3_prepare_v2(base, kSql, -1, &s, nullptr);
+    if (codigo == SQLITE_OK) {
         sqlite3_bind_text(s, 1, nombre, -1, SQLITE_STATIC);
-        if (sqlite3_step(s) == SQLITE_ROW)
+        codigo = sqlite3_step(s);
+        if (codigo == SQLITE_ROW)
             if (const auto* t = sqlite3_column_text(s, 0))
                 valor = reinterpret_cast<const char*>(t);
     }
     sqlite3_finalize(s);
+    // Without the table the file is simply not ours; damage and locks are something else.
+    if (codigo != SQLITE_ROW && codigo != SQLITE_DONE && codigo != SQLITE_ERROR)
+        LanzarError(base, codigo, kSql);
     return valor;
 }
 
@@ -124,8 +130,10 @@ void InicializarConexion(sqlite3* base) {
     sqlite3_create_function_v2(base, "stdev", 1, kFuncion, nullptr, nullptr, PasoStDev, FinStDev, nullptr);
     sqlite3_create_collation_v2(base, "ES", SQLITE_UTF8, nullptr, Colacion, nullptr);
     // Rollback journal: the one file is complete between two actions, whoever carries it away.
-    Ejecutar(base, "PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA synchronous=FULL; PRAGMA temp_store=MEMORY; "
-                   "PRAGMA cache_size=-16000; PRAGMA foreign_keys=OFF");
+    Ejecutar(
+        base,
+        "PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA synchronous=FULL; PRAGMA temp_store=MEMORY; "
+        "PRAGMA cache_size=-16000; PRAGMA foreign_keys=OFF");
 }
 
 void CrearTablas(sqlite3* base, ClaseDeBase clase, std::string_view clave) {
@@ -139,8 +147,8 @@ void CrearTablas(sqlite3* base, ClaseDeBase clase, std::string_view clave) {
     const auto sal = QByteArray(reinterpret_cast<const char*>(azar), sizeof azar).toHex();
     const auto sello = sal + ":" + Resumen(sal, clave);
     Ejecutar(base, "INSERT INTO _pastorix VALUES ('formato', '1'), ('clase', '" +
-                       std::string(clase == ClaseDeBase::Principal ? "principal" : "toros") + "'), ('sello', '" +
-                       sello.toStdString() + "')");
+                       std::string(clase == ClaseDeBase::Principal ? "principal" : "toros") +
+                       "'), ('sello', '" + sello.toStdString() + "')");
 }
 
 std::vector<std::string> CrearIndices(sqlite3* base, ClaseDeBase clase) {
@@ -166,7 +174,8 @@ std::vector<std::string> CrearIndices(sqlite3* base, ClaseDeBase clase) {
 SelloDeBase LeerSello(sqlite3* base, std::string_view clave) {
     SelloDeBase sello;
     sqlite3_stmt* s = nullptr;
-    if (sqlite3_prepare_v2(base, "PRAGMA application_id", -1, &s, nullptr) == SQLITE_OK && sqlite3_step(s) == SQLITE_ROW)
+    if (sqlite3_prepare_v2(base, "PRAGMA application_id", -1, &s, nullptr) == SQLITE_OK &&
+        sqlite3_step(s) == SQLITE_ROW)
         sello.nuestra = sqlite3_column_int(s, 0) == kIdentificadorAplicacion;
     sqlite3_finalize(s);
     const auto guardado = QByteArray::fromStdString(LeerMeta(base, "sello"));
@@ -215,7 +224,8 @@ DiferenciasDeEsquema CompararEsquema(const Catalogo& catalogo, ClaseDeBase clase
             if (lugar < 0)
                 d.columnasAusentes.push_back(canonica.nombre + "." + c.nombre);
             d.otroOrden = d.otroOrden || lugar != static_cast<int>(i) ||
-                          tabla->columnas[i].nombre != c.nombre || tabla->columnas[i].declaracion != c.declaracion;
+                          tabla->columnas[i].nombre != c.nombre ||
+                          tabla->columnas[i].declaracion != c.declaracion;
         }
     }
     return d;

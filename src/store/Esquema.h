@@ -36,9 +36,9 @@ void CrearBase(const std::filesystem::path& fichero, ClaseDeBase clase, std::str
 
 // What is wrong with the tables of a database, one clear line each: missing tables and columns, columns in another order.
 struct DiferenciasDeEsquema {
-    std::vector<std::string> tablasAusentes;    // of the tables that hold records
-    std::vector<std::string> columnasAusentes;  // "T_Cebo.Cambiado"
-    bool otroOrden = false;                     // something must be moved or added to reach the canonical form
+    std::vector<std::string> tablasAusentes;   // of the tables that hold records
+    std::vector<std::string> columnasAusentes; // "T_Cebo.Cambiado"
+    bool otroOrden = false;                    // something must be moved or added to reach the canonical form
 };
 DiferenciasDeEsquema CompararEsquema(const Catalogo& catalogo, ClaseDeBase clase);
 

@@ -14,7 +14,9 @@ using std::chrono::year_month_day;
 
 constexpr sys_days kOrigen{std::chrono::year{1899} / 12 / 30};
 
-year_month_day Partes(std::int32_t dia) { return year_month_day{kOrigen + std::chrono::days{dia}}; }
+year_month_day Partes(std::int32_t dia) {
+    return year_month_day{kOrigen + std::chrono::days{dia}};
+}
 
 // Digits only, at least one, at most nine.
 bool Entero(std::string_view texto, int& n) {
@@ -53,9 +55,15 @@ std::optional<Fecha> Fecha::De(int año, int mes, int diaDelMes, int hora, int m
     return Fecha{static_cast<std::int32_t>(dias), hora * 3600 + minuto * 60 + seg};
 }
 
-int Fecha::Año() const { return static_cast<int>(Partes(dia).year()); }
-int Fecha::Mes() const { return static_cast<int>(static_cast<unsigned>(Partes(dia).month())); }
-int Fecha::DiaDelMes() const { return static_cast<int>(static_cast<unsigned>(Partes(dia).day())); }
+int Fecha::Año() const {
+    return static_cast<int>(Partes(dia).year());
+}
+int Fecha::Mes() const {
+    return static_cast<int>(static_cast<unsigned>(Partes(dia).month()));
+}
+int Fecha::DiaDelMes() const {
+    return static_cast<int>(static_cast<unsigned>(Partes(dia).day()));
+}
 
 Fecha Fecha::UltimoDelMes() const {
     const auto p = Partes(dia);
@@ -133,13 +141,27 @@ std::string FormatoFecha(Fecha fecha, std::string_view mascara) {
             ++n;
         const int ancho = static_cast<int>(n);
         switch (letra) {
-        case 'd': Cifras(salida, fecha.DiaDelMes(), ancho); break;
-        case 'm': Cifras(salida, fecha.Mes(), ancho); break;
-        case 'y': Cifras(salida, ancho <= 2 ? fecha.Año() % 100 : fecha.Año(), ancho); break;
-        case 'h': Cifras(salida, fecha.segundo / 3600, ancho); break;
-        case 'n': Cifras(salida, fecha.segundo / 60 % 60, ancho); break;
-        case 's': Cifras(salida, fecha.segundo % 60, ancho); break;
-        default: salida.append(n, letra); break;
+        case 'd':
+            Cifras(salida, fecha.DiaDelMes(), ancho);
+            break;
+        case 'm':
+            Cifras(salida, fecha.Mes(), ancho);
+            break;
+        case 'y':
+            Cifras(salida, ancho <= 2 ? fecha.Año() % 100 : fecha.Año(), ancho);
+            break;
+        case 'h':
+            Cifras(salida, fecha.segundo / 3600, ancho);
+            break;
+        case 'n':
+            Cifras(salida, fecha.segundo / 60 % 60, ancho);
+            break;
+        case 's':
+            Cifras(salida, fecha.segundo % 60, ancho);
+            break;
+        default:
+            salida.append(n, letra);
+            break;
         }
         i += n;
     }

@@ -14,10 +14,11 @@ struct Fecha {
     std::int32_t segundo = 0; // seconds since midnight, 0..86399
 
     // Builds a date; empty when the parts are no real date (31/2) or the year is outside 100..9999.
-    static std::optional<Fecha> De(int año, int mes, int diaDelMes, int hora = 0, int minuto = 0, int seg = 0);
+    static std::optional<Fecha> De(int año, int mes, int diaDelMes, int hora = 0, int minuto = 0,
+                                   int seg = 0);
 
     int Año() const;
-    int Mes() const;      // 1..12
+    int Mes() const;       // 1..12
     int DiaDelMes() const; // 1..31
 
     Fecha MasDias(std::int32_t dias) const { return {dia + dias, segundo}; }

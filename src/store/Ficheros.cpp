@@ -30,12 +30,17 @@ namespace {
 
 std::string Motivo(int error) {
     switch (error) {
-    case ENOSPC: return "el disco está lleno";
+    case ENOSPC:
+        return "el disco está lleno";
     case EACCES:
-    case EPERM: return "no hay permiso";
-    case EROFS: return "la carpeta es de solo lectura";
-    case ENOENT: return "no existe";
-    default: return std::strerror(error);
+    case EPERM:
+        return "no hay permiso";
+    case EROFS:
+        return "la carpeta es de solo lectura";
+    case ENOENT:
+        return "no existe";
+    default:
+        return std::strerror(error);
     }
 }
 
@@ -72,8 +77,12 @@ void SincronizarFichero(const fs::path& fichero) {
 }
 void SincronizarCarpeta(const fs::path&) {} // the file system's own journal sees to it
 #else
-void SincronizarFichero(const fs::path& fichero) { Sincronizar(fichero, O_RDONLY); }
-void SincronizarCarpeta(const fs::path& carpeta) { Sincronizar(carpeta, O_RDONLY | O_DIRECTORY); }
+void SincronizarFichero(const fs::path& fichero) {
+    Sincronizar(fichero, O_RDONLY);
+}
+void SincronizarCarpeta(const fs::path& carpeta) {
+    Sincronizar(carpeta, O_RDONLY | O_DIRECTORY);
+}
 #endif
 
 void PonerEnSuSitio(const fs::path& nuevo, const fs::path& fichero) {

@@ -18,7 +18,8 @@ void Filas::Añadir(sqlite3_stmt* s) {
     auto* celda = m_celdas.data() + m_filas * m_columnas;
     for (int i = 0; i < static_cast<int>(m_columnas); ++i, ++celda) {
         switch (sqlite3_column_type(s, i)) {
-        case SQLITE_NULL: break;
+        case SQLITE_NULL:
+            break;
         case SQLITE_INTEGER:
             celda->clase = Celda::Clase::Entero;
             celda->entero = sqlite3_column_int64(s, i);

@@ -9,11 +9,16 @@ namespace pastorix {
 
 namespace {
 
-bool EsDigito(char c) { return c >= '0' && c <= '9'; }
-bool EsLetra(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || static_cast<unsigned char>(c) >= 0x80;
+bool EsDigito(char c) {
+    return c >= '0' && c <= '9';
 }
-bool EsBlanco(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+bool EsLetra(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+bool EsBlanco(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 class Separador {
 public:
@@ -46,7 +51,8 @@ private:
             while (m_i < m_s.size() && (EsLetra(m_s[m_i]) || EsDigito(m_s[m_i])))
                 ++m_i;
             m_forma.append(m_s.substr(inicio, m_i - inicio));
-        } else if (EsDigito(c) || (c == '.' && m_i + 1 < m_s.size() && EsDigito(m_s[m_i + 1]) && !TrasNombre())) {
+        } else if (EsDigito(c) ||
+                   (c == '.' && m_i + 1 < m_s.size() && EsDigito(m_s[m_i + 1]) && !TrasNombre())) {
             Numero();
         } else if (c == '\'') {
             Literal(Texto());
@@ -197,7 +203,8 @@ std::vector<Ficha> Fichas(std::string_view forma, std::string_view sentencia) {
             const auto dos = forma.substr(i, 2);
             const std::size_t n = dos == "<>" || dos == "<=" || dos == ">=" ? 2 : 1;
             if (std::string_view("(),.!=<>+-*/&;").find(c) == std::string_view::npos)
-                throw ErrorAlmacen(CodigoError::Sintaxis, std::string("Carácter no admitido en la sentencia: ") + c,
+                throw ErrorAlmacen(CodigoError::Sintaxis,
+                                   std::string("Carácter no admitido en la sentencia: ") + c,
                                    SentenciaVisible(sentencia));
             fichas.push_back({TipoFicha::Simbolo, forma.substr(i, n)});
             i += n;

@@ -11,7 +11,8 @@ namespace pastorix {
 
 std::string NumeroSql(double n) {
     std::array<char, 400> buffer{};
-    const auto [fin, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), n, std::chars_format::fixed);
+    const auto [fin, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), n, std::chars_format::fixed);
     return std::string(buffer.data(), error == std::errc{} ? fin : buffer.data());
 }
 
@@ -24,8 +25,14 @@ std::string TextoSql(std::string_view texto) {
     return literal;
 }
 
-std::string FechaSql2(Fecha fecha) { return "#" + FormatoFecha(fecha, "mm/dd/yy") + "#"; }
-std::string FechaSql4(Fecha fecha) { return "#" + FormatoFecha(fecha, "mm/dd/yyyy") + "#"; }
-std::string MomentoSql(Fecha fecha) { return "{ts '" + FormatoFecha(fecha, "yyyy-mm-dd") + " 00:00:00'}"; }
+std::string FechaSql2(Fecha fecha) {
+    return "#" + FormatoFecha(fecha, "mm/dd/yy") + "#";
+}
+std::string FechaSql4(Fecha fecha) {
+    return "#" + FormatoFecha(fecha, "mm/dd/yyyy") + "#";
+}
+std::string MomentoSql(Fecha fecha) {
+    return "{ts '" + FormatoFecha(fecha, "yyyy-mm-dd") + " 00:00:00'}";
+}
 
 } // namespace pastorix

@@ -22,16 +22,19 @@ std::uint32_t Huella(std::string_view nombre) {
 }
 
 // Names are nearly always ASCII with one ñ: a byte comparison settles almost all of them.
-bool MismoNombre(std::string_view a, std::string_view b) { return a == b || IgualSinCaso(a, b); }
+bool MismoNombre(std::string_view a, std::string_view b) {
+    return a == b || IgualSinCaso(a, b);
+}
 
 } // namespace
 
-Preparada::Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Traduccion traduccion, const std::string& sentencia)
+Preparada::Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Traduccion traduccion,
+                     const std::string& sentencia)
     : m_catalogo(std::move(catalogo))
     , m_traduccion(std::move(traduccion)) {
     const auto& sql = m_traduccion.sql;
-    const int codigo = sqlite3_prepare_v3(base, sql.c_str(), static_cast<int>(sql.size() + 1), SQLITE_PREPARE_PERSISTENT,
-                                          &m_sentencia, nullptr);
+    const int codigo = sqlite3_prepare_v3(base, sql.c_str(), static_cast<int>(sql.size() + 1),
+                                          SQLITE_PREPARE_PERSISTENT, &m_sentencia, nullptr);
     if (codigo != SQLITE_OK)
         LanzarError(base, codigo, sentencia);
     const auto& salida = m_traduccion.salida;
@@ -47,7 +50,9 @@ Preparada::Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Tr
     }
 }
 
-Preparada::~Preparada() { sqlite3_finalize(m_sentencia); }
+Preparada::~Preparada() {
+    sqlite3_finalize(m_sentencia);
+}
 
 int Preparada::Columna(std::string_view nombre) const {
     const auto& salida = m_traduccion.salida;
@@ -74,18 +79,37 @@ void LanzarError(sqlite3* base, int codigo, std::string_view sentencia) {
         throw ErrorAlmacen(c, texto + " (" + detalle + ")", SentenciaVisible(sentencia));
     };
     switch (codigo & 0xFF) {
-    case SQLITE_CONSTRAINT: lanzar(CodigoError::Restriccion, "El registro repite una clave o le falta un dato obligatorio"); break;
+    case SQLITE_CONSTRAINT:
+        lanzar(CodigoError::Restriccion, "El registro repite una clave o le falta un dato obligatorio");
+        break;
     case SQLITE_BUSY:
-    case SQLITE_LOCKED: lanzar(CodigoError::Bloqueada, "Otro programa tiene bloqueada la base de datos"); break;
+    case SQLITE_LOCKED:
+        lanzar(CodigoError::Bloqueada, "Otro programa tiene bloqueada la base de datos");
+        break;
     case SQLITE_READONLY:
-    case SQLITE_PERM: lanzar(CodigoError::SoloLectura, "La base de datos es de solo lectura"); break;
-    case SQLITE_FULL: lanzar(CodigoError::DiscoOFichero, "El disco está lleno"); break;
-    case SQLITE_IOERR: lanzar(CodigoError::DiscoOFichero, "Error al leer o escribir la base de datos"); break;
-    case SQLITE_CORRUPT: lanzar(CodigoError::NoSePuedeAbrir, "La base de datos está dañada"); break;
-    case SQLITE_NOTADB: lanzar(CodigoError::NoSePuedeAbrir, "El fichero no es una base de datos"); break;
-    case SQLITE_CANTOPEN: lanzar(CodigoError::NoSePuedeAbrir, "No se puede abrir el fichero de la base de datos"); break;
-    case SQLITE_MISMATCH: lanzar(CodigoError::TipoInadecuado, "El valor no es del tipo de la columna"); break;
-    default: break;
+    case SQLITE_PERM:
+        lanzar(CodigoError::SoloLectura, "La base de datos es de solo lectura");
+        break;
+    case SQLITE_FULL:
+        lanzar(CodigoError::DiscoOFichero, "El disco está lleno");
+        break;
+    case SQLITE_IOERR:
+        lanzar(CodigoError::DiscoOFichero, "Error al leer o escribir la base de datos");
+        break;
+    case SQLITE_CORRUPT:
+        lanzar(CodigoError::NoSePuedeAbrir, "La base de datos está dañada");
+        break;
+    case SQLITE_NOTADB:
+        lanzar(CodigoError::NoSePuedeAbrir, "El fichero no es una base de datos");
+        break;
+    case SQLITE_CANTOPEN:
+        lanzar(CodigoError::NoSePuedeAbrir, "No se puede abrir el fichero de la base de datos");
+        break;
+    case SQLITE_MISMATCH:
+        lanzar(CodigoError::TipoInadecuado, "El valor no es del tipo de la columna");
+        break;
+    default:
+        break;
     }
     lanzar(CodigoError::Sintaxis, "La sentencia no se puede ejecutar");
     std::abort(); // not reached: lanzar always throws

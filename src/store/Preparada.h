@@ -16,7 +16,8 @@ namespace pastorix {
 // A statement shape made ready once and run many times with other literals. Keeps the catalogue it was translated with alive.
 class Preparada {
 public:
-    Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Traduccion traduccion, const std::string& sentencia);
+    Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Traduccion traduccion,
+              const std::string& sentencia);
     ~Preparada();
     Preparada(const Preparada&) = delete;
     Preparada& operator=(const Preparada&) = delete;

@@ -36,8 +36,8 @@ private:
 };
 
 std::size_t Caracteres(std::string_view t) {
-    return static_cast<std::size_t>(
-        std::count_if(t.begin(), t.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+    return static_cast<std::size_t>(std::count_if(
+        t.begin(), t.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 // What a column keeps of an assigned value: typed numbers and dates become numbers and dates.
@@ -75,7 +75,8 @@ Valor Convertido(const Valor& v, const ColumnaTabla& c) {
             fallar("El número es demasiado grande");
         return static_cast<std::int64_t>(std::nearbyint(n)); // halves to even
     }
-    case TipoColumna::Otro: break;
+    case TipoColumna::Otro:
+        break;
     }
     return v;
 }
@@ -122,7 +123,8 @@ struct Recordset::Interior {
     }
 
     const Valor* Pendiente(int columna) const {
-        const auto it = std::find_if(pendientes.begin(), pendientes.end(), [&](const auto& p) { return p.first == columna; });
+        const auto it = std::find_if(pendientes.begin(), pendientes.end(),
+                                     [&](const auto& p) { return p.first == columna; });
         return it == pendientes.end() ? nullptr : &it->second;
     }
 
@@ -144,7 +146,8 @@ struct Recordset::Interior {
     std::int64_t FilaDe(std::size_t tabla) const {
         const auto c = filas.Leer(actual, ColumnasVisibles() + tabla);
         if (c.clase != Celda::Clase::Entero)
-            Fallar(CodigoError::SinFilaActual, "El registro no existe en la tabla " + T().tablas[tabla].tabla->nombre);
+            Fallar(CodigoError::SinFilaActual,
+                   "El registro no existe en la tabla " + T().tablas[tabla].tabla->nombre);
         return c.entero;
     }
 
@@ -169,13 +172,16 @@ struct Recordset::Interior {
             std::vector<Valor> v;
             for (const auto& [columna, valor] : pendientes)
                 if (Salida(columna).tabla == T().tablas[t].tabla) {
-                    asignaciones += (asignaciones.empty() ? "" : ", ") + Entrecomillar(Salida(columna).columna->nombre) + " = ?";
+                    asignaciones += (asignaciones.empty() ? "" : ", ") +
+                                    Entrecomillar(Salida(columna).columna->nombre) + " = ?";
                     v.push_back(valor);
                 }
             if (v.empty())
                 continue;
             v.push_back(FilaDe(t));
-            Correr("UPDATE " + Entrecomillar(T().tablas[t].tabla->nombre) + " SET " + asignaciones + " WHERE rowid = ?", v);
+            Correr("UPDATE " + Entrecomillar(T().tablas[t].tabla->nombre) + " SET " + asignaciones +
+                       " WHERE rowid = ?",
+                   v);
         }
         for (const auto& [columna, valor] : pendientes)
             filas.Poner(actual, static_cast<std::size_t>(columna), valor);
@@ -192,10 +198,12 @@ struct Recordset::Interior {
             columnas += (columnas.empty() ? "" : ", ") + Entrecomillar(Salida(p.first).columna->nombre);
             marcas += marcas.empty() ? "?" : ", ?";
         }
-        const auto sql = "INSERT INTO " + Entrecomillar(tabla.nombre) +
-                         (columnas.empty() ? " DEFAULT VALUES" : " (" + columnas + ") VALUES (" + marcas + ")");
+        const auto sql =
+            "INSERT INTO " + Entrecomillar(tabla.nombre) +
+            (columnas.empty() ? " DEFAULT VALUES" : " (" + columnas + ") VALUES (" + marcas + ")");
         auto* base = conexion->Manejador();
-        if (const int codigo = sqlite3_prepare_v2(base, sql.c_str(), static_cast<int>(sql.size()), &insercion, nullptr);
+        if (const int codigo =
+                sqlite3_prepare_v2(base, sql.c_str(), static_cast<int>(sql.size()), &insercion, nullptr);
             codigo != SQLITE_OK)
             LanzarError(base, codigo, sentencia);
     }
@@ -204,8 +212,9 @@ struct Recordset::Interior {
         const auto lugar = TablaDeMuchos();
         const auto& tabla = *T().tablas[lugar].tabla;
         for (const auto& c : tabla.clave)
-            if (std::none_of(pendientes.begin(), pendientes.end(),
-                             [&](const auto& p) { return Salida(p.first).columna->nombre == c && !EsNulo(p.second); }))
+            if (std::none_of(pendientes.begin(), pendientes.end(), [&](const auto& p) {
+                    return Salida(p.first).columna->nombre == c && !EsNulo(p.second);
+                }))
                 Fallar(CodigoError::Restriccion, "Falta un dato obligatorio: " + c);
         const bool lista = insercion && columnasInsercion.size() == pendientes.size() &&
                            std::equal(pendientes.begin(), pendientes.end(), columnasInsercion.begin(),
@@ -256,7 +265,9 @@ Recordset::Recordset(Conexion& conexion, std::string_view sentencia, Cursor, Blo
 Recordset::~Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 
-bool Recordset::Eof() const { return m->actual >= m->filas.Contar(); }
+bool Recordset::Eof() const {
+    return m->actual >= m->filas.Contar();
+}
 void Recordset::Primero() {
     CancelarCambios();
     m->actual = 0;
@@ -270,9 +281,15 @@ void Recordset::Siguiente() {
     if (!Eof())
         ++m->actual;
 }
-long Recordset::Contar() const { return static_cast<long>(m->filas.Contar()); }
-int Recordset::Campos() const { return static_cast<int>(m->ColumnasVisibles()); }
-std::string Recordset::NombreCampo(int indice) const { return m->Salida(indice).nombre; }
+long Recordset::Contar() const {
+    return static_cast<long>(m->filas.Contar());
+}
+int Recordset::Campos() const {
+    return static_cast<int>(m->ColumnasVisibles());
+}
+std::string Recordset::NombreCampo(int indice) const {
+    return m->Salida(indice).nombre;
+}
 
 Campo Recordset::operator[](std::string_view nombre) {
     const int i = m->preparada->Columna(nombre);
@@ -312,7 +329,8 @@ void Recordset::Delete() {
     m->ExigirEscritura();
     m->ExigirFila();
     const auto lugar = m->TablaDeMuchos();
-    m->Correr("DELETE FROM " + Entrecomillar(m->T().tablas[lugar].tabla->nombre) + " WHERE rowid = ?", {Valor(m->FilaDe(lugar))});
+    m->Correr("DELETE FROM " + Entrecomillar(m->T().tablas[lugar].tabla->nombre) + " WHERE rowid = ?",
+              {Valor(m->FilaDe(lugar))});
 }
 
 void Recordset::Cerrar() {
@@ -321,7 +339,9 @@ void Recordset::Cerrar() {
     CancelarCambios();
 }
 
-bool Campo::Nulo() const { return EsNulo(Leer()); }
+bool Campo::Nulo() const {
+    return EsNulo(Leer());
+}
 
 std::string_view Campo::Vista() const {
     m_r.m->ExigirFila();
@@ -333,7 +353,9 @@ std::string_view Campo::Vista() const {
     return c.clase == Celda::Clase::Texto ? m_r.m->filas.Texto(c) : std::string_view();
 }
 
-std::string Campo::Texto() const { return TextoDe(Leer()); }
+std::string Campo::Texto() const {
+    return TextoDe(Leer());
+}
 
 double Campo::Numero() const {
     m_r.m->ExigirFila();
@@ -372,10 +394,14 @@ Valor Campo::Leer() const {
         return *v;
     const auto c = m_r.m->CeldaDe(m_indice);
     switch (c.clase) {
-    case Celda::Clase::Nulo: return {};
-    case Celda::Clase::Entero: return c.entero;
-    case Celda::Clase::Real: return c.real;
-    case Celda::Clase::Texto: break;
+    case Celda::Clase::Nulo:
+        return {};
+    case Celda::Clase::Entero:
+        return c.entero;
+    case Celda::Clase::Real:
+        return c.real;
+    case Celda::Clase::Texto:
+        break;
     }
     const auto t = m_r.m->filas.Texto(c);
     if (EsFecha(m_r.m->Salida(m_indice).tipo))

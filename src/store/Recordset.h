@@ -20,10 +20,11 @@ class Recordset;
 class Campo {
 public:
     bool Nulo() const;
-    std::string Texto() const;            // "" when Null; numbers with decimal comma, dates as dd/mm/yy
-    std::string_view Vista() const;       // a text column's bytes without a copy, "" when Null; valid until the row changes
-    double Numero() const;                // 0 when Null
-    std::int64_t Entero() const;          // 0 when Null; halves to even
+    std::string Texto() const; // "" when Null; numbers with decimal comma, dates as dd/mm/yy
+    std::string_view
+    Vista() const;         // a text column's bytes without a copy, "" when Null; valid until the row changes
+    double Numero() const; // 0 when Null
+    std::int64_t Entero() const;             // 0 when Null; halves to even
     std::optional<Fecha> FechaValor() const; // empty when Null or no date
     Valor Leer() const;
 
@@ -41,7 +42,9 @@ public:
 
 private:
     friend class Recordset;
-    Campo(Recordset& r, int indice) : m_r(r), m_indice(indice) {}
+    Campo(Recordset& r, int indice)
+        : m_r(r)
+        , m_indice(indice) {}
     Recordset& m_r;
     int m_indice;
 };

@@ -57,7 +57,9 @@ ColumnaTabla ColumnaPara(const access::Columna& c) {
         break;
     case Tipo::Binario:
     case Tipo::Ole:
-    case Tipo::Otro: columna.declaracion = "BLOB"; break;
+    case Tipo::Otro:
+        columna.declaracion = "BLOB";
+        break;
     }
     return columna;
 }
@@ -74,7 +76,9 @@ TablaDestino::TablaDestino(sqlite3* base, const TablaCatalogo& canonica)
     : m_base(base)
     , m_canonica(canonica) {}
 
-TablaDestino::~TablaDestino() { sqlite3_finalize(m_insercion); }
+TablaDestino::~TablaDestino() {
+    sqlite3_finalize(m_insercion);
+}
 
 bool TablaDestino::Reconocer(const access::Columna& columna) {
     const int lugar = m_canonica.Buscar(columna.nombre);
@@ -87,8 +91,8 @@ bool TablaDestino::Reconocer(const access::Columna& columna) {
 
 void TablaDestino::Ampliar(const access::Columna& columna) {
     const auto c = ColumnaPara(columna);
-    const auto sql = "ALTER TABLE " + Entrecomillar(m_canonica.nombre) + " ADD COLUMN " + Entrecomillar(c.nombre) + " " +
-                     DeclaracionCompleta(c);
+    const auto sql = "ALTER TABLE " + Entrecomillar(m_canonica.nombre) + " ADD COLUMN " +
+                     Entrecomillar(c.nombre) + " " + DeclaracionCompleta(c);
     if (const int codigo = sqlite3_exec(m_base, sql.c_str(), nullptr, nullptr, nullptr); codigo != SQLITE_OK)
         LanzarError(m_base, codigo, sql);
     Añadir(columna);
@@ -102,7 +106,8 @@ void TablaDestino::Añadir(const access::Columna& columna) {
 std::vector<std::string> TablaDestino::SinOrigen() const {
     std::vector<std::string> lista;
     for (const auto& c : m_canonica.columnas)
-        if (std::none_of(m_destinos.begin(), m_destinos.end(), [&](const Destino& d) { return d.nombre == c.nombre; }))
+        if (std::none_of(m_destinos.begin(), m_destinos.end(),
+                         [&](const Destino& d) { return d.nombre == c.nombre; }))
             lista.push_back(c.nombre);
     return lista;
 }
@@ -114,8 +119,10 @@ void TablaDestino::Preparar() {
         columnas += (columnas.empty() ? "" : ", ") + Entrecomillar(d.nombre);
         marcas += marcas.empty() ? "?" : ", ?";
     }
-    const auto sql = "INSERT INTO " + Entrecomillar(m_canonica.nombre) + " (" + columnas + ") VALUES (" + marcas + ")";
-    if (const int codigo = sqlite3_prepare_v2(m_base, sql.c_str(), -1, &m_insercion, nullptr); codigo != SQLITE_OK)
+    const auto sql =
+        "INSERT INTO " + Entrecomillar(m_canonica.nombre) + " (" + columnas + ") VALUES (" + marcas + ")";
+    if (const int codigo = sqlite3_prepare_v2(m_base, sql.c_str(), -1, &m_insercion, nullptr);
+        codigo != SQLITE_OK)
         LanzarError(m_base, codigo, sql);
 }
 
@@ -148,9 +155,11 @@ bool TablaDestino::EnlazarCelda(int lugar, const access::Celda& celda, TipoColum
     }
     switch (tipo) {
     case TipoColumna::Doble:
-    case TipoColumna::Largo: return EnlazarNumeroEn(lugar, celda);
+    case TipoColumna::Largo:
+        return EnlazarNumeroEn(lugar, celda);
     case TipoColumna::Fecha:
-    case TipoColumna::FechaHora: return EnlazarFechaEn(lugar, celda);
+    case TipoColumna::FechaHora:
+        return EnlazarFechaEn(lugar, celda);
     case TipoColumna::SiNo:
         if (const auto* b = std::get_if<bool>(&celda)) {
             sqlite3_bind_int(m_insercion, lugar, *b ? -1 : 0);
@@ -165,7 +174,8 @@ bool TablaDestino::EnlazarCelda(int lugar, const access::Celda& celda, TipoColum
             return true;
         }
         return EnlazarTextoEn(lugar, celda);
-    default: return EnlazarTextoEn(lugar, celda);
+    default:
+        return EnlazarTextoEn(lugar, celda);
     }
 }
 
@@ -226,7 +236,8 @@ std::uint64_t TablaDestino::Contar() const {
     sqlite3_stmt* s = nullptr;
     const auto sql = "SELECT count(*) FROM " + Entrecomillar(m_canonica.nombre);
     std::uint64_t n = 0;
-    if (sqlite3_prepare_v2(m_base, sql.c_str(), -1, &s, nullptr) == SQLITE_OK && sqlite3_step(s) == SQLITE_ROW)
+    if (sqlite3_prepare_v2(m_base, sql.c_str(), -1, &s, nullptr) == SQLITE_OK &&
+        sqlite3_step(s) == SQLITE_ROW)
         n = static_cast<std::uint64_t>(sqlite3_column_int64(s, 0));
     sqlite3_finalize(s);
     return n;

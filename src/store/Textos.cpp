@@ -78,8 +78,12 @@ std::string Convertir(std::string_view texto, bool mayusculas) {
 
 } // namespace
 
-std::string Mayusculas(std::string_view texto) { return Convertir(texto, true); }
-std::string Minusculas(std::string_view texto) { return Convertir(texto, false); }
+std::string Mayusculas(std::string_view texto) {
+    return Convertir(texto, true);
+}
+std::string Minusculas(std::string_view texto) {
+    return Convertir(texto, false);
+}
 
 bool IgualSinCaso(std::string_view a, std::string_view b) {
     std::size_t i = 0;

@@ -56,12 +56,12 @@ private:
         if (Palabra("ORDER")) {
             Exigir("BY");
             cola += " ORDER BY " + Lista([this] {
-                auto e = ConOrden(ExpresionOAlias());
-                if (Palabra("DESC"))
-                    return e + " DESC";
-                Palabra("ASC");
-                return e;
-            });
+                        auto e = ConOrden(ExpresionOAlias());
+                        if (Palabra("DESC"))
+                            return e + " DESC";
+                        Palabra("ASC");
+                        return e;
+                    });
         }
         m_t.escribible = !agrupada;
         m_t.tablas = TablasConLado();
@@ -84,7 +84,8 @@ private:
                 return Entrecomillar(tabla->nombre) + ".*";
             }
             const auto e = Expresion();
-            std::string nombre = e.columna ? e.columna->nombre : "Expr" + std::to_string(1000 + expresiones++);
+            std::string nombre =
+                e.columna ? e.columna->nombre : "Expr" + std::to_string(1000 + expresiones++);
             if (Palabra("AS")) {
                 nombre = Nombre("alias");
                 AñadirAlias(nombre);
@@ -201,12 +202,15 @@ private:
         if (añadir) {
             const auto tipo = TipoDeclarado();
             if (lugar >= 0)
-                Fallar(CodigoError::Restriccion, "La tabla " + tabla.nombre + " ya tiene la columna " + nombre);
+                Fallar(CodigoError::Restriccion,
+                       "La tabla " + tabla.nombre + " ya tiene la columna " + nombre);
             m_t.sql += " ADD COLUMN " + Entrecomillar(nombre) + " " + tipo;
         } else {
             if (lugar < 0)
-                Fallar(CodigoError::ColumnaDesconocida, "La tabla " + tabla.nombre + " no tiene la columna " + nombre);
-            m_t.sql += " DROP COLUMN " + Entrecomillar(tabla.columnas[static_cast<std::size_t>(lugar)].nombre);
+                Fallar(CodigoError::ColumnaDesconocida,
+                       "La tabla " + tabla.nombre + " no tiene la columna " + nombre);
+            m_t.sql +=
+                " DROP COLUMN " + Entrecomillar(tabla.columnas[static_cast<std::size_t>(lugar)].nombre);
         }
         m_t.tablas = TablasConLado();
     }
@@ -230,7 +234,8 @@ private:
 
 } // namespace
 
-Traduccion Traducir(std::string_view forma, std::string_view sentencia, const Catalogo& catalogo, bool conFilas) {
+Traduccion Traducir(std::string_view forma, std::string_view sentencia, const Catalogo& catalogo,
+                    bool conFilas) {
     return Analizador(forma, sentencia, catalogo).Sentencia(conFilas);
 }
 

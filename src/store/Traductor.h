@@ -28,10 +28,10 @@ struct ColumnaSalida {
 
 struct Traduccion {
     ClaseSentencia clase = ClaseSentencia::Select;
-    std::string sql;                       // for SQLite, a ? per literal in the order of the statement
-    std::vector<TablaDeConsulta> tablas;   // Select: tables of FROM; others: the table that is changed
-    std::vector<ColumnaSalida> salida;     // Select
-    bool escribible = false;               // Select without grouping: each line stands for one row per table
+    std::string sql;                     // for SQLite, a ? per literal in the order of the statement
+    std::vector<TablaDeConsulta> tablas; // Select: tables of FROM; others: the table that is changed
+    std::vector<ColumnaSalida> salida;   // Select
+    bool escribible = false;             // Select without grouping: each line stands for one row per table
     // Literals that are assigned to a column of a fixed kind (Update), to be checked before they are bound.
     std::vector<std::pair<int, TipoColumna>> asignados;
 };
@@ -39,6 +39,7 @@ struct Traduccion {
 // Translates one statement shape (see Lexico.h) against the tables of a database. `conFilas` appends the row identifiers of all
 // tables to the columns of a writable Select. Throws ErrorAlmacen (Sintaxis, TablaDesconocida, ColumnaDesconocida, Restriccion)
 // naming the statement; what is not part of the dialect is refused.
-Traduccion Traducir(std::string_view forma, std::string_view sentencia, const Catalogo& catalogo, bool conFilas);
+Traduccion Traducir(std::string_view forma, std::string_view sentencia, const Catalogo& catalogo,
+                    bool conFilas);
 
 } // namespace pastorix

@@ -12,7 +12,9 @@ namespace pastorix {
 // A value of a column or a control: Null is neither 0 nor empty text.
 using Valor = std::variant<std::monostate, std::int64_t, double, Fecha, std::string>;
 
-inline bool EsNulo(const Valor& v) { return std::holds_alternative<std::monostate>(v); }
+inline bool EsNulo(const Valor& v) {
+    return std::holds_alternative<std::monostate>(v);
+}
 
 // Fallbacks of the sheets: Null reads as "" or 0. Numbers become text with a decimal comma, dates as dd/mm/yy.
 std::string TextoDe(const Valor& v);

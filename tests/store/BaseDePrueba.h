@@ -60,6 +60,8 @@ struct Base {
     }
 };
 
-inline pastorix::Fecha F(const char* texto) { return pastorix::FechaDeTexto(texto).value(); }
+inline pastorix::Fecha F(const char* texto) {
+    return pastorix::FechaDeTexto(texto).value();
+}
 
 } // namespace prueba

@@ -1,0 +1,142 @@
+#include "reports/indices/IndicesTec.h"
+
+#include "frame/calendario/Formatos.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+namespace pastorix {
+
+namespace {
+
+Recordset Leer(Conexion& c, const std::string& sql) {
+    return {c, sql, Cursor::Keyset, Bloqueo::SoloLectura};
+}
+
+std::string TextoDeCuenta(long n) {
+    return std::to_string(n);
+}
+
+int MesesDeCalendario(Fecha desde, Fecha hasta) {
+    return (hasta.Año() - desde.Año()) * 12 + hasta.Mes() - desde.Mes();
+}
+
+std::string NulaODespues(const std::string& campo, const std::string& fecha) {
+    return " AND (" + campo + " Is Null OR " + campo + " > " + fecha + ")";
+}
+
+} // namespace
+
+std::string SementalesAFecha(Conexion& c, double idGanadero, std::string_view fecha) {
+    // FechaAlta is not asked for: a bull that came after the date counts too.
+    return TextoDeCuenta(
+        Leer(c, "SELECT Id_Semental, FechaAlta, FechaBaja FROM T_Sementales WHERE Id_Ganadero = " +
+                    NumeroSql(idGanadero) + " AND (FechaBaja > " + FechaSql2(FechaDeArgumento(fecha)) +
+                    " OR FechaBaja Is Null)")
+            .Contar());
+}
+
+std::string HembrasAFecha(Conexion& c, double idGanadero, std::string_view fecha, int categoria,
+                          double añoRef) {
+    const auto d = FechaSql2(FechaDeArgumento(fecha));
+    long n = 0;
+    for (auto rs = Leer(
+             c, "SELECT T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, "
+                "T_Vacas.FechaCompra, "
+                "Max(T_Cubriciones.Fecha_Parto) AS MáxDeFecha_Parto, Max(T_Cubriciones.Año_Ref) AS "
+                "MáxDeAño_Ref, "
+                "Max(T_Cubriciones.N_Parto) AS MáxDeN_Parto FROM T_Vacas LEFT JOIN T_Cubriciones ON "
+                "T_Vacas.Id_Vaca = "
+                "T_Cubriciones.Id_Vaca WHERE ((T_Cubriciones.Fecha_Parto) Is Null Or "
+                "(T_Cubriciones.Fecha_Parto)<" +
+                    d +
+                    ") GROUP BY T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, "
+                    "T_Vacas.FechaCompra HAVING (((T_Vacas.Id_Ganadero)=" +
+                    NumeroSql(idGanadero) + ") AND ((T_Vacas.FechaBaja) Is Null Or (T_Vacas.FechaBaja)>" + d +
+                    ") AND ((T_Vacas.FechaCompra) Is Null Or (T_Vacas.FechaCompra)<" + d +
+                    ") AND ((Max(T_Cubriciones.Año_Ref))<=" + NumeroSql(añoRef) +
+                    ")) ORDER BY T_Vacas.NombreC");
+         !rs.Eof(); rs.Siguiente()) {
+        const auto paridad = rs["MáxDeN_Parto"];
+        if (paridad.Nulo())
+            continue;
+        if ((categoria == 0 && paridad.Numero() == 0) || (categoria == 1 && paridad.Numero() >= 1))
+            ++n;
+    }
+    return TextoDeCuenta(n);
+}
+
+std::string RecriaAFecha(Conexion& c, double idGanadero, std::string& fecha, double añoRef,
+                         std::string_view momento) {
+    double ultimo = 0;
+    if (momento == "INICIO")
+        ultimo = añoRef - 1;
+    if (momento == "FIN") {
+        ultimo = añoRef;
+        fecha = FormatoFecha(FechaDeArgumento(fecha).MasDias(1), "dd/mm/yy");
+    }
+    const auto d = FechaDeArgumento(fecha);
+    long n = 0;
+    for (auto rs = Leer(c, "SELECT T_Partos.Fecha_Parto FROM T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca "
+                           "= T_Partos.Id_Vaca WHERE "
+                           "T_Vacas.Id_Ganadero = " +
+                               NumeroSql(idGanadero) + " AND (T_Partos.Año_Ref = " + NumeroSql(ultimo) +
+                               " OR T_Partos.Año_Ref = " + NumeroSql(ultimo - 1) +
+                               ") AND T_Partos.DestinoTernero = 'Recría'");
+         !rs.Eof(); rs.Siguiente())
+        if (const auto nace = rs["Fecha_Parto"].FechaValor(); nace && MesesDeCalendario(*nace, d) < 15)
+            ++n;
+    return TextoDeCuenta(n);
+}
+
+std::string CeboAFecha(Conexion& c, double idGanadero, std::string_view fecha, double, std::string_view) {
+    const auto d = FechaSql2(FechaDeArgumento(fecha));
+    return TextoDeCuenta(
+        Leer(c, "SELECT Id_Cebo, FechaCebo FROM T_Cebo WHERE Id_Ganadero = " + NumeroSql(idGanadero) +
+                    " AND FechaCebo < " + d + NulaODespues("FechaSacrif", d) +
+                    NulaODespues("FechaMuerte", d) + " ORDER BY FechaCebo")
+            .Contar());
+}
+
+std::string TernerosMamonesAFecha(Conexion& c, double idGanadero, std::string_view fecha, double añoRef,
+                                  std::string_view momento) {
+    const auto d = FechaSql4(FechaDeArgumento(fecha));
+    const double año = momento == "INICIO" ? añoRef - 1 : momento == "FIN" ? añoRef : 0;
+    return TextoDeCuenta(
+        Leer(c, "SELECT T_Partos.Id_Parto FROM T_Vacas LEFT JOIN T_Partos ON T_Vacas.Id_Vaca = "
+                "T_Partos.Id_Vaca WHERE "
+                "T_Vacas.Id_Ganadero = " +
+                    NumeroSql(idGanadero) + NulaODespues("T_Vacas.FechaBaja", d) +
+                    " AND (T_Vacas.FechaCompra Is Null OR T_Vacas.FechaCompra < " + d +
+                    ") AND T_Partos.Fecha_Parto < " + d + " AND T_Partos.Año_Ref = " + NumeroSql(año) +
+                    NulaODespues("T_Partos.FechaDestete", d) + NulaODespues("T_Partos.FechaMuerte", d) +
+                    NulaODespues("T_Partos.FVentaAD", d))
+            .Contar());
+}
+
+std::string CargaUGM(Conexion& c, double idGanadero, double añoRef, std::string_view momento) {
+    std::string fin = "30/11/" + NumeroSql(añoRef);
+    const std::string inicio = "1/12/" + NumeroSql(añoRef - 1);
+    double toros = 0;
+    double vacas = 0;
+    double novillas = 0;
+    double recria = 0;
+    double cebo = 0;
+    if (momento == "INICIO") {
+        std::string fecha = inicio;
+        toros = Val(SementalesAFecha(c, idGanadero, inicio));
+        vacas = Val(HembrasAFecha(c, idGanadero, inicio, 1, añoRef));
+        novillas = Val(HembrasAFecha(c, idGanadero, inicio, 0, añoRef));
+        recria = Val(RecriaAFecha(c, idGanadero, fecha, añoRef, momento));
+        cebo = Val(CeboAFecha(c, idGanadero, inicio, añoRef, momento));
+    } else if (momento == "FIN") {
+        const auto siguiente = FormatoFecha(FechaDeArgumento(fin).MasDias(1), "dd/mm/yy");
+        toros = Val(SementalesAFecha(c, idGanadero, siguiente));
+        vacas = Val(HembrasAFecha(c, idGanadero, siguiente, 1, añoRef + 1));
+        novillas = Val(HembrasAFecha(c, idGanadero, siguiente, 0, añoRef + 1));
+        recria = Val(RecriaAFecha(c, idGanadero, fin, añoRef, momento)); // moves `fin` to 1 December
+        cebo = Val(CeboAFecha(c, idGanadero, fin, añoRef, momento));
+    }
+    return FormatoNumero(vacas + toros * 1.5 + novillas * 0.8 + recria * 0.4 + cebo * 0.6, "######0");
+}
+
+} // namespace pastorix

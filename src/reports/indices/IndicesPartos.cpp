@@ -1,0 +1,134 @@
+#include "reports/indices/IndicesTec.h"
+
+#include "frame/calendario/ErrorDeEjecucion.h"
+#include "frame/calendario/Formatos.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+namespace pastorix {
+
+namespace {
+
+constexpr const char* kVacasPartos =
+    " FROM T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca";
+constexpr const char* kCubricionesVacas =
+    " FROM T_Cubriciones INNER JOIN T_Vacas ON T_Cubriciones.Id_Vaca = T_Vacas.Id_Vaca";
+// Dead up to weaning: a death after it is no loss of this index, and a row without an entry meets neither test.
+constexpr const char* kMuertosAntesDelDestete =
+    " AND T_Partos.Muere <> 'No' AND T_Partos.Muere <> 'DespuésD'";
+
+Recordset Leer(Conexion& c, const std::string& sql) {
+    return {c, sql, Cursor::Keyset, Bloqueo::SoloLectura};
+}
+
+double Contar(Conexion& c, const std::string& sql) {
+    auto rs = Leer(c, sql);
+    return rs.Eof() ? 0 : rs[0].Numero();
+}
+
+std::string DeGanaderoYAño(double idGanadero, double añoRef) {
+    return " WHERE T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
+           " AND T_Partos.Año_Ref = " + NumeroSql(añoRef);
+}
+
+} // namespace
+
+double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                       std::string_view fechaFin, std::string_view criterioParto, double añoRef) {
+    const auto rs =
+        Leer(c, "SELECT T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto, "
+                "T_Partos.Año_Ref" +
+                    std::string(kVacasPartos) +
+                    " GROUP BY T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto, "
+                    "T_Partos.Año_Ref HAVING (((T_Vacas.Id_Ganadero)=" +
+                    NumeroSql(idGanadero) + ") AND ((T_Partos.N_Parto)" + std::string(criterioParto) +
+                    ") AND ((T_Partos.Fecha_Parto)>=" + FechaSql2(FechaDeArgumento(fechaInicio)) +
+                    " And (T_Partos.Fecha_Parto)<=" + FechaSql2(FechaDeArgumento(fechaFin)) +
+                    ") AND ((T_Partos.Año_Ref)=" + NumeroSql(añoRef) + "))");
+    return static_cast<double>(rs.Contar());
+}
+
+std::int64_t PorcentajeNacidosIA(Conexion& c, double idGanadero, double añoRef) {
+    const double terneros = Contar(c, "SELECT Count(T_Partos.N_Parto) AS NumTer" + std::string(kVacasPartos) +
+                                          DeGanaderoYAño(idGanadero, añoRef));
+    const auto deIA = Leer(c, "SELECT T_Partos.N_Parto FROM (T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca "
+                              "= T_Partos.Id_Vaca) LEFT "
+                              "JOIN T_Sementales ON T_Partos.Semental = T_Sementales.NombreC" +
+                                  DeGanaderoYAño(idGanadero, añoRef) + " AND T_Sementales.Id_Ganadero = 1");
+    if (terneros < 1)
+        return 0;
+    return AEntero(Round(static_cast<double>(deIA.Contar()) / terneros * 100.0));
+}
+
+std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoRef,
+                                    std::string_view cularidad) {
+    return Leer(c, "SELECT T_Partos.Id_Parto FROM (T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero "
+                   "= T_Vacas.Id_Ganadero) "
+                   "INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE "
+                   "(((T_Ganaderos.Id_Ganadero)=" +
+                       NumeroSql(idGanadero) + ") AND ((T_Partos.Año_Ref)=" + NumeroSql(añoRef) +
+                       ") AND ((T_Partos.Muere)='No') AND ((T_Partos.GDestete)>500) AND "
+                       "((T_Partos.EdadDestete)>=120) AND "
+                       "((T_Partos.Cularidad)=" +
+                       TextoSql(cularidad) + "))")
+        .Contar();
+}
+
+std::string PorcentajeAbortos(Conexion& c, double idGanadero, double añoRef) {
+    double total = 0;
+    double abortos = 0;
+    const auto año = NumeroSql(añoRef);
+    for (auto rs = Leer(
+             c, "SELECT T_Vacas.Id_Vaca FROM T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero = "
+                "T_Vacas.Id_Ganadero WHERE T_Ganaderos.Id_Ganadero = " +
+                    NumeroSql(idGanadero) +
+                    " AND (T_Vacas.FechaDesecho Is Null OR Year([T_Vacas]![FechaDesecho])>=" + año +
+                    ") ORDER BY T_Ganaderos.ID_GANADERO, T_Vacas.Nombre");
+         !rs.Eof(); rs.Siguiente()) {
+        const auto id = NumeroSql(rs["Id_Vaca"].Numero());
+        for (auto filas = Leer(c, "SELECT * FROM T_Cubriciones WHERE (Id_Vaca = " + id +
+                                      " AND Año_Ref = " + año + ") OR (Id_Vaca = " + id +
+                                      " AND Año_Ref = " + NumeroSql(añoRef - 1) + " AND DatosCompletos = 0)");
+             !filas.Eof(); filas.Siguiente()) {
+            ++total;
+            if (filas["Aborto"].Numero() == 1)
+                ++abortos;
+        }
+    }
+    if (total == 0)
+        throw ErrorDeEjecucion::DivisionPorCero();
+    return FormatoNumero(abortos / total * 100, "###0");
+}
+
+double PerdidaPreñezTardia(Conexion& c, double idGanadero, double añoRef) {
+    double dias = 0;
+    for (auto rs = Leer(c, "SELECT IEPc" + std::string(kCubricionesVacas) +
+                               " WHERE T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
+                               " AND T_Cubriciones.Año_Ref = " + NumeroSql(añoRef) + " AND IEPc > 0");
+         !rs.Eof(); rs.Siguiente())
+        if (const double iepc = rs["IEPc"].Numero(); iepc > 0)
+            dias += iepc - 365.0;
+    return Round(dias / 365.0, 1);
+}
+
+double TernerosMuertos(Conexion& c, double idGanadero, double añoRef) {
+    return Contar(c, "SELECT Count(T_Partos.N_Parto) AS N" + std::string(kVacasPartos) +
+                         DeGanaderoYAño(idGanadero, añoRef) + kMuertosAntesDelDestete);
+}
+
+double PartosDelAño(Conexion& c, double idGanadero, double añoRef) {
+    return Contar(c, "SELECT Count(T_Vacas.Id_Ganadero) AS N" + std::string(kVacasPartos) +
+                         DeGanaderoYAño(idGanadero, añoRef));
+}
+
+double MuertesCebo(Conexion& c, double idGanadero, double añoRef) {
+    return Contar(c,
+                  "SELECT Count(Id_Ganadero) AS N FROM T_Cebo WHERE Id_Ganadero = " + NumeroSql(idGanadero) +
+                      " AND AñoRef = " + NumeroSql(añoRef) + " And Not CausaMuerte is null");
+}
+
+double TernerosVivos(Conexion& c, double idGanadero, double añoRef) {
+    return PartosDelAño(c, idGanadero, añoRef) - TernerosMuertos(c, idGanadero, añoRef);
+}
+
+} // namespace pastorix

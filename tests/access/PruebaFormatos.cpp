@@ -1,0 +1,255 @@
+#include "Ayudas.h"
+#include "EscritorAccess.h"
+#include "prueba.h"
+
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <limits>
+
+using namespace pastorix::access;
+using namespace pastorix::access::ayudas;
+
+namespace {
+
+using Filita = std::vector<std::string>;
+
+// Rows of up to 1900 bytes in Jet 3: every number of jump bytes, offsets on both sides of each multiple of 256.
+TablaNueva ConSaltos(std::vector<Filita>& esperadas) {
+    TablaNueva tabla{"Larga", {}, {}};
+    for (int c = 0; c < 8; ++c)
+        tabla.columnas.push_back({"c" + std::to_string(c), Tipo::Texto, false, 255});
+    for (int largo = 0; largo <= 234; ++largo) {
+        FilaNueva fila;
+        Filita textos;
+        for (int c = 0; c < 8; ++c) {
+            textos.emplace_back(std::size_t((largo + 37 * c * (largo % 2)) % 235), char('a' + c));
+            fila.celdas.push_back(Crudo(textos.back()));
+        }
+        tabla.filas.push_back(fila);
+        esperadas.push_back(textos);
+    }
+    tabla.mapaPorReferencia = true;
+    return tabla;
+}
+
+// One cell of one column in a Jet 4 file, as it is shown; the error's text when it is refused.
+std::string UnaCelda(const ColumnaNueva& columna, const Bytes& celda) {
+    const Plano plano = Escribir({.tablas = {{"T", {columna}, {{{celda}}}}}});
+    try {
+        return Filas(BaseAccess::DeBytes(plano.contenido), "T").at(0).at(0);
+    } catch (const ErrorAccess& error) {
+        return error.what();
+    }
+}
+
+} // namespace
+
+class PruebaFormatos : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Both versions, plain and encoded, maps of both kinds: the same rows come out, in order, and as the outside tool has them.
+    void Versiones_data() {
+        QTest::addColumn<int>("version");
+        QTest::addColumn<uint>("llave");
+        QTest::addColumn<bool>("porReferencia");
+        QTest::newRow("Jet 4") << 4 << 0U << false;
+        QTest::newRow("Jet 4, map by reference") << 4 << 0U << true;
+        QTest::newRow("Jet 4, encoded") << 4 << 0x12345678U << false;
+        QTest::newRow("Jet 3") << 3 << 0U << false;
+        QTest::newRow("Jet 3, map by reference") << 3 << 0U << true;
+        QTest::newRow("Jet 3, encoded") << 3 << 0xFEDCBA98U << true;
+    }
+    void Versiones() {
+        QFETCH(int, version);
+        QFETCH(uint, llave);
+        QFETCH(bool, porReferencia);
+        TablaNueva tabla = TablaVariada(version);
+        tabla.mapaPorReferencia = porReferencia;
+        const Plano plano =
+            Escribir({.version = version, .llave = llave, .clave = "secreto", .tablas = {tabla}});
+        const BaseAccess base = BaseAccess::DeBytes(plano.contenido);
+        QCOMPARE(base.VersionJet(), version);
+        QCOMPARE(base.Clave(), std::string("secreto"));
+        QCOMPARE(TablaDe(base, "Pesadas").columnas[1].longitud, version == 4 ? 127 : 255);
+        const auto filas = Filas(base, "Pesadas");
+        QCOMPARE(filas.size(), TablaDe(base, "Pesadas").filasDeclaradas);
+        std::size_t f = 0;
+        for (int i = 0; i < 60; ++i) {
+            if (i % 10 == 7)
+                continue;
+            const Filita esperada{std::to_string(i), std::string(std::size_t(i), 'x'),
+                                  std::string(std::size_t(i * i * 3), char('a' + i % 26)), i % 3 ? "1" : "0",
+                                  i % 2 ? Mostrar(i / 4.0) : "@"};
+            QCOMPARE(filas.at(f++), esperada);
+        }
+        QCOMPARE(Filas(base, "Pesadas"), filas); // a second walk reads the same long values again
+    }
+
+    // The outside tool reads the written files alike (without moved rows, which it puts in another order).
+    void ComoExport() {
+        if (!HayExport())
+            QSKIP("mdb-export is not installed");
+        QTemporaryDir carpeta;
+        for (const int version : {3, 4}) {
+            TablaNueva variada = TablaVariada(version);
+            std::erase_if(variada.filas, [](const FilaNueva& f) { return f.estado == Estado::Trasladada; });
+            FicheroNuevo nuevo{.version = version, .tablas = {variada}};
+            std::vector<Filita> sinUso;
+            if (version == 3)
+                nuevo.tablas.push_back(ConSaltos(sinUso));
+            const Plano plano = Escribir(nuevo);
+            QFile fichero(carpeta.filePath(QStringLiteral("v%1.mdb").arg(version)));
+            QVERIFY(fichero.open(QIODevice::WriteOnly));
+            fichero.write(reinterpret_cast<const char*>(plano.contenido.data()),
+                          qint64(plano.contenido.size()));
+            fichero.close();
+            const std::string diferencia = CompararConExport(fichero.fileName().toStdString());
+            QVERIFY2(diferencia.empty(), diferencia.c_str());
+        }
+    }
+
+    void SaltosJet3() {
+        std::vector<Filita> esperadas;
+        const TablaNueva tabla = ConSaltos(esperadas);
+        QCOMPARE(Filas(BaseAccess::DeBytes(Escribir({.version = 3, .tablas = {tabla}}).contenido), "Larga"),
+                 esperadas);
+    }
+
+    // 255 columns make a definition of several pages; names are cut by the page limit.
+    void DefinicionLarga() {
+        for (const int version : {3, 4}) {
+            TablaNueva tabla{"Ancha", {}, {FilaNueva{}}};
+            for (int c = 0; c < 255; ++c) {
+                tabla.columnas.push_back(
+                    {"columna con nombre largo " + std::to_string(c), Tipo::Byte, false, 1});
+                tabla.filas[0].celdas.push_back(Numero(std::uint64_t(c), 1));
+            }
+            const BaseAccess base =
+                BaseAccess::DeBytes(Escribir({.version = version, .tablas = {tabla}}).contenido);
+            const auto filas = Filas(base, "Ancha");
+            for (std::size_t c = 0; c < 255; ++c) {
+                QCOMPARE(TablaDe(base, "Ancha").columnas[c].nombre, tabla.columnas[c].nombre);
+                QCOMPARE(filas.at(0)[c], std::to_string(c));
+            }
+        }
+    }
+
+    // A row that is older than its table's last columns has neither their bits nor, without variable columns, offsets.
+    void FilasAntiguas() {
+        TablaNueva tabla{"T",
+                         {{"Id", Tipo::Largo, true, 4},
+                          {"Visto", Tipo::SiNo, false, 1},
+                          {"Nombre", Tipo::Texto, false, 100}},
+                         {{{Numero(7, 4), std::nullopt, std::nullopt}, Estado::Viva, 1},
+                          {{Numero(8, 4), Bytes{1}, Utf16("")}, Estado::Viva, 3}}};
+        const auto filas = Filas(BaseAccess::DeBytes(Escribir({.tablas = {tabla}}).contenido), "T");
+        QCOMPARE(filas, (FilasMostradas{{"7", "0", "@"}, {"8", "1", ""}}));
+    }
+
+    void PaginasDeCodigos_data() {
+        QTest::addColumn<uint>("pagina");
+        QTest::addColumn<QString>("esperado"); // of the bytes F1 80 99 D0
+        QTest::newRow("western") << 1252U << QStringLiteral("ñ€™Ð");
+        QTest::newRow("central Europe") << 1250U << QStringLiteral("ń€™Đ");
+        QTest::newRow("Cyrillic") << 1251U << QStringLiteral("сЂ™Р");
+        QTest::newRow("Turkish") << 1254U << QStringLiteral("ñ€™Ğ");
+        QTest::newRow("Japanese") << 932U << QString();
+    }
+    void PaginasDeCodigos() {
+        QFETCH(uint, pagina);
+        QFETCH(QString, esperado);
+        const std::string bytes = "\xF1\x80\x99\xD0";
+        const TablaNueva tabla{bytes, {{bytes, Tipo::Texto, false, 50}}, {{{Crudo(bytes)}}}};
+        const Plano plano =
+            Escribir({.version = 3, .paginaCodigos = pagina, .clave = bytes, .tablas = {tabla}});
+        try {
+            const BaseAccess base = BaseAccess::DeBytes(plano.contenido);
+            const std::string texto = esperado.toStdString();
+            QCOMPARE(base.Clave(), texto);
+            QCOMPARE(TablaDe(base, texto).columnas[0].nombre, texto);
+            QCOMPARE(Filas(base, texto), (FilasMostradas{{texto}}));
+        } catch (const ErrorAccess& error) {
+            QVERIFY2(esperado.isEmpty() && std::string(error.what()).find("932") != std::string::npos,
+                     error.what());
+            QVERIFY(error.DeClase() == ErrorAccess::Clase::VersionNoTratada);
+        }
+    }
+
+    void Valores_data() {
+        QTest::addColumn<int>("tipo");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("esperado");
+        const auto Fila = [](const char* nombre, Tipo tipo, const Bytes& b, const char* esperado) {
+            QTest::newRow(nombre) << int(tipo)
+                                  << QByteArray(reinterpret_cast<const char*>(b.data()), qsizetype(b.size()))
+                                  << QString::fromUtf8(esperado);
+        };
+        const char* imposible = "El fichero está dañado: tabla T: una fecha no es posible (página 5).";
+        Fila("byte above 127", Tipo::Byte, {200}, "200");
+        Fila("negative integer", Tipo::Entero, Numero(0xFFFE, 2), "-2");
+        Fila("lowest long", Tipo::Largo, Numero(0x80000000U, 4), "-2147483648");
+        Fila("single", Tipo::Simple, Numero(0xBFA00000U, 4), "-1.25");
+        Fila("money", Tipo::Moneda, Numero(std::uint64_t(-12345), 8), "-1.2345");
+        Fila("lowest money", Tipo::Moneda, Numero(std::uint64_t{1} << 63, 8), "-922337203685477.5808");
+        Fila("small money", Tipo::Moneda, Numero(5, 8), "0.0005");
+        Fila("time counts forward", Tipo::FechaHora, Doble(-1.25), "1899-12-29 06:00:00");
+        Fila("rounded to the next day", Tipo::FechaHora, Doble(-1.9999999999), "1899-12-30 00:00:00");
+        Fila("rounded second", Tipo::FechaHora, Doble(1 + 19.9999 / 86400), "1899-12-31 00:00:20");
+        Fila("first date", Tipo::FechaHora, Doble(-657434), "0100-01-01 00:00:00");
+        Fila("last date", Tipo::FechaHora, Doble(2958465.5), "9999-12-31 12:00:00");
+        Fila("too early", Tipo::FechaHora, Doble(-657434.5), imposible);
+        Fila("too late", Tipo::FechaHora, Doble(2958466), imposible);
+        Fila("rounded out of the calendar", Tipo::FechaHora, Doble(std::nextafter(2958466, 0)), imposible);
+        Fila("no date", Tipo::FechaHora, Doble(std::numeric_limits<double>::quiet_NaN()), imposible);
+        Fila("binary", Tipo::Binario, {0, 255, 16}, "00ff10");
+        Fila("guid", Tipo::Guid,
+             {0x33, 0x22, 0x11, 0x00, 0x55, 0x44, 0x77, 0x66, 8, 9, 10, 11, 12, 13, 14, 15},
+             "{00112233-4455-6677-0809-0A0B0C0D0E0F}");
+        // 2^32 + 2 and two decimals; the highest word comes first.
+        Fila("decimal", Tipo::Decimal, {0x80, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0},
+             "-42949672.98");
+        Fila("greatest decimal", Tipo::Decimal, Bytes(17, 0xFF), "-3402823669209384634633746074317682114.55");
+        Fila("decimal zero", Tipo::Decimal, Bytes(17), "0.00");
+        Fila("unknown type", Tipo(19), {1, 2}, "0102");
+        Fila("plain text", Tipo::Texto, Utf16("Añó €😀"), "Añó €😀");
+        Fila("text of odd length", Tipo::Texto, {'a', 0, 'b'}, "a");
+        Fila("half a pair", Tipo::Texto, {0x3D, 0xD8, 'b', 0},
+             "\xEF\xBF\xBD"
+             "b");
+        Fila("compressed", Tipo::Texto, {0xFF, 0xFE, 'A', 0xF1, 'o'}, "Año");
+        Fila("changing over", Tipo::Texto, {0xFF, 0xFE, 'a', 0, 0xAC, 0x20, 0x22, 0x21, 0, 'b', 0xF1},
+             "a€™bñ");
+        Fila("lone byte of wide text", Tipo::Texto, {0xFF, 0xFE, 0, 0xAC, 0x20, 0x22}, "€");
+        Fila("compressed memo", Tipo::Memo, {0xFF, 0xFE, 'A', 0xF1, 'o'}, "Año");
+        Fila("too short for its type", Tipo::Doble, {1, 2, 3},
+             "El fichero está dañado: tabla T: un dato se sale de su sitio (página 5).");
+    }
+    void Valores() {
+        QFETCH(int, tipo);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, esperado);
+        const ColumnaNueva columna{"C", Tipo(tipo), false, 50, -1, 2};
+        QCOMPARE(QString::fromStdString(UnaCelda(columna, Bytes(bytes.begin(), bytes.end()))), esperado);
+    }
+
+    // What the catalogue names beside user tables is not shown; a file must not name a table twice.
+    void Catalogo() {
+        const std::vector<ColumnaNueva> una{{"C", Tipo::Byte, true, 1}};
+        const Plano plano = Escribir({.tablas = {{"Visible", una, {}},
+                                                 {"Oculta", una, {}, 8},
+                                                 {"DelDiseño", una, {}, 2},
+                                                 {"DelMotor", una, {}, std::int32_t(0x80000000U)},
+                                                 {"~TMP1", una, {}}}});
+        QStringList nombres;
+        for (const BaseAccess base = BaseAccess::DeBytes(plano.contenido); const Tabla& t : base.Tablas())
+            nombres << QString::fromStdString(t.nombre);
+        QCOMPARE(nombres, QStringList({"Visible", "Oculta"}));
+        const Plano doble = Escribir({.tablas = {{"Año", una, {}}, {"AÑO", una, {}}}});
+        QVERIFY_THROWS_EXCEPTION(ErrorAccess, BaseAccess::DeBytes(doble.contenido));
+    }
+};
+
+PRUEBA(PruebaFormatos)
+#include "PruebaFormatos.moc"

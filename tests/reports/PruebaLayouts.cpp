@@ -1,0 +1,166 @@
+#include "prueba.h"
+
+#include "DatosDeEjemplo.h"
+#include "reports/motor/Dibujante.h"
+#include "reports/motor/ErrorInforme.h"
+#include "reports/motor/LectorDisposicion.h"
+#include "reports/motor/Pdf.h"
+
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+
+using namespace pastorix;
+
+namespace {
+
+Disposicion Layout(const char* fichero) {
+    return LeerDisposicionDeFichero(std::string(PASTORIX_LAYOUTS) + "/" + fichero);
+}
+
+InformeTerminado Hacer(const char* fichero, const FuenteDeTablas& fuente, const char* titulo) {
+    PeticionInforme peticion;
+    peticion.titulo = QString::fromUtf8(titulo);
+    return GenerarInforme(Layout(fichero), fuente, peticion);
+}
+
+// The texts of a page in the order in which they are read: by lines from the top, in a line from the left.
+QString Leida(const Pagina& pagina) {
+    std::vector<const TextoColocado*> textos;
+    for (const Trozo& trozo : pagina.trozos) {
+        if (const auto* texto = std::get_if<TextoColocado>(&trozo))
+            textos.push_back(texto);
+    }
+    std::stable_sort(textos.begin(), textos.end(), [](const auto* a, const auto* b) {
+        const auto lineaA = qRound(a->base.y());
+        const auto lineaB = qRound(b->base.y());
+        return lineaA != lineaB ? lineaA < lineaB : a->base.x() < b->base.x();
+    });
+    QStringList leidos;
+    for (const auto* texto : textos)
+        leidos << texto->texto;
+    return leidos.join(QLatin1Char('|'));
+}
+
+} // namespace
+
+class PruebaLayouts : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void TodosSeLeen() {
+        const QStringList ficheros = QDir(QStringLiteral(PASTORIX_LAYOUTS))
+                                         .entryList({QStringLiteral("*.rpt"), QStringLiteral("*.RPT")});
+        QVERIFY(ficheros.size() >= 3);
+        for (const QString& fichero : ficheros) {
+            try {
+                Layout(qUtf8Printable(fichero));
+            } catch (const ErrorInforme& e) {
+                QFAIL(e.what());
+            }
+        }
+    }
+
+    // Two pages per farm; each farm's figures stand on its own pages, those of the heifers under their own label.
+    void IndicesTecnicos() {
+        const InformeTerminado informe =
+            Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(3), " Índices Técnicos");
+        const auto& paginas = informe.paginas.paginas;
+        QCOMPARE(paginas.size(), std::size_t(6));
+        const QString primera = Leida(paginas[0]);
+        const QString segunda = Leida(paginas[1]);
+        for (const char* trozo :
+             {"Novillas en Cubrición|14|2", "Novillas de 1º parto|12|1", "Vacas de 2 a 6 partos|38|3",
+              "Total de vacas paridas|69|10", "Mar|12|4", "Total|56|13", "Mar-May|35|10", "Página 1 de 6"})
+            QVERIFY2(primera.contains(QString::fromUtf8(trozo)), trozo);
+        for (const char* trozo :
+             {"Ganancia media diaria (g/día)|852|967", "Aculonados|25|43", "Todas|63|395|41|367|22|448",
+              "Preñez no confirmada|( 4 )", "Antes de los 30 días|1|1", "Total|6|9",
+              "Por Preñez Tardía|7,4  Terneros", "% Pérdida|19 %", "Muertes en el cebo|1", "Total cebados|27",
+              "Cebados por parto (%)|39"})
+            QVERIFY2(segunda.contains(QString::fromUtf8(trozo)), trozo);
+        // The farm without calvings: what was not written is blank, what is 0 is 0.
+        const QString sinPartos = Leida(paginas[3]);
+        QVERIFY(Leida(paginas[2]).contains(QStringLiteral("Covadonga Peláez")));
+        QVERIFY(!Leida(paginas[2]).contains(QStringLiteral("José")));
+        QVERIFY2(sinPartos.contains(QStringLiteral("Perinatal|0|")), qUtf8Printable(sinPartos));
+        QVERIFY(sinPartos.contains(QStringLiteral("Preñez no confirmada|( 0 )")));
+        QVERIFY(!sinPartos.contains(QStringLiteral("% Pérdida|%")));
+    }
+
+    void SinFilas() {
+        QCOMPARE(Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(0), "").paginas.paginas.size(),
+                 std::size_t(1));
+        const InformeTerminado informe = Hacer("Ganaderos.rpt", ejemplo::Registros(0), " Ganaderos");
+        QVERIFY(Leida(informe.paginas.paginas.at(0)).contains(QStringLiteral("No hay ganaderos")));
+    }
+
+    void Listas() {
+        const InformeTerminado informe = Hacer("Ganaderos.rpt", ejemplo::Registros(60), " Ganaderos");
+        QCOMPARE(informe.paginas.paginas.size(), std::size_t(3));
+        for (const Pagina& pagina : informe.paginas.paginas)
+            QVERIFY(Leida(pagina).startsWith(QStringLiteral("Ganaderos|PASTORIX|Código|Nombre y apellidos")));
+        const QString primera = Leida(informe.paginas.paginas[0]);
+        QVERIFY2(primera.contains(QStringLiteral(
+                     "1200008|Ángel Peláez|Casa 8|Barrio de Arriba, s/n|33810 Corias|985 813 000|"
+                     "650 123 456|María Suárez Riesgo")),
+                 qUtf8Printable(primera));
+        QVERIFY(Leida(informe.paginas.paginas[2]).contains(QStringLiteral("60 ganaderos")));
+        const QString vets =
+            Leida(Hacer("Veterinarios.rpt", ejemplo::Registros(3), " Veterinarios").paginas.paginas.at(0));
+        QVERIFY2(vets.contains(QStringLiteral(
+                     "12|María Suárez Riesgo|10345678A|Tineo|Plaza Mayor, 4 2.º B|33870 Tineo")),
+                 qUtf8Printable(vets));
+        QVERIFY(vets.contains(QStringLiteral("31|Nuria Ñáñez|Allande")));
+    }
+
+    // Pages are really drawn, plots included, and in vectors: a page of pixels would be a hundred times as large.
+    void Pdf() {
+        QTemporaryDir carpeta;
+        const InformeTerminado informe =
+            Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(1), " Índices Técnicos");
+        const QString fichero = carpeta.filePath(QStringLiteral("i.pdf"));
+        GuardarPdf(informe, fichero);
+        QFile pdf(fichero);
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        const QByteArray bytes = pdf.readAll();
+        QVERIFY(bytes.startsWith("%PDF-") && bytes.size() > 5000 && bytes.size() < 300'000);
+        QVERIFY(bytes.contains("/Count 2"));
+        QVERIFY(!bytes.contains("/Subtype /Image"));
+
+        // Losing the folder leaves the old file and tells.
+        QVERIFY_EXCEPTION_THROWN(GuardarPdf(informe, carpeta.filePath(QStringLiteral("no/hay/i.pdf"))),
+                                 ErrorInforme);
+        QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("i.pdf")});
+    }
+
+    void Dibujo() {
+        const InformeTerminado informe = Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(1), "");
+        constexpr double escala = 3;
+        QImage imagen(630, 891, QImage::Format_RGB32);
+        imagen.fill(Qt::white);
+        {
+            QPainter pintor(&imagen);
+            DibujarPagina(pintor, informe.paginas, 0, escala);
+        }
+        const auto tinta = [&](const QRectF& mm) {
+            int oscuros = 0;
+            for (int y = int(mm.top() * escala); y < int(mm.bottom() * escala); ++y) {
+                for (int x = int(mm.left() * escala); x < int(mm.right() * escala); ++x)
+                    oscuros += qGray(imagen.pixel(x, y)) < 140;
+            }
+            return oscuros;
+        };
+        QCOMPARE(tinta({0, 0, 210, 10}), 0);      // margin
+        QVERIFY(tinta({161, 20, 34, 16}) > 3000); // the filled box of the year
+        const auto& trozos = informe.paginas.paginas[0].trozos;
+        const auto grafico = std::find_if(trozos.begin(), trozos.end(), [](const Trozo& t) {
+            return std::holds_alternative<GraficoColocado>(t);
+        });
+        QVERIFY(grafico != trozos.end());
+        QVERIFY(tinta(std::get<GraficoColocado>(*grafico).lugar) > 4000); // the bars
+    }
+};
+
+PRUEBA(PruebaLayouts)
+#include "PruebaLayouts.moc"

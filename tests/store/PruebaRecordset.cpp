@@ -1,0 +1,235 @@
+#include "BaseDePrueba.h"
+#include "prueba.h"
+
+#include "store/Literales.h"
+
+#include <sqlite3.h>
+
+using namespace pastorix;
+using prueba::Base;
+using prueba::F;
+
+class PruebaRecordset : public QObject {
+    Q_OBJECT
+
+    static long Numero(const std::function<void()>& f) {
+        try {
+            f();
+        } catch (const ErrorAlmacen& e) {
+            return e.Numero();
+        }
+        return 0;
+    }
+
+private Q_SLOTS:
+    void Claves() {
+        Base b;
+        QCOMPARE(SiguienteId(b.c, "SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), 1.0);
+        b.Poner("T_Vacas", {{"Id_Vaca", 7.0}});
+        b.Poner("T_Vacas", {{"Id_Vaca", 3.0}});
+        QCOMPARE(SiguienteId(b.c, "SELECT Nombre, Id_Vaca FROM T_Vacas ORDER BY Id_Vaca", 1), 8.0);
+        QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre FROM T_Vacas"), std::string());
+        QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre FROM T_Vacas WHERE Id_Vaca = 99"), std::string());
+        QCOMPARE(ValorDeCampo(b.c, "SELECT Nombre, Id_Vaca FROM T_Vacas ORDER BY Id_Vaca", 1),
+                 std::string("3"));
+        // a taken or missing key is refused and nothing changes
+        QCOMPARE(Numero([&] {
+                     b.Poner("T_Vacas", {{"Id_Vaca", 3.0}, {"Nombre", "otra"}});
+                 }),
+                 long(CodigoError::Restriccion));
+        QCOMPARE(Numero([&] {
+                     b.Poner("T_Vacas", {{"Nombre", "sin código"}});
+                 }),
+                 long(CodigoError::Restriccion));
+        QCOMPARE(b.Texto("SELECT Id_Vaca, Nombre FROM T_Vacas ORDER BY Id_Vaca"), std::string("3|-/7|-"));
+    }
+
+    void Conversiones() {
+        Base b;
+        Recordset rs(b.c, "SELECT * FROM T_Vacas");
+        rs.AddNew();
+        rs["ID_VACA"] = "12001";
+        rs["Nombre"] = "d'Arriba \"La\" ñ";
+        rs["Calificacion"] = "2,5";
+        rs["MG_PN"] = Valor();
+        rs["FechaNac"] = "1/3/24";
+        rs["FechaCompra"] = F("29/2/2004");
+        rs["CrotalANT"] = 2.5;
+        rs["RegSaneam"] = "";
+        QCOMPARE(Numero([&] { rs["MG_PD"] = "dos"; }), long(CodigoError::TipoInadecuado));
+        QCOMPARE(Numero([&] { rs["Nombre"] = std::string(51, 'x'); }), long(CodigoError::TipoInadecuado));
+        rs.Update();
+        QCOMPARE(rs["Calificacion"].Numero(), 2.5); // the new row is the current one
+        Recordset leido(b.c, "SELECT * FROM T_Vacas WHERE Id_Vaca = 12001");
+        QCOMPARE(leido["Nombre"].Texto(), std::string("d'Arriba \"La\" ñ"));
+        QCOMPARE(leido["Calificacion"].Texto(), std::string("2,5"));
+        QVERIFY(leido["MG_PN"].Nulo());
+        QCOMPARE(leido["MG_PN"].Numero(), 0.0);
+        QCOMPARE(leido["FechaNac"].FechaValor(), F("1/3/2024"));
+        QCOMPARE(leido["FechaCompra"].Texto(), std::string("29/02/04"));
+        QCOMPARE(leido["CrotalANT"].Texto(), std::string("2,5"));
+        QVERIFY(!leido["RegSaneam"].Nulo()); // empty text is not Null
+        QCOMPARE(std::string(leido["Nombre"].Vista()), leido["Nombre"].Texto());
+        QCOMPARE(Numero([&] { (void)leido["NoHay"].Texto(); }), long(CodigoError::ColumnaDesconocida));
+        QCOMPARE(leido[0].Entero(), std::int64_t(12001));
+
+        // whole columns take the nearest, halves to even; a text that is no date stays as typed
+        b.Poner("T_Servicios",
+                {{"Id_Vaca", 1.0}, {"N_Servicio", 2.5}, {"N_Parto", "3,5"}, {"Fecha_Servicio", "31/02/01"}});
+        QCOMPARE(b.Texto("SELECT N_Servicio, N_Parto, Fecha_Servicio FROM T_Servicios"),
+                 std::string("2|4|31/02/01"));
+        b.Poner("T_Cebo", {{"Id_Cebo", 1.0}, {"Id_Ganadero", 1.0}, {"Cambiado", Valor()}});
+        b.Poner("T_Cebo", {{"Id_Cebo", 2.0}, {"Id_Ganadero", 1.0}});
+        QCOMPARE(b.Texto("SELECT Id_Cebo FROM T_Cebo WHERE Cambiado = 0"), std::string("1/2"));
+    }
+
+    void Recorrido() {
+        Base b;
+        for (int i = 1; i <= 5; ++i)
+            b.Poner("T_Vacas", {{"Id_Vaca", double(i)}});
+        // keys rewritten while walking the set sorted by them: no row is met twice
+        Recordset rs(b.c, "SELECT * FROM T_Vacas ORDER BY Id_Vaca");
+        QCOMPARE(rs.Contar(), 5L);
+        for (; !rs.Eof(); rs.Siguiente()) {
+            rs["Id_Vaca"] = rs["Id_Vaca"].Numero() + 100;
+            rs.Update();
+        }
+        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), std::string("101/102/103/104/105"));
+        QVERIFY(rs.Eof());
+        QCOMPARE(Numero([&] { (void)rs["Id_Vaca"].Numero(); }), long(CodigoError::SinFilaActual));
+        rs.Ultimo();
+        QCOMPARE(rs["Id_Vaca"].Numero(), 105.0);
+        rs.Delete();
+        rs.Primero();
+        rs["Nombre"] = "no guardada"; // leaving the row forgets what was not updated
+        rs.Siguiente();
+        QCOMPARE(b.Texto("SELECT Id_Vaca, Nombre FROM T_Vacas ORDER BY Id_Vaca"),
+                 std::string("101|-/102|-/103|-/104|-"));
+        b.c.Execute("DELETE FROM T_Vacas WHERE Id_Vaca = 102");
+        rs["Nombre"] = "tarde";
+        QCOMPARE(Numero([&] { rs.Update(); }), long(CodigoError::SinFilaActual));
+
+        Recordset lectura(b.c, "SELECT * FROM T_Vacas", Cursor::Estatico, Bloqueo::SoloLectura);
+        QCOMPARE(Numero([&] { lectura["Nombre"] = "x"; }), long(CodigoError::SoloLectura));
+        lectura.Cerrar();
+        QCOMPARE(Numero([&] { (void)lectura["Nombre"].Texto(); }), long(CodigoError::ObjetoCerrado));
+    }
+
+    void Uniones() {
+        Base b;
+        b.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Nombre", "Nora"}});
+        b.Poner("T_Direcciones", {{"Id_Direccion", 1.0}, {"Id_GV", 12.0}});
+        b.Poner("T_Direcciones", {{"Id_Direccion", 2.0}, {"Id_GV", 12.0}});
+        b.Poner("T_Direcciones", {{"Id_Direccion", 3.0}, {"Id_GV", 57.0}});
+        {
+            // the address goes, the farmer stays
+            Recordset rs(b.c,
+                         "SELECT T_Ganaderos.*, T_Direcciones.* FROM T_Ganaderos INNER JOIN T_Direcciones ON "
+                         "T_Ganaderos.Id_Ganadero = T_Direcciones.Id_GV WHERE Id_GV <> 1",
+                         Cursor::Dinamico);
+            QCOMPARE(rs.Contar(), 2L);
+            QVERIFY(rs["T_Ganaderos.Id_Direccion"].Nulo());
+            QCOMPARE(rs["T_Direcciones.Id_Direccion"].Numero(), 1.0);
+            for (; !rs.Eof(); rs.Siguiente())
+                rs.Delete();
+        }
+        QCOMPARE(b.Texto("SELECT Id_Direccion FROM T_Direcciones"), std::string("3"));
+        QCOMPARE(b.Texto("SELECT Nombre FROM T_Ganaderos"), std::string("Nora"));
+
+        b.Poner("T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
+        b.Poner("T_Partos", {{"Id_Parto", 1.0}, {"Id_Vaca", 12001.0}, {"Id_Cebo", 4.0}});
+        b.Poner("T_Partos", {{"Id_Parto", 2.0}, {"Id_Vaca", 12001.0}, {"Id_Cebo", 4.0}});
+        Recordset rs(b.c, "SELECT T_Partos.Id_Cebo, T_Vacas.Id_Ganadero, T_Partos.FechaDestete FROM T_Vacas "
+                          "INNER JOIN T_Partos ON "
+                          "T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE T_Partos.Id_Cebo = 4");
+        rs["FechaDestete"] = F("1/9/2026");
+        rs.Update();
+        QCOMPARE(b.Texto("SELECT FechaDestete FROM T_Partos ORDER BY Id_Parto"), std::string("01/09/26/-"));
+
+        Recordset grupo(b.c, "SELECT Id_Vaca, Count(Id_Parto) AS N FROM T_Partos GROUP BY Id_Vaca");
+        QCOMPARE(Numero([&] { grupo["Id_Vaca"] = 1; }), long(CodigoError::SoloLectura));
+    }
+
+    // What a failed statement leaves, and what a process that dies leaves.
+    void Grupos() {
+        Base b;
+        const auto cuenta = [&] { return b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Vacas"); };
+        QCOMPARE(Numero([&] {
+                     EnGrupo(b.c, [&] {
+                         b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+                         EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 2.0}}); });
+                         b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+                     });
+                 }),
+                 long(CodigoError::Restriccion));
+        QCOMPARE(cuenta(), std::string("2")); // done before the failure stays, and is committed
+        QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
+        QCOMPARE(EnGrupo(b.c, [&] { return 42; }), 42);
+
+        const auto copia = b.fichero + ".copia";
+        EnGrupo(b.c, [&] {
+            b.Poner("T_Vacas", {{"Id_Vaca", 3.0}});
+            sqlite3_db_cacheflush(b.c.Manejador());
+            CopiarFichero(Ruta(b.fichero),
+                          Ruta(copia)); // what a second process would find after a crash here
+            CopiarFichero(Ruta(b.fichero + "-journal"), Ruta(copia + "-journal"));
+        });
+        QCOMPARE(cuenta(), std::string("3"));
+        Conexion otra;
+        otra.AbrirFichero(copia, kClave);
+        QCOMPARE(ValorDeCampo(otra, "SELECT Count(Id_Vaca) AS N FROM T_Vacas"), std::string("2"));
+
+        // a commit that fails is an error of its own
+        sqlite3_busy_timeout(b.c.Manejador(), 0);
+        Conexion lector;
+        lector.AbrirFichero(b.fichero, kClave);
+        sqlite3_exec(lector.Manejador(), "BEGIN; SELECT * FROM T_Vacas", nullptr, nullptr, nullptr);
+        QCOMPARE(Numero([&] { EnGrupo(b.c, [&] {
+                                  b.Poner("T_Vacas", {{"Id_Vaca", 4.0}});
+                              }); }),
+                 long(CodigoError::Bloqueada));
+        sqlite3_exec(lector.Manejador(), "COMMIT", nullptr, nullptr, nullptr);
+        QCOMPARE(cuenta(), std::string("3"));
+        EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 4.0}}); });
+        QCOMPARE(cuenta(), std::string("4"));
+    }
+
+    void DiscoLleno() {
+        Base b;
+        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+        sqlite3_exec(b.c.Manejador(), "PRAGMA cache_size=5", nullptr, nullptr, nullptr);
+        sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=1", nullptr, nullptr,
+                     nullptr); // no page more than there are
+        QCOMPARE(
+            Numero([&] {
+                EnGrupo(b.c, [&] {
+                    for (int i = 2; i < 500; ++i)
+                        b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(4000, 'x')}});
+                });
+            }),
+            long(CodigoError::DiscoOFichero));
+        sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=100000", nullptr, nullptr, nullptr);
+        QVERIFY(!b.Texto("SELECT Id_Vaca FROM T_Vacas WHERE Id_Vaca = 1").empty());
+        b.Poner("T_Vacas", {{"Id_Vaca", 501.0}});
+    }
+
+    void Origenes() {
+        Base b;
+        OrigenesDeDatos o;
+        QVERIFY(o.Declarar(AtributosDeOrigen("OD_PRADALC", b.fichero, kClave)));
+        QVERIFY(!o.Declarar(AtributosDeOrigen("OD_X", "", kClave)));
+        QVERIFY(!o.Declarar(std::string("DSN=OD_X\0FIL=dBase\0DBQ=x\0", 25)));
+        Conexion c;
+        c.Abrir(o, "dsn=od_pradalc", kClave);
+        QVERIFY(c.Abierta());
+        QCOMPARE(Numero([&] { c.Abrir(o, "dsn=OD_PRADALC", kClave); }), long(CodigoError::ObjetoCerrado));
+        c.Cerrar();
+        QCOMPARE(Numero([&] { c.Execute("DELETE FROM T_Vacas"); }), long(CodigoError::ObjetoCerrado));
+        QCOMPARE(Numero([&] { c.Abrir(o, "dsn=OD_NADA", kClave); }), long(CodigoError::NoSePuedeAbrir));
+        QCOMPARE(o.Resolver("DSN=OD_PRADALC;DBQ=/otra.mdb").fichero, std::string("/otra.mdb"));
+        QCOMPARE(o.Buscar("OD_PRADALC")->fichero, b.fichero);
+    }
+};
+
+PRUEBA(PruebaRecordset)
+#include "PruebaRecordset.moc"

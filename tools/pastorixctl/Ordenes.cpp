@@ -1,0 +1,173 @@
+#include "pastorixctl/Ordenes.h"
+
+#include "frame/Rutas.h"
+#include "store/Apertura.h"
+#include "store/Conversion.h"
+#include "store/Esquema.h"
+#include "store/Ficheros.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <iostream>
+
+namespace pastorix::ctl {
+
+namespace {
+
+void Cuantos(const QStringList& argumentos, qsizetype n) {
+    if (argumentos.size() != n)
+        throw ErrorDeUso("Número de argumentos incorrecto");
+    for (const auto& a : argumentos)
+        if (a.startsWith(QLatin1String("--")))
+            throw ErrorDeUso("Opción desconocida: " + a.toStdString());
+}
+
+QDir CarpetaNueva(const QString& nombre) {
+    if (!QDir().mkpath(nombre))
+        throw ErrorDeOrden("No se puede crear la carpeta: " + nombre.toStdString());
+    QDir carpeta(nombre);
+    for (const auto& base : BasesEntregadas())
+        if (carpeta.exists(base) || carpeta.exists(QStringLiteral("Base de Datos/") + base))
+            throw ErrorDeOrden("En la carpeta ya hay una instalación: " + nombre.toStdString());
+    return carpeta;
+}
+
+void CopiarInformes(const QDir& destino) {
+    const QDir entrega(CarpetaDeEntrega());
+    const auto informes = entrega.entryList({QStringLiteral("*.rpt")}, QDir::Files);
+    if (informes.isEmpty())
+        throw ErrorDeOrden("No se encuentran los informes en: " + entrega.path().toStdString());
+    QStringList ficheros = informes;
+    if (entrega.exists(QStringLiteral("manual.pdf")))
+        ficheros << QStringLiteral("manual.pdf");
+    for (const auto& f : ficheros)
+        CopiarFichero(Ruta(entrega.filePath(f).toStdString()), Ruta(destino.filePath(f).toStdString()));
+}
+
+void Poner(Conexion& c, const char* tabla, std::initializer_list<std::pair<const char*, Valor>> fila) {
+    Recordset rs(c, std::string("SELECT * FROM ") + tabla);
+    rs.AddNew();
+    for (const auto& [campo, valor] : fila)
+        rs[campo] = valor;
+    rs.Update();
+}
+
+// The people a fresh database cannot do without: the reserved veterinarian, the owner of the common pool of bulls, and the one of
+// bulls that stand on no farm. No central user: nobody can enter as one until the office sets it.
+void Sembrar(const QString& fichero) {
+    Conexion c;
+    c.AbrirFichero(fichero.toStdString(), kClave);
+    EnGrupo(c, [&] {
+        Poner(c, "T_Veterinarios", {{"Id_Veterinario", 1.0}, {"NombreVet", "VALNOR"}, {"Usuario", "VALNOR"}});
+        Poner(c, "T_Ganaderos",
+              {{"Id_Ganadero", 1.0},
+               {"Nombre", "Centro de Inseminación"},
+               {"Apodo", "Toros IA"},
+               {"TorosComun", "Sí"}});
+        Poner(c, "T_Ganaderos",
+              {{"Id_Ganadero", 900.0},
+               {"Nombre", "Otros Toros"},
+               {"Apodo", "Otros Toros"},
+               {"TorosComun", "No"}});
+    });
+}
+
+} // namespace
+
+QString CarpetaDeEntrega() {
+    const auto impuesta = qEnvironmentVariable("PASTORIX_COMPARTIDA");
+    return impuesta.isEmpty() ? CarpetaCompartida() : impuesta;
+}
+
+int Crear(const QStringList& argumentos) {
+    Cuantos(argumentos, 1);
+    const auto carpeta = CarpetaNueva(argumentos[0]);
+    CopiarInformes(carpeta);
+    const auto principal = carpeta.filePath(QStringLiteral("BD_PradalC.mdb"));
+    const auto personal = carpeta.filePath(QStringLiteral("BD_PradalP.mdb"));
+    const auto toros = carpeta.filePath(QStringLiteral("Toros.mdb"));
+    CrearBase(Ruta(principal.toStdString()), ClaseDeBase::Principal, kClave);
+    CrearBase(Ruta(personal.toStdString()), ClaseDeBase::Principal, kClave);
+    CrearBase(Ruta(toros.toStdString()), ClaseDeBase::Toros, kClave);
+    Sembrar(principal);
+    Sembrar(personal);
+    {
+        Conexion c;
+        c.AbrirFichero(toros.toStdString(), kClave);
+        Poner(c, "T_Ganaderos",
+              {{"Id_Ganadero", 1.0},
+               {"Nombre", "Centro de Inseminación"},
+               {"Apodo", "Toros IA"},
+               {"TorosComun", "Sí"}});
+    }
+    std::cout << "Instalación nueva en " << carpeta.absolutePath().toStdString() << "\n";
+    return 0;
+}
+
+int ClaveCentral(const QStringList& argumentos) {
+    Cuantos(argumentos, 2);
+    const auto usuario = argumentos[1].toStdString();
+    if (usuario.empty() || usuario.find('\'') != std::string::npos)
+        throw ErrorDeOrden("El usuario no puede estar vacío ni llevar apóstrofo");
+    std::string clave;
+    std::getline(std::cin, clave);
+    if (clave.empty() || clave.find('\'') != std::string::npos)
+        throw ErrorDeOrden("La contraseña no puede estar vacía ni llevar apóstrofo");
+    Conexion c;
+    c.AbrirFichero(argumentos[0].toStdString(), kClave);
+    EnGrupo(c, [&] {
+        Recordset rs(c, "Select * FROM Claves WHERE NIVEL = 'CENTRAL' AND Usuario = " + TextoSql(usuario));
+        if (rs.Eof()) {
+            rs.AddNew();
+            rs["Usuario"] = usuario;
+            rs["NIVEL"] = "CENTRAL";
+        }
+        rs["Clave"] = clave;
+        rs.Update();
+    });
+    return 0;
+}
+
+int Ejemplo(const QStringList& argumentos) {
+    Cuantos(argumentos, 1);
+    const QDir origen(CarpetaDeEntrega() + QStringLiteral("/ejemplo"));
+    for (const auto& base : BasesEntregadas())
+        if (!origen.exists(base))
+            throw ErrorDeOrden("No se encuentra el fichero del ejemplo: " +
+                               origen.filePath(base).toStdString());
+    const auto carpeta = CarpetaNueva(argumentos[0]);
+    CopiarInformes(carpeta);
+    for (const auto& base : BasesEntregadas())
+        CopiarFichero(Ruta(origen.filePath(base).toStdString()), Ruta(carpeta.filePath(base).toStdString()));
+    std::cout << "Instalación de ejemplo en " << carpeta.absolutePath().toStdString() << "\n";
+    return 0;
+}
+
+int Convertir(const QStringList& argumentos) {
+    Cuantos(argumentos, 2);
+    const auto hoja =
+        ConvertirAccess(Ruta(argumentos[0].toStdString()), Ruta(argumentos[1].toStdString()), kClave);
+    std::cout << hoja.Texto();
+    return 0;
+}
+
+int Verificar(const QStringList& argumentos) {
+    if (argumentos.isEmpty())
+        throw ErrorDeUso("Falta el fichero");
+    int estado = 0;
+    for (const auto& fichero : argumentos) {
+        const auto faltas = VerificarBase(fichero.toStdString(), kClave);
+        if (faltas.empty())
+            std::cout << fichero.toStdString() << ": correcta\n";
+        for (const auto& f : faltas) {
+            std::cerr << fichero.toStdString() << ": " << f << "\n";
+            estado = 1;
+        }
+    }
+    return estado;
+}
+
+} // namespace pastorix::ctl

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QStringList>
+
+#include <stdexcept>
+
+// The commands of the companion command line. Each takes its own arguments and returns the exit status: 0 done, 1 not done (the
+// reason is on stderr), 2 the call itself is wrong.
+namespace pastorix::ctl {
+
+// The call is wrong: usage goes to stderr, status 2.
+class ErrorDeUso : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Could not be done: text to stderr, status 1.
+class ErrorDeOrden : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+int Crear(const QStringList& argumentos);
+int ClaveCentral(const QStringList& argumentos);
+int Ejemplo(const QStringList& argumentos);
+int Convertir(const QStringList& argumentos);
+int Verificar(const QStringList& argumentos);
+int Informe(const QStringList& argumentos);
+
+// Folder of what is delivered beside the program: layouts, and in "ejemplo" the example's Access files. The variable
+// PASTORIX_COMPARTIDA overrides it.
+QString CarpetaDeEntrega();
+
+} // namespace pastorix::ctl
