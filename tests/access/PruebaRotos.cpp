@@ -136,7 +136,7 @@ private Q_SLOTS:
             "la definición de otra");
         Fila(
             "table without definition", [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, 9999, 4); },
-            "falta la página 9999");
+            "la página 9999, que no existe");
 
         Fila(
             "definition loops", [](Fichero& f) { f.Poner(f.def + 4, f.def / P, 4); }, "ya usada");
