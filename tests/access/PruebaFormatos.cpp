@@ -223,6 +223,9 @@ private Q_SLOTS:
         Fila("compressed", Tipo::Texto, {0xFF, 0xFE, 'A', 0xF1, 'o'}, "Año");
         Fila("changing over", Tipo::Texto, {0xFF, 0xFE, 'a', 0, 0xAC, 0x20, 0x22, 0x21, 0, 'b', 0xF1},
              "a€™bñ");
+        Fila("second half alone", Tipo::Texto, {0x00, 0xDC, 'b', 0},
+             "\xEF\xBF\xBD"
+             "b");
         Fila("half a pair, then narrow", Tipo::Texto, {0xFF, 0xFE, 0, 0x3D, 0xD8, 0, 'b'},
              "\xEF\xBF\xBD"
              "b");

@@ -3,11 +3,9 @@
 #include "access/Rc4.h"
 #include "prueba.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
-#include <cmath>
-#include <limits>
+#include <ctime>
 #include <random>
 
 using namespace pastorix::access;
@@ -191,6 +189,14 @@ private Q_SLOTS:
             "map's bitmap", [](Fichero& f) { f.b[f.plano.bitmap * P] = 1; },
             "tabla Otra: la página no es de la clase");
         Fila(
+            "bitmap of later pages",
+            [](Fichero& f) {
+                const std::size_t mapa = f.Fila(f.plano.mapas * P, 1);
+                f.Poner(mapa + 1, 0, 4);
+                f.Poner(mapa + 5, f.plano.bitmap, 4);
+            },
+            "cortado: tabla Otra: faltan páginas de datos (la 32");
+        Fila(
             "bitmap twice", [](Fichero& f) { f.Poner(f.Fila(f.plano.mapas * P, 1) + 5, f.plano.bitmap, 4); },
             "repite una de sus partes");
 
@@ -293,7 +299,7 @@ private Q_SLOTS:
     void Inofensivos() {
         Fichero f;
         const std::size_t filas = Filas(BaseAccess::DeBytes(f.b), "Pesadas").size();
-        f.Poner(f.Memo(f.datos, 0), 0, 4);          // empty memo that points nowhere
+        f.Poner(f.Memo(f.datos, 0), 0x40000000, 4); // empty memo that points nowhere
         f.Poner(f.Columna(4) + Jet4.lugar, 100, 2); // rows older than their last variable column
         std::fill_n(f.b.begin() + std::ptrdiff_t(P), P, std::uint8_t(0xEE)); // a page that nothing points to
         f.Poner(f.def + Jet4.filas, 7, 4); // the declared count is a check, not a limit
@@ -320,23 +326,22 @@ private Q_SLOTS:
                                : Escribir({.version = version, .tablas = {TablaVariada(version)}}).contenido;
         std::mt19937 azar(20261122);
         int rechazados = 0, leidos = 0;
-        qint64 peor = 0;
+        std::clock_t peor = 0; // processor time: the machine may have other things to do
         for (int i = 0; i < veces; ++i) {
             Bytes b = sano;
             for (auto daños = azar() % 3; daños < 3 && !b.empty(); ++daños)
                 if (b.size() > 4 * Jet4.pagina)
                     EstropearAlAzar(b, version == 3 ? Jet3.pagina : Jet4.pagina, azar);
-            QElapsedTimer reloj;
-            reloj.start();
+            const std::clock_t comienzo = std::clock();
             const std::string dicho = Mensaje(b);
-            peor = std::max(peor, reloj.elapsed());
+            peor = std::max(peor, std::clock() - comienzo);
             QVERIFY2(dicho.empty() || dicho.starts_with("El fichero ") || dicho.starts_with("Los textos "),
                      dicho.c_str());
             ++(dicho.empty() ? leidos : rechazados);
         }
         QVERIFY2(rechazados > veces / 10 && leidos > veces / 20,
                  qPrintable(QStringLiteral("%1 refused").arg(rechazados)));
-        QVERIFY2(peor < 2000, qPrintable(QStringLiteral("%1 ms for one file").arg(peor)));
+        QVERIFY2(peor < 2 * CLOCKS_PER_SEC, qPrintable(QStringLiteral("%1 ticks for one file").arg(peor)));
     }
 
     void NoSonAccess_data() {
