@@ -17,13 +17,13 @@ using Filita = std::vector<std::string>;
 // Rows of up to 1900 bytes in Jet 3: every number of jump bytes, offsets on both sides of each multiple of 256.
 TablaNueva ConSaltos(std::vector<Filita>& esperadas) {
     TablaNueva tabla{"Larga", {}, {}};
-    for (int c = 0; c < 8; ++c)
-        tabla.columnas.push_back({"c" + std::to_string(c), Tipo::Texto, false, 255});
-    for (int largo = 0; largo <= 234; ++largo) {
+    for (std::size_t c = 0; c < 8; ++c)
+        tabla.columnas.push_back({std::string(1, char('a' + c)), Tipo::Texto, false, 255});
+    for (std::size_t largo = 0; largo <= 234; ++largo) {
         FilaNueva fila;
         Filita textos;
-        for (int c = 0; c < 8; ++c) {
-            textos.emplace_back(std::size_t((largo + 37 * c * (largo % 2)) % 235), char('a' + c));
+        for (std::size_t c = 0; c < 8; ++c) {
+            textos.emplace_back((largo + 37 * c * (largo % 2)) % 235, char('a' + c));
             fila.celdas.push_back(Crudo(textos.back()));
         }
         tabla.filas.push_back(fila);
