@@ -1,0 +1,49 @@
+#pragma once
+
+#include "reports/motor/Informe.h"
+
+#include <functional>
+#include <map>
+
+namespace pastorix {
+
+// The report control of the report forms. They set its members in this order, and Action(1) runs the report:
+//   Reiniciar(); EstadoVentana; Bandera125; CampoParametro(i, ...); TituloVentana; FicheroInforme; FormulaSeleccion; Destino; Action(1)
+class ControlInforme {
+public:
+    // Who takes a finished report in place of the window.
+    using Destinatario = std::function<void(InformeTerminado)>;
+
+    // The tables are read when Action runs; the source must outlive the control.
+    explicit ControlInforme(const FuenteDeTablas& fuente);
+
+    // Forgets everything that was set.
+    void Reiniciar();
+
+    int EstadoVentana = 0;   // 0 normal, 1 as an icon, 2 maximised
+    bool Bandera115 = false; // both are set by the forms and change nothing here
+    bool Bandera125 = false;
+    QString TituloVentana;
+    QString FicheroInforme; // path of the layout; found without regard to case, separators of either kind
+    QString FormulaSeleccion;
+    int Destino = 0; // 0, the window, is the only one
+
+    // "Name;value;TRUE": the value may hold semicolons and line breaks. An empty text takes the field away again.
+    void CampoParametro(int indice, const QString& texto);
+
+    // 1 runs the report and returns when its window is open (or the installed sink has taken it). Throws ErrorInforme; an error of the
+    // tables' source passes through. Nothing is opened then.
+    void Action(int accion);
+
+    // Installs who takes finished reports from every control (the command line, tests) and returns the former one; an empty function
+    // brings the windows back.
+    static Destinatario InstalarDestino(Destinatario destinatario);
+
+private:
+    PeticionInforme Peticion() const;
+
+    const FuenteDeTablas& m_fuente;
+    std::map<int, QString> m_parametros;
+};
+
+} // namespace pastorix

@@ -1,0 +1,111 @@
+#include "reports/motor/Miniaturas.h"
+
+#include "reports/motor/Dibujante.h"
+
+#include <QAbstractListModel>
+#include <QCache>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyledItemDelegate>
+
+namespace pastorix {
+
+namespace {
+
+constexpr int Ancho = 104; // pixels of a small page
+constexpr int Orla = 8;
+constexpr int DibujosGuardados = 200;
+
+class ModeloDePaginas : public QAbstractListModel {
+public:
+    ModeloDePaginas(int total, QObject* padre)
+        : QAbstractListModel(padre)
+        , m_total(total) {}
+    int rowCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : m_total; }
+    QVariant data(const QModelIndex& indice, int papel) const override {
+        if (papel == Qt::AccessibleTextRole || papel == Qt::ToolTipRole)
+            return QStringLiteral("Página %1").arg(indice.row() + 1);
+        return papel == Qt::DisplayRole ? QVariant(indice.row() + 1) : QVariant();
+    }
+
+private:
+    int m_total;
+};
+
+class DibujanteDeMiniaturas : public QStyledItemDelegate {
+public:
+    DibujanteDeMiniaturas(const Paginas& paginas, QObject* padre)
+        : QStyledItemDelegate(padre)
+        , m_paginas(paginas)
+        , m_dibujos(DibujosGuardados) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& opcion, const QModelIndex&) const override {
+        return {Ancho + 2 * Orla, Alto() + 2 * Orla + opcion.fontMetrics.height()};
+    }
+
+    void paint(QPainter* pintor, const QStyleOptionViewItem& opcion,
+               const QModelIndex& indice) const override {
+        const bool elegida = opcion.state & QStyle::State_Selected;
+        if (elegida)
+            pintor->fillRect(opcion.rect, opcion.palette.brush(QPalette::Highlight));
+        const QRect hoja(opcion.rect.left() + (opcion.rect.width() - Ancho) / 2, opcion.rect.top() + Orla,
+                         Ancho, Alto());
+        pintor->drawPixmap(hoja.topLeft(), Dibujo(indice.row(), pintor->device()->devicePixelRatioF()));
+        pintor->setPen(opcion.palette.color(QPalette::Mid));
+        pintor->drawRect(hoja.adjusted(-1, -1, 0, 0));
+        pintor->setPen(opcion.palette.color(elegida ? QPalette::HighlightedText : QPalette::Text));
+        pintor->drawText(
+            QRect(opcion.rect.left(), hoja.bottom() + 2, opcion.rect.width(), opcion.fontMetrics.height()),
+            Qt::AlignCenter, indice.data().toString());
+    }
+
+private:
+    int Alto() const { return qRound(Ancho * m_paginas.tamaño.height() / m_paginas.tamaño.width()); }
+
+    const QPixmap& Dibujo(int pagina, double densidad) const {
+        QPixmap* dibujo = m_dibujos.object(pagina);
+        if (!dibujo || dibujo->devicePixelRatioF() != densidad) {
+            dibujo = new QPixmap((QSizeF(Ancho, Alto()) * densidad).toSize());
+            dibujo->setDevicePixelRatio(densidad);
+            dibujo->fill(Qt::white);
+            QPainter pintor(dibujo);
+            DibujarPagina(pintor, m_paginas, static_cast<std::size_t>(pagina),
+                          Ancho / m_paginas.tamaño.width());
+            pintor.end();
+            m_dibujos.insert(pagina, dibujo);
+        }
+        return *dibujo;
+    }
+
+    const Paginas& m_paginas;
+    mutable QCache<int, QPixmap> m_dibujos;
+};
+
+} // namespace
+
+Miniaturas::Miniaturas(const Paginas& paginas, QWidget* padre)
+    : QListView(padre) {
+    setObjectName(QStringLiteral("Miniaturas"));
+    setAccessibleName(QStringLiteral("Páginas del informe"));
+    setModel(new ModeloDePaginas(static_cast<int>(paginas.paginas.size()), this));
+    setItemDelegate(new DibujanteDeMiniaturas(paginas, this));
+    setUniformItemSizes(true);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMinimumWidth(Ancho + 2 * Orla + 24);
+    Marcar(0);
+}
+
+void Miniaturas::Marcar(int pagina) {
+    m_marcando = true;
+    setCurrentIndex(model()->index(pagina, 0));
+    m_marcando = false;
+}
+
+void Miniaturas::currentChanged(const QModelIndex& actual, const QModelIndex& anterior) {
+    QListView::currentChanged(actual, anterior);
+    if (!m_marcando && actual.isValid())
+        Q_EMIT Elegida(actual.row());
+}
+
+} // namespace pastorix

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "reports/motor/Informe.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+
+namespace pastorix {
+
+class Miniaturas;
+class VistaPaginas;
+
+// The preview of a finished report: pages, thumbnails, search, zoom, print and export. Owns the report; closes itself away.
+// It is a window of its own that no form above blocks, and that stays when the form that ran the report closes.
+class VentanaInforme : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit VentanaInforme(InformeTerminado informe, QWidget* padre = nullptr);
+
+    // Opens a preview, maximised if the report says so. The window deletes itself when closed.
+    static VentanaInforme* Abrir(InformeTerminado informe, bool comoIcono = false);
+
+    const InformeTerminado& Informe() const { return m_informe; }
+
+private:
+    void CrearOrdenes();
+    void CrearBarra();
+    void CrearMiniaturas();
+    QAction* Orden(const char* nombre) const;
+    void IrAPagina(int pagina);
+    void MostrarPagina(int pagina);
+    void MostrarZoom();
+    void ElegirZoom(const QString& texto);
+    void Buscar(bool atras);
+    void ImprimirInforme();
+    // Asks for a file and writes it; tells what went wrong.
+    void Guardar(const QString& titulo, const QString& sufijo, const QString& filtro,
+                 const std::function<void(const QString&)>& escribir);
+
+    InformeTerminado m_informe;
+    VistaPaginas* m_vista = nullptr;
+    Miniaturas* m_miniaturas = nullptr;
+    QSpinBox* m_pagina = nullptr;
+    QComboBox* m_zoom = nullptr;
+    QLineEdit* m_busca = nullptr;
+    QLabel* m_estado = nullptr;
+};
+
+} // namespace pastorix
