@@ -77,10 +77,12 @@ VentanaInforme::VentanaInforme(InformeTerminado informe, QWidget* padre)
     m_vista->setFocus();
 }
 
-VentanaInforme* VentanaInforme::Abrir(InformeTerminado informe, bool comoIcono) {
+VentanaInforme* VentanaInforme::Abrir(InformeTerminado informe, bool comoIcono, const QWidget* junto) {
     const bool maximizada = informe.maximizada;
     auto* ventana = new VentanaInforme(std::move(informe));
     ventana->setAttribute(Qt::WA_DeleteOnClose);
+    if (junto)
+        ventana->setScreen(junto->screen());
     // A modal form that is open would block a window that does not belong to it; it need not own it for that.
     if (const QWidget* modal = QApplication::activeModalWidget(); modal && modal->windowHandle()) {
         ventana->winId();
