@@ -12,8 +12,9 @@ target_compile_options(pastorix_avisos INTERFACE -Wall -Wextra -Wpedantic -Wconv
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # ccache can only keep what uses a precompiled header when the preprocessor leaves it in place.
     target_compile_options(pastorix_avisos INTERFACE -fpch-preprocess)
-    # g++ 12 finds these in its own std::string once it is inlined.
-    target_compile_options(pastorix_avisos INTERFACE -Wno-restrict -Wno-stringop-overflow)
+    # g++ 12 finds these in its own std::string and std::variant once they are inlined.
+    target_compile_options(pastorix_avisos INTERFACE -Wno-restrict -Wno-stringop-overflow
+        -Wno-maybe-uninitialized)
 endif()
 target_compile_definitions(pastorix_avisos INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
 target_include_directories(pastorix_avisos INTERFACE ${CMAKE_SOURCE_DIR}/src)

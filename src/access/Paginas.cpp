@@ -53,8 +53,8 @@ Lector Paginas::Pagina(std::uint32_t numero, TipoPagina tipo) const {
     if (numero == 0)
         Dañar("un enlace apunta a la cabecera del fichero");
     if (numero >= m_cuantas)
-        Cortar("falta la página " + std::to_string(numero) + "; el fichero tiene " +
-               std::to_string(m_cuantas));
+        Dañar("se apunta a la página " + std::to_string(numero) + ", que no existe; hay " +
+              std::to_string(m_cuantas));
     const Lector pagina(Vista(m_contenido).subspan(numero * m_formato->pagina, m_formato->pagina), numero);
     if (pagina.U8(0) != static_cast<std::uint8_t>(tipo))
         Dañar("la página no es de la clase que se espera", numero);

@@ -22,7 +22,10 @@ Acerca::Acerca(const Sesion& sesion, QWidget* padre)
     grande.setPointSizeF(grande.pointSizeF() * 1.8);
     grande.setBold(true);
     nombre->setFont(grande);
-    auto* version = new QLabel(QString::fromStdString(sesion.VersionPrograma), this);
+    auto* version =
+        new QLabel(QStringLiteral("Versión ") +
+                       QString::fromStdString(sesion.VersionPrograma).section('(', 1).section(')', 0, 0),
+                   this);
     version->setObjectName(QStringLiteral("Version"));
     auto* aceptar = new QPushButton(QStringLiteral("&Aceptar"), this);
     aceptar->setObjectName(QStringLiteral("B_Aceptar"));

@@ -46,7 +46,7 @@ ControlEquipos::ControlEquipos(const std::vector<std::array<std::string, 3>>& fi
                                  filas[static_cast<std::size_t>(fila)][static_cast<std::size_t>(columna)])));
     if (!filas.empty())
         rejilla->setCurrentCell(0, 0); // screen readers want a current cell
-    rejilla->resizeColumnsToContents();
+    rejilla->horizontalHeader()->setDefaultSectionSize(190);
     rejilla->horizontalHeader()->setStretchLastSection(true);
     rejilla->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 

@@ -1,6 +1,7 @@
 #include "frame/Mudanza.h"
 
 #include "frame/calendario/ErrorDeEjecucion.h"
+#include "store/Ficheros.h"
 
 #include <QDir>
 #include <QFile>
@@ -51,6 +52,8 @@ void MudarACarpeta(const QString& programa, const QString& nombre, const QString
         DeshacerMudanza(programa, nombre);
         Fallar(destino);
     }
+    SincronizarCarpeta(Ruta(destino.toStdString()));
+    SincronizarCarpeta(Ruta(programa.toStdString()));
 }
 
 } // namespace pastorix

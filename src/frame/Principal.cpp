@@ -53,8 +53,6 @@ void Principal::CrearMenus() {
             QMenu* menu = padre.isEmpty() ? menuBar()->addMenu(QString::fromUtf8(entrada.texto))
                                           : m_menus.at(padre)->addMenu(QString::fromUtf8(entrada.texto));
             menu->setObjectName(nombre);
-            // Sep4 may stay visible between hidden neighbours: each rule is shown exactly as the entry leaves it.
-            menu->setSeparatorsCollapsible(false);
             m_menus[nombre] = menu;
             accion = menu->menuAction();
         } else if (entrada.clase == EntradaDeMenu::Clase::Regla) {

@@ -1,12 +1,11 @@
 #include "frame/Rutas.h"
 
 #include "frame/calendario/ErrorDeEjecucion.h"
+#include "store/Ficheros.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace pastorix {
@@ -22,44 +21,17 @@ bool TieneAlgunaBase(const QString& carpeta) {
     return false;
 }
 
-// Copies through a temporary file, so that a copy that breaks off leaves nothing under the final name.
-void Copiar(const QString& origen, const QString& destino) {
-    QFile entrada(origen);
-    QSaveFile salida(destino);
-    const auto exigir = [&](bool bien, const QString& causa) {
-        if (!bien)
-            throw ErrorDeEjecucion(75, "Error de acceso a la ruta o al archivo: " + destino.toStdString() +
-                                           " (" + causa.toStdString() + ")");
-    };
-    exigir(entrada.open(QIODevice::ReadOnly), entrada.errorString());
-    exigir(salida.open(QIODevice::WriteOnly), salida.errorString());
-    constexpr qint64 trozo = 1 << 20;
-    while (!entrada.atEnd()) {
-        const QByteArray bytes = entrada.read(trozo);
-        exigir(!bytes.isEmpty(), entrada.errorString());
-        exigir(salida.write(bytes) == bytes.size(), salida.errorString());
-    }
-    exigir(salida.commit(), salida.errorString());
-}
-
 void CopiarSiFalta(const QString& origen, const QString& carpeta, const QString& nombre) {
     const QString destino = BuscarSinCaja(carpeta, nombre);
     if (QFileInfo(origen).isFile() && !QFileInfo::exists(destino))
-        Copiar(origen, destino);
+        CopiarFichero(Ruta(origen.toStdString()), Ruta(destino.toStdString()));
 }
 
 } // namespace
 
 QString BuscarSinCaja(const QString& carpeta, const QString& nombre) {
-    const QString tal = carpeta + QLatin1Char('/') + nombre;
-    if (QFileInfo::exists(tal))
-        return tal;
-    const QStringList entradas =
-        QDir(carpeta).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QString& entrada : entradas)
-        if (entrada.compare(nombre, Qt::CaseInsensitive) == 0)
-            return carpeta + QLatin1Char('/') + entrada;
-    return tal;
+    return QString::fromStdString(
+        TextoDeRuta(EntradaSinCaso(Ruta(carpeta.toStdString()), nombre.toStdString())));
 }
 
 QStringList BasesEntregadas() {

@@ -46,7 +46,8 @@ QString CarpetaDelUsuario();
 QString CarpetaCompartida();
 
 // Fills the user's folder from the shared one with what it still lacks: databases while it has no folder Base de Datos, layouts
-// while it has no folder Informes, the manual. Nothing that is there is replaced. Throws ErrorDeEjecucion for a copy that fails.
+// while it has no folder Informes, the manual. Nothing that is there is replaced. Throws ErrorDeEjecucion for a folder that
+// cannot be made and ErrorAlmacen for a copy that fails.
 void RellenarCarpeta(const Rutas& rutas, const QString& compartida);
 
 } // namespace pastorix

@@ -4,14 +4,6 @@
 
 namespace pastorix {
 
-namespace {
-template <typename Opciones>
-void PonerAvance(Opciones& opciones, const FuncionAvance& avance) {
-    if constexpr (requires { opciones.avance = avance; })
-        opciones.avance = avance;
-}
-} // namespace
-
 void DeclararOrigen(Sesion& sesion, std::string_view nombre, const QString& fichero,
                     std::string_view nombreEnError) {
     if (!sesion.origenes.Declarar(AtributosDeOrigen(nombre, fichero.toStdString(), ClaveDeBases)))
@@ -24,7 +16,7 @@ void AbrirConexion(Sesion& sesion, const FuncionAvance& avance) {
         sesion.conexion.Cerrar();
     OpcionesApertura opciones;
     opciones.carpetaBackup = sesion.rutas.BackUp().toStdString();
-    PonerAvance(opciones, avance);
+    opciones.avance = avance;
     sesion.conexion.Abrir(sesion.origenes, "dsn=OD_PRADALC", ClaveDeBases, opciones);
 }
 

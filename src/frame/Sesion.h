@@ -1,10 +1,9 @@
 #pragma once
 
 #include "frame/Rutas.h"
-#ifndef Q_MOC_RUN // moc stops at enumerators with an ñ
 #include "store/Conexion.h"
+#include "store/Esquema.h"
 #include "store/OrigenesDeDatos.h"
-#endif
 
 #include <QLockFile>
 
@@ -18,10 +17,10 @@
 namespace pastorix {
 
 // The password that all databases share; written into the program and into the data sources.
-inline constexpr std::string_view ClaveDeBases = "q7r2mz";
+inline constexpr std::string_view ClaveDeBases = kClave;
 
 // Told how far a long work has come: done, total.
-using FuncionAvance = std::function<void(int hecho, int total)>;
+using FuncionAvance = AvanceDeApertura;
 
 // What lives from the start of the program to its end, handed by reference to whoever needs it. The mode and the user
 // are empty until somebody has entered.

@@ -30,14 +30,17 @@ inline void Insertar(Conexion& conexion, const std::string& tabla, Fila fila) {
 }
 
 inline long Contar(Conexion& conexion, const std::string& tabla, const std::string& donde = {}) {
-    return pastorix::Recordset(conexion, "SELECT * FROM " + tabla + (donde.empty() ? "" : " WHERE " + donde)).Contar();
+    return pastorix::Recordset(conexion, "SELECT * FROM " + tabla + (donde.empty() ? "" : " WHERE " + donde))
+        .Contar();
 }
 
 inline std::string Leer(Conexion& conexion, const std::string& sentencia) {
     return pastorix::ValorDeCampo(conexion, sentencia);
 }
 
-inline Valor Texto(const char* t) { return std::string(t); }
+inline Valor Texto(const char* t) {
+    return std::string(t);
+}
 
 inline void Escribir(const QString& fichero, const QByteArray& bytes = "x") {
     QFile f(fichero);
@@ -69,8 +72,9 @@ public:
     // A second connection on one of the databases of a started program.
     Conexion Abrir(const char* base) const {
         Conexion conexion;
-        conexion.AbrirFichero((m_carpeta.path() + QStringLiteral("/Base de Datos/") + QString::fromUtf8(base)).toStdString(),
-                              pastorix::ClaveDeBases);
+        conexion.AbrirFichero(
+            (m_carpeta.path() + QStringLiteral("/Base de Datos/") + QString::fromUtf8(base)).toStdString(),
+            pastorix::ClaveDeBases);
         return conexion;
     }
 
@@ -78,16 +82,22 @@ public:
     void PonerUsuarios() const {
         for (const char* base : {"BD_PradalC.mdb", "BD_PradalP.mdb"}) {
             Conexion c = Abrir(base);
-            Insertar(c, "T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", Texto("Eva")}, {"Usuario", Texto("elopez")}});
-            Insertar(c, "Claves", {{"Usuario", Texto("CENTRAL")}, {"Clave", Texto("oficina")}, {"NIVEL", Texto("CENTRAL")}});
-            Insertar(c, "Claves", {{"Usuario", Texto("AUXILIAR")}, {"Clave", Texto("otra")}, {"NIVEL", Texto("AUXILIAR")}});
+            Insertar(c, "T_Veterinarios",
+                     {{"Id_Veterinario", 2.0}, {"NombreVet", Texto("Eva")}, {"Usuario", Texto("elopez")}});
+            Insertar(
+                c, "Claves",
+                {{"Usuario", Texto("CENTRAL")}, {"Clave", Texto("oficina")}, {"NIVEL", Texto("CENTRAL")}});
+            Insertar(
+                c, "Claves",
+                {{"Usuario", Texto("AUXILIAR")}, {"Clave", Texto("otra")}, {"NIVEL", Texto("AUXILIAR")}});
         }
     }
 
-    pastorix::Sesion sesion;
-
 private:
-    QTemporaryDir m_carpeta;
+    QTemporaryDir m_carpeta; // before the session: it goes when the session has let go of its files
+
+public:
+    pastorix::Sesion sesion;
 };
 
 } // namespace prueba

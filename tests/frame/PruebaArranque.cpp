@@ -4,6 +4,7 @@
 #include "Instalacion.h"
 #include "frame/ErrorInesperado.h"
 #include "frame/Mudanza.h"
+#include "frame/calendario/ErrorDeEjecucion.h"
 
 using namespace pastorix;
 using prueba::Cajas;
@@ -20,14 +21,16 @@ private Q_SLOTS:
         Escribir(i.En("ControlRebaño.rpt"));
         Escribir(i.En("manual.pdf"));
         QVERIFY(Arrancar(i.sesion));
-        QCOMPARE(i.Contenido("Base de Datos"), QStringList({"BD_PradalC.mdb", "BD_PradalP.mdb", "Toros.mdb"}));
+        QCOMPARE(i.Contenido("Base de Datos"),
+                 QStringList({"BD_PradalC.mdb", "BD_PradalP.mdb", "Toros.mdb"}));
         QCOMPARE(i.Contenido("Informes").size(), 2);
         QCOMPARE(i.Contenido(), QStringList({"Base de Datos", "Informes", "manual.pdf", "pastorix.lock"}));
         QCOMPARE(i.sesion.VersionPrograma, std::string("Pastorix (3.09)"));
         QCOMPARE(i.sesion.TextosBoton[5], std::string("..."));
         QVERIFY(i.sesion.conexion.Abierta());
         QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePrincipal());
-        QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_TOROS")->fichero), i.sesion.rutas.BaseToros());
+        QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_TOROS")->fichero),
+                 i.sesion.rutas.BaseToros());
     }
 
     void LaSegundaVezNoMueveNada() {
@@ -71,9 +74,48 @@ private Q_SLOTS:
         QCOMPARE(vistas.size(), 1);
         QCOMPARE(static_cast<int>(vistas[0].tipo), 48);
         QCOMPARE(vistas[0].titulo, QString(" Error de acceso"));
-        QCOMPARE(vistas[0].texto, QString("El origen ODBC o la clave de acceso a la Base de datos es incorrecta"));
+        QCOMPARE(vistas[0].texto,
+                 QString("El origen ODBC o la clave de acceso a la Base de datos es incorrecta"));
         QVERIFY(!vistas[0].detalle.isEmpty());
         QVERIFY(i.Contenido("Base de Datos").isEmpty()); // opening makes no file
+    }
+
+    void UnFicheroDeLaPlataformaAnteriorSeConvierteYSeGuarda() {
+        Instalacion i(false);
+        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_DATOS "/paquetes/VETERINARIO.mdb"), i.En("BD_PradalC.mdb")));
+        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_DATOS "/minima.mdb"), i.En("BD_PradalP.mdb")));
+        i.Crear("Toros.mdb", ClaseDeBase::Toros);
+        int avances = 0;
+        QVERIFY(Arrancar(i.sesion, [&](int, int) { ++avances; }));
+        QVERIFY(avances > 0);
+        QCOMPARE(prueba::Contar(i.sesion.conexion, "T_Vacas"), 65L);
+        QCOMPARE(i.Contenido("BackUp").filter("BD_PradalC_Access_").filter(".mdb").size(), 1);
+        InterfazDeEntrada nada;
+        QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada)); // and so does the personal one when it is entered
+        QCOMPARE(i.Contenido("BackUp").filter("BD_PradalP_Access_").filter(".mdb").size(), 1);
+        QCOMPARE(prueba::Contar(i.sesion.conexion, "T_Vacas"), 14L);
+    }
+
+    void LoQueNoSePuedeAbrirSeDiceYQuedaComoEstaba_data() {
+        QTest::addColumn<QString>("fichero");
+        for (const char* fichero : {"otra-clave.mdb", "recortada.mdb", "sin-T_Partos.mdb"})
+            QTest::newRow(fichero) << fichero;
+    }
+    void LoQueNoSePuedeAbrirSeDiceYQuedaComoEstaba() {
+        QFETCH(QString, fichero);
+        Instalacion i;
+        Cajas cajas;
+        const QString origen = QStringLiteral(PASTORIX_DATOS "/") + fichero;
+        QVERIFY(QFile::remove(i.En("BD_PradalC.mdb")));
+        QVERIFY(QFile::copy(origen, i.En("BD_PradalC.mdb")));
+        QVERIFY(!Arrancar(i.sesion));
+        const auto vistas = cajas.Vistas();
+        QCOMPARE(vistas.size(), 1);
+        QCOMPARE(vistas[0].titulo, QString(" Error de acceso"));
+        QVERIFY(!vistas[0].detalle.isEmpty());
+        QFile antes(origen), ahora(i.sesion.rutas.BasePrincipal());
+        QVERIFY(antes.open(QIODevice::ReadOnly) && ahora.open(QIODevice::ReadOnly));
+        QVERIFY(antes.readAll() == ahora.readAll());
     }
 
     void NombresDeOtraCaja() {
@@ -122,9 +164,11 @@ private Q_SLOTS:
     }
 
     void ElTextoDelErrorInesperado() {
-        const QStringList lineas = TextoErrorInesperado(60010, "Origen de datos No Creado: OD_TOROS").split('\r');
+        const QStringList lineas =
+            TextoErrorInesperado(60010, "Origen de datos No Creado: OD_TOROS").split('\r');
         QCOMPARE(lineas.size(), 4);
-        QCOMPARE(lineas[0], QString("Se ha producido un error inesperado. Consulte al administrador de la aplicación"));
+        QCOMPARE(lineas[0],
+                 QString("Se ha producido un error inesperado. Consulte al administrador de la aplicación"));
         QCOMPARE(lineas[1], QString(124, '-'));
         QCOMPARE(lineas[2], QString("Código de error: 60010"));
         QCOMPARE(lineas[3], QString("Descripción: Origen de datos No Creado: OD_TOROS"));
@@ -159,7 +203,8 @@ private Q_SLOTS:
         qputenv("PASTORIX_HOME", (casa.path() + "/./").toUtf8());
         QCOMPARE(Rutas::Buscar().Programa(), casa.path());
         qunsetenv("PASTORIX_HOME");
-        QCOMPARE(Rutas::Buscar().Programa(), CarpetaDelUsuario()); // nothing was delivered beside this executable
+        QCOMPARE(Rutas::Buscar().Programa(),
+                 CarpetaDelUsuario()); // nothing was delivered beside this executable
     }
 
     void LaCarpetaDelUsuarioSeRellenaUnaVez() {

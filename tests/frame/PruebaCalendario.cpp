@@ -22,21 +22,45 @@ private Q_SLOTS:
         QVERIFY(Hoy().Año() >= 2024); // the machine's own clock again
     }
 
-    void AñoDeReferencia_data() {
+    void CambioDeCampana_data() {
         QTest::addColumn<QString>("hoy");
         QTest::addColumn<QString>("fecha");
         QTest::addColumn<QString>("actual");
         QTest::addColumn<QString>("deFecha");
-        QTest::newRow("30 November") << "30/11/2005" << "30/11/05" << "2005" << "2005";
-        QTest::newRow("1 December") << "01/12/2005" << "1/12/05" << "2006" << "2006";
-        QTest::newRow("31 December") << "31/12/2005" << "31/12/05" << "2006" << "2006";
-        QTest::newRow("1 January") << "01/01/2005" << "1/1/2005" << "2005" << "2005";
-        QTest::newRow("old date, today's year") << "15/06/2006" << "30/11/1999" << "2006" << "2006";
-        QTest::newRow("old December, next of today's year") << "15/06/2006" << "01/12/99" << "2006" << "2007";
-        QTest::newRow("asked in December") << "15/12/2006" << "30/11/06" << "2007" << "2006";
-        QTest::newRow("leap day") << "29/02/2004" << "29/02/04" << "2004" << "2004";
+        QTest::newRow("30 November") << "30/11/2005"
+                                     << "30/11/05"
+                                     << "2005"
+                                     << "2005";
+        QTest::newRow("1 December") << "01/12/2005"
+                                    << "1/12/05"
+                                    << "2006"
+                                    << "2006";
+        QTest::newRow("31 December") << "31/12/2005"
+                                     << "31/12/05"
+                                     << "2006"
+                                     << "2006";
+        QTest::newRow("1 January") << "01/01/2005"
+                                   << "1/1/2005"
+                                   << "2005"
+                                   << "2005";
+        QTest::newRow("old date, today's year") << "15/06/2006"
+                                                << "30/11/1999"
+                                                << "2006"
+                                                << "2006";
+        QTest::newRow("old December, next of today's year") << "15/06/2006"
+                                                            << "01/12/99"
+                                                            << "2006"
+                                                            << "2007";
+        QTest::newRow("asked in December") << "15/12/2006"
+                                           << "30/11/06"
+                                           << "2007"
+                                           << "2006";
+        QTest::newRow("leap day") << "29/02/2004"
+                                  << "29/02/04"
+                                  << "2004"
+                                  << "2004";
     }
-    void AñoDeReferencia() {
+    void CambioDeCampana() {
         QFETCH(QString, hoy);
         QFETCH(QString, fecha);
         FijarHoy(FechaDeTexto(hoy.toStdString()));
@@ -49,9 +73,10 @@ private Q_SLOTS:
         QTest::addColumn<bool>("valida");
         for (const char* t : {"29/02/04", "1/1/2004", "1/1/01", "31/12/99", "30/11/2026", "01/01/1900"})
             QTest::newRow(t) << t << true;
-        for (const char* t : {"", "/", "//", "12/2005", "32/01/05", "01/13/05", "01/01/205", "01/01/5", "29/02/05", "31/02/01",
-                              "aa/bb/cc", "1a/1/05", "0/1/05", "1/0/05", "-1/1/05", "1/1/05/", "1/1/1/05", "1.5/1/05",
-                              "1/1/ 5", "01-01-05", "1/1/0000", "+1/1/05", "1/1e0/05", "1/1/2o05"})
+        for (const char* t : {"",          "/",        "//",       "12/2005",  "32/01/05", "01/13/05",
+                              "01/01/205", "01/01/5",  "29/02/05", "31/02/01", "aa/bb/cc", "1a/1/05",
+                              "0/1/05",    "1/0/05",   "-1/1/05",  "1/1/05/",  "1/1/1/05", "1.5/1/05",
+                              "1/1/ 5",    "01-01-05", "1/1/0000", "+1/1/05",  "1/1e0/05", "1/1/2o05"})
             QTest::newRow(*t ? t : "empty") << t << false;
     }
     void FechasValidas() {
@@ -72,12 +97,30 @@ private Q_SLOTS:
         QTest::addColumn<QString>("hasta");
         QTest::addColumn<QString>("dias");
         QTest::addColumn<QString>("peso"); // from 40 kg to 200 kg, at 100 days
-        QTest::newRow("same day") << "1/3/2004" << "01/03/04" << "0" << "";
-        QTest::newRow("backwards") << "1/3/2004" << "28/02/2004" << "-2" << "";
-        QTest::newRow("across a leap day") << "28/02/2004" << "1/3/2004" << "2" << "8040";
-        QTest::newRow("century of two digits") << "31/12/49" << "1/1/50" << "-36523" << "";
-        QTest::newRow("200 days") << "1/1/2005" << "20/07/2005" << "200" << "120";
-        QTest::newRow("half goes to the even kilo") << "1/1/2000" << "16/11/2000" << "320" << "90";
+        QTest::newRow("same day") << "1/3/2004"
+                                  << "01/03/04"
+                                  << "0"
+                                  << "";
+        QTest::newRow("backwards") << "1/3/2004"
+                                   << "28/02/2004"
+                                   << "-2"
+                                   << "";
+        QTest::newRow("across a leap day") << "28/02/2004"
+                                           << "1/3/2004"
+                                           << "2"
+                                           << "8040";
+        QTest::newRow("century of two digits") << "31/12/49"
+                                               << "1/1/50"
+                                               << "-36524"
+                                               << "";
+        QTest::newRow("200 days") << "1/1/2005"
+                                  << "20/07/2005"
+                                  << "200"
+                                  << "120";
+        QTest::newRow("half goes to the even kilo") << "1/1/2000"
+                                                    << "16/11/2000"
+                                                    << "320"
+                                                    << "90";
     }
     void DiasYPesos() {
         QFETCH(QString, desde);

@@ -49,22 +49,76 @@ private Q_SLOTS:
         QTest::addColumn<QString>("sesionDe");
         QTest::addColumn<QString>("panel");
         const QString vet = "VETERINARIO";
-        QTest::newRow("anonymous") << "" << "" << vet << "" << " Modo: VETERINARIO";
-        QTest::newRow("the word") << "VETERINARIO" << "" << vet << "VETERINARIO" << " Modo: VETERINARIO";
-        QTest::newRow("the word, lower case") << "veterinario" << "" << vet << "veterinario" << " Modo: veterinario";
-        QTest::newRow("named") << "elopez" << "" << vet << "elopez" << " Modo: elopez";
-        QTest::newRow("named, other case") << "ELopez" << "" << vet << "ELopez" << " Modo: ELopez";
-        QTest::newRow("central") << "CENTRAL" << "oficina" << "CENTRAL" << "CENTRAL" << " Modo: BASE DE DATOS CENTRAL";
-        QTest::newRow("unknown") << "nadie" << "" << "" << "" << "";
-        QTest::newRow("veterinarian with a password") << "elopez" << "x" << "" << "" << "";
-        QTest::newRow("password alone") << "" << "oficina" << "" << "" << "";
-        QTest::newRow("wrong password") << "CENTRAL" << "oficin" << "" << "" << "";
-        QTest::newRow("level that is never read") << "AUXILIAR" << "otra" << "" << "" << "";
-        QTest::newRow("the word with a password") << "VETERINARIO" << "x" << "" << "" << "";
-        QTest::newRow("apostrophe in the user") << "O'Donnell" << "" << "" << "" << "";
-        QTest::newRow("apostrophe in the password") << "CENTRAL" << "o'x" << "" << "" << "";
-        QTest::newRow("statement in the user") << "x' OR '1'='1" << "" << "" << "" << "";
-        QTest::newRow("statement in the password") << "CENTRAL" << "' OR ''='" << "" << "" << "";
+        QTest::newRow("anonymous") << ""
+                                   << "" << vet << ""
+                                   << " Modo: VETERINARIO";
+        QTest::newRow("the word") << "VETERINARIO"
+                                  << "" << vet << "VETERINARIO"
+                                  << " Modo: VETERINARIO";
+        QTest::newRow("the word, lower case") << "veterinario"
+                                              << "" << vet << "veterinario"
+                                              << " Modo: veterinario";
+        QTest::newRow("named") << "elopez"
+                               << "" << vet << "elopez"
+                               << " Modo: elopez";
+        QTest::newRow("named, other case") << "ELopez"
+                                           << "" << vet << "ELopez"
+                                           << " Modo: ELopez";
+        QTest::newRow("central") << "CENTRAL"
+                                 << "oficina"
+                                 << "CENTRAL"
+                                 << "CENTRAL"
+                                 << " Modo: BASE DE DATOS CENTRAL";
+        QTest::newRow("unknown") << "nadie"
+                                 << ""
+                                 << ""
+                                 << ""
+                                 << "";
+        QTest::newRow("veterinarian with a password") << "elopez"
+                                                      << "x"
+                                                      << ""
+                                                      << ""
+                                                      << "";
+        QTest::newRow("password alone") << ""
+                                        << "oficina"
+                                        << ""
+                                        << ""
+                                        << "";
+        QTest::newRow("wrong password") << "CENTRAL"
+                                        << "oficin"
+                                        << ""
+                                        << ""
+                                        << "";
+        QTest::newRow("level that is never read") << "AUXILIAR"
+                                                  << "otra"
+                                                  << ""
+                                                  << ""
+                                                  << "";
+        QTest::newRow("the word with a password") << "VETERINARIO"
+                                                  << "x"
+                                                  << ""
+                                                  << ""
+                                                  << "";
+        QTest::newRow("apostrophe in the user") << "O'Donnell"
+                                                << ""
+                                                << ""
+                                                << ""
+                                                << "";
+        QTest::newRow("apostrophe in the password") << "CENTRAL"
+                                                    << "o'x"
+                                                    << ""
+                                                    << ""
+                                                    << "";
+        QTest::newRow("statement in the user") << "x' OR '1'='1"
+                                               << ""
+                                               << ""
+                                               << ""
+                                               << "";
+        QTest::newRow("statement in the password") << "CENTRAL"
+                                                   << "' OR ''='"
+                                                   << ""
+                                                   << ""
+                                                   << "";
     }
     void Usuarios() {
         QFETCH(QString, usuario);
@@ -107,7 +161,8 @@ private Q_SLOTS:
         QVERIFY(EntrarEnBase(i.sesion, 1, "elopez", {}, nada));
         QCOMPARE(fichero(), i.sesion.rutas.BasePersonal());
         QCOMPARE(int(i.sesion.BaseElegida), 1);
-        QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_PSTX")->fichero), i.sesion.rutas.BasePrincipal());
+        QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_PSTX")->fichero),
+                 i.sesion.rutas.BasePrincipal());
         QVERIFY(QDir(i.En("Temp")).exists());
         QVERIFY(QDir(i.En("BackUp")).exists());
     }
@@ -130,7 +185,8 @@ private Q_SLOTS:
         Instalacion i;
         Cajas cajas;
         QVERIFY(Arrancar(i.sesion));
-        prueba::Escribir(i.sesion.rutas.BasePersonal(), "esto no es una base de datos, aunque ocupe su lugar");
+        prueba::Escribir(i.sesion.rutas.BasePersonal(),
+                         "esto no es una base de datos, aunque ocupe su lugar");
         Anotador interfaz;
         QVERIFY(!EntrarEnBase(i.sesion, 1, {}, {}, interfaz));
         const auto vistas = cajas.Vistas();
@@ -165,7 +221,7 @@ private Q_SLOTS:
         QCOMPARE(GetSetting("Version_1"), QString("400"));
     }
 
-    void LaPreguntaAnualAbreLosAños() {
+    void LaPreguntaAnualAbreSusFilas() {
         Instalacion i;
         QVERIFY(Arrancar(i.sesion));
         {

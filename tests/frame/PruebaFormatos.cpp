@@ -14,24 +14,42 @@ private Q_SLOTS:
         QTest::addColumn<double>("numero");
         QTest::addColumn<QString>("mascara");
         QTest::addColumn<QString>("texto");
-        QTest::newRow("half up") << 2.5 << "##0" << "3";
-        QTest::newRow("half away from zero") << -2.5 << "##0" << "-3";
-        QTest::newRow("zero keeps its digit") << 0.0 << "###0" << "0";
-        QTest::newRow("zero without a digit") << 0.0 << "###" << "";
-        QTest::newRow("no negative zero") << -0.4 << "##0" << "0";
-        QTest::newRow("mask shorter than the number") << 1200044.0 << "##0" << "1200044";
-        QTest::newRow("one decimal") << 12.25 << "#####0.0" << "12,3";
-        QTest::newRow("binary neighbour of a half") << 0.285 << "0.00" << "0,29";
-        QTest::newRow("sum with a tail") << 0.1 + 0.2 << "0.0##" << "0,3";
-        QTest::newRow("carries into a new digit") << 999.96 << "###0.0" << "1000,0";
-        QTest::newRow("carry below one") << 0.96 << "##0.0" << "1,0";
-        QTest::newRow("tiny") << 4e-9 << "##0.0" << "0,0";
-        QTest::newRow("thousands") << 1234567.891 << "###,##0.00" << "1.234.567,89";
-        QTest::newRow("thousands, none") << 12.0 << "###,##0.00" << "12,00";
-        QTest::newRow("leading zeros") << 7.0 << "000" << "007";
-        QTest::newRow("no whole digit") << 0.5 << "#.0" << ",5";
-        QTest::newRow("beyond 15 digits") << 1e17 << "##0" << "100000000000000000";
-        QTest::newRow("text around") << 45.6 << "##0 %" << "46 %";
+        QTest::newRow("half up") << 2.5 << "##0"
+                                 << "3";
+        QTest::newRow("half away from zero") << -2.5 << "##0"
+                                             << "-3";
+        QTest::newRow("zero keeps its digit") << 0.0 << "###0"
+                                              << "0";
+        QTest::newRow("zero without a digit") << 0.0 << "###"
+                                              << "";
+        QTest::newRow("no negative zero") << -0.4 << "##0"
+                                          << "0";
+        QTest::newRow("mask shorter than the number") << 1200044.0 << "##0"
+                                                      << "1200044";
+        QTest::newRow("one decimal") << 12.25 << "#####0.0"
+                                     << "12,3";
+        QTest::newRow("binary neighbour of a half") << 0.285 << "0.00"
+                                                    << "0,29";
+        QTest::newRow("sum with a tail") << 0.1 + 0.2 << "0.0##"
+                                         << "0,3";
+        QTest::newRow("carries into a new digit") << 999.96 << "###0.0"
+                                                  << "1000,0";
+        QTest::newRow("carry below one") << 0.96 << "##0.0"
+                                         << "1,0";
+        QTest::newRow("tiny") << 4e-9 << "##0.0"
+                              << "0,0";
+        QTest::newRow("thousands") << 1234567.891 << "###,##0.00"
+                                   << "1.234.567,89";
+        QTest::newRow("thousands, none") << 12.0 << "###,##0.00"
+                                         << "12,00";
+        QTest::newRow("leading zeros") << 7.0 << "000"
+                                       << "007";
+        QTest::newRow("no whole digit") << 0.5 << "#.0"
+                                        << ",5";
+        QTest::newRow("beyond 15 digits") << 1e17 << "##0"
+                                          << "100000000000000000";
+        QTest::newRow("text around") << 45.6 << "##0 %"
+                                     << "46 %";
     }
     void Mascaras() {
         QFETCH(double, numero);
@@ -51,7 +69,8 @@ private Q_SLOTS:
         QCOMPARE(AEntero(40000.5), 40000);
         QVERIFY_THROWS_EXCEPTION(ErrorDeEjecucion, AEntero(1e19));
         QVERIFY_THROWS_EXCEPTION(ErrorDeEjecucion, AEntero(std::numeric_limits<double>::quiet_NaN()));
-        QVERIFY_THROWS_EXCEPTION(ErrorDeEjecucion, FormatoNumero(1.0 / std::numeric_limits<double>::denorm_min(), "0"));
+        QVERIFY_THROWS_EXCEPTION(ErrorDeEjecucion,
+                                 FormatoNumero(1.0 / std::numeric_limits<double>::denorm_min(), "0"));
     }
 
     void Lecturas_data() {

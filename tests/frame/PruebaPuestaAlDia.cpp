@@ -30,24 +30,38 @@ private Q_SLOTS:
     }
 
     void LasReparacionesDejanLaBaseAlDia() {
-        Insertar(C(), "T_Servicios", {{"Id_Vaca", 1.0}, {"Año_Ref", 2025.0}, {"N_Parto", 1.0}, {"N_Servicio", 1.0}});
+        Insertar(C(), "T_Servicios",
+                 {{"Id_Vaca", 1.0}, {"Año_Ref", 2025.0}, {"N_Parto", 1.0}, {"N_Servicio", 1.0}});
         Insertar(C(), "T_Servicios", {{"Id_Vaca", 2.0}, {"Año_Ref", 2025.0}, {"N_Servicio", 1.0}});
         Insertar(C(), "T_Partos", {{"Id_Parto", 1.0}, {"Id_Vaca", 1.0}, {"N_Parto", 0.0}});
         Insertar(C(), "T_Partos", {{"Id_Parto", 2.0}, {"Id_Vaca", 1.0}, {"N_Parto", 1.0}});
-        Insertar(C(), "T_Cubriciones", {{"Id_Cubricion", 1.0}, {"Id_Vaca", 1.0}, {"DescEnfReprod", Texto("0")},
-                                        {"DescEnfermedad", Texto("0")}, {"Txt_Otra_Causa", Texto("0")}});
-        Insertar(C(), "T_Cubriciones", {{"Id_Cubricion", 2.0}, {"Id_Vaca", 2.0}, {"EnfReprod", 1.0}, {"Enfermendad", 1.0},
-                                        {"DescCausaPpal", Texto("00")}, {"DescEnfReprod", Texto("Metritis")}});
+        Insertar(C(), "T_Cubriciones",
+                 {{"Id_Cubricion", 1.0},
+                  {"Id_Vaca", 1.0},
+                  {"DescEnfReprod", Texto("0")},
+                  {"DescEnfermedad", Texto("0")},
+                  {"Txt_Otra_Causa", Texto("0")}});
+        Insertar(C(), "T_Cubriciones",
+                 {{"Id_Cubricion", 2.0},
+                  {"Id_Vaca", 2.0},
+                  {"EnfReprod", 1.0},
+                  {"Enfermendad", 1.0},
+                  {"DescCausaPpal", Texto("00")},
+                  {"DescEnfReprod", Texto("Metritis")}});
         for (int vez = 0; vez < 2; ++vez) { // the second run changes nothing
             Reparar(C());
             QCOMPARE(Contar(C(), "T_Servicios"), 1L);
             QCOMPARE(Contar(C(), "T_Partos"), 1L);
             QCOMPARE(Contar(C(), "T_Cubriciones", "EnfReprod = 0 AND Enfermendad = 0"), 1L);
             QCOMPARE(Contar(C(), "T_Cubriciones", "EnfReprod = 1 AND Enfermendad = 1"), 1L);
-            QCOMPARE(Contar(C(), "T_Cubriciones", "Id_Cubricion = 1 AND DescEnfReprod Is Null AND DescEnfermedad Is Null AND "
-                                                  "Txt_Otra_Causa Is Null AND DescCausaPpal Is Null"), 1L);
-            QCOMPARE(Leer(C(), "SELECT DescCausaPpal FROM T_Cubriciones WHERE Id_Cubricion = 2"), std::string("00"));
-            QCOMPARE(Leer(C(), "SELECT DescEnfReprod FROM T_Cubriciones WHERE Id_Cubricion = 2"), std::string("Metritis"));
+            QCOMPARE(Contar(C(), "T_Cubriciones",
+                            "Id_Cubricion = 1 AND DescEnfReprod Is Null AND DescEnfermedad Is Null AND "
+                            "Txt_Otra_Causa Is Null AND DescCausaPpal Is Null"),
+                     1L);
+            QCOMPARE(Leer(C(), "SELECT DescCausaPpal FROM T_Cubriciones WHERE Id_Cubricion = 2"),
+                     std::string("00"));
+            QCOMPARE(Leer(C(), "SELECT DescEnfReprod FROM T_Cubriciones WHERE Id_Cubricion = 2"),
+                     std::string("Metritis"));
         }
     }
 
@@ -62,11 +76,14 @@ private Q_SLOTS:
         QCOMPARE(Leer(C(), "SELECT DemoraServIPR FROM T_Cubriciones"), std::string("0"));
     }
 
-    void LosAñosSeAbrenUnaVezParaLasQueEstan() {
+    void LasFilasSeAbrenUnaVezParaLasQueEstan() {
         Insertar(C(), "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
-        Insertar(C(), "T_Vacas", {{"Id_Vaca", 12002.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", *Fecha::De(2025, 12, 31)}});
+        Insertar(C(), "T_Vacas",
+                 {{"Id_Vaca", 12002.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", *Fecha::De(2025, 12, 31)}});
         Insertar(C(), "T_Vacas", {{"Id_Vaca", 57001.0}, {"Id_Ganadero", 57.0}});
-        Insertar(C(), "T_IBRBVD", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}, {"AñoNat", 2026.0}, {"ObsIBRBVD", Texto("suya")}});
+        Insertar(
+            C(), "T_IBRBVD",
+            {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}, {"AñoNat", 2026.0}, {"IBRsp", Texto("Positiva")}});
         Insertar(C(), "T_IBRBVD", {{"Id_Vaca", 57001.0}, {"Id_Ganadero", 57.0}, {"AñoNat", 2025.0}});
         QList<QPair<int, int>> avances;
         QCOMPARE(InicializarAñosNaturales(C(), [&](int h, int t) { avances << qMakePair(h, t); }), 7L);
@@ -75,13 +92,15 @@ private Q_SLOTS:
             QCOMPARE(Contar(C(), tabla, "AñoNat = 2026"), 2L);
             QCOMPARE(Contar(C(), tabla, "Id_Vaca = 57001 AND Id_Ganadero = 57 AND AñoNat = 2026"), 1L);
         }
-        QCOMPARE(Leer(C(), "SELECT ObsIBRBVD FROM T_IBRBVD WHERE Id_Vaca = 12001"), std::string("suya"));
+        QCOMPARE(Leer(C(), "SELECT IBRsp FROM T_IBRBVD WHERE Id_Vaca = 12001"), std::string("Positiva"));
         QCOMPARE(InicializarAñosNaturales(C()), 0L);
         FijarHoy(Fecha::De(2027, 1, 1));
         QCOMPARE(InicializarAñosNaturales(C()), 8L);
     }
 
-    void SinVacasNoPasaNada() { QCOMPARE(InicializarAñosNaturales(C(), [](int, int) { QFAIL("no row"); }), 0L); }
+    void SinVacasNoPasaNada() {
+        QCOMPARE(InicializarAñosNaturales(C(), [](int, int) { QFAIL("no row"); }), 0L);
+    }
 
     void UnFalloAMediasConservaLoHecho() {
         for (int vaca = 1; vaca <= 3; ++vaca)

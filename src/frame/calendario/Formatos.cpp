@@ -121,11 +121,14 @@ std::string FormatoNumero(double n, std::string_view mascara) {
 }
 
 double Round(double n, int decimales) {
+    if (decimales == 0)
+        return std::nearbyint(n); // the processor's default rounding: halves to even
     const double potencia = std::pow(10.0, decimales);
-    const double escalado = n * potencia;
-    if (!std::isfinite(escalado))
-        return n;
-    return std::nearbyint(escalado) / potencia; // the default rounding of the processor: halves to even
+    // The product of a decimal fraction carries a tail (2,345 x 100 is a little above 234,5); 15 digits cut it off.
+    char texto[40];
+    std::snprintf(texto, sizeof texto, "%.15g", n * potencia);
+    const double escalado = std::strtod(texto, nullptr);
+    return std::isfinite(escalado) ? std::nearbyint(escalado) / potencia : n;
 }
 
 std::int64_t AEntero(double n) {

@@ -1,0 +1,287 @@
+#include "prueba.h"
+
+#include "Cajas.h"
+#include "Instalacion.h"
+#include "frame/OrdenesPrincipal.h"
+#include "frame/Principal.h"
+#include "frame/calendario/Reloj.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+
+using namespace pastorix;
+using prueba::Cajas;
+using prueba::Contar;
+using prueba::Insertar;
+using prueba::Instalacion;
+using prueba::Texto;
+
+class PruebaPrincipal : public QObject {
+    Q_OBJECT
+
+private:
+    QUrl m_abierto;
+
+    static void VincularTodo(Principal& p) {
+        for (const EntradaDeMenu& e : MenusDePrincipal())
+            if (e.clase == EntradaDeMenu::Clase::Orden &&
+                QString::fromUtf8(e.nombre) != QLatin1String("Mnu_Salir"))
+                p.Vincular(QString::fromUtf8(e.nombre), [] {});
+    }
+
+    // The letters that choose among those entries; a letter twice makes the keyboard stop at the first.
+    static void ExigirMnemonicosUnicos(const QList<QAction*>& acciones) {
+        QSet<QChar> letras;
+        for (const QAction* a : acciones) {
+            const qsizetype i = a->text().indexOf('&');
+            if (i < 0)
+                continue;
+            const QChar letra = a->text().at(i + 1).toLower();
+            QVERIFY2(!letras.contains(letra), qUtf8Printable(a->text()));
+            letras << letra;
+        }
+    }
+
+public Q_SLOTS:
+    void Abrir(const QUrl& url) { m_abierto = url; }
+
+private Q_SLOTS:
+    void init() { FijarHoy(Fecha::De(2026, 11, 22)); }
+    void cleanup() {
+        FijarHoy(std::nullopt);
+        QDesktopServices::unsetUrlHandler("file");
+    }
+
+    // The state of every entry that depends on database and mode: V visible, h hidden; E enabled, d disabled.
+    void EstadoPorEntradaYModo_data() {
+        QTest::addColumn<int>("entrada");
+        QTest::addColumn<QString>("usuario");
+        QTest::addColumn<QString>("clave");
+        QTest::addColumn<QString>("ocultas");
+        QTest::addColumn<QString>("inactivas"); // numbers are toolbar buttons
+        QTest::newRow("main, anonymous") << 0 << ""
+                                         << ""
+                                         << "Mnu_ControlCli Mnu_ExpTD"
+                                         << "MnuT MnuT1 4";
+        QTest::newRow("main, named") << 0 << "elopez"
+                                     << ""
+                                     << "Mnu_ControlCli Mnu_ExpTD"
+                                     << "MnuT MnuT1 Mnu_Veterinarios 3 4";
+        QTest::newRow("main, central") << 0 << "CENTRAL"
+                                       << "oficina"
+                                       << ""
+                                       << "MnuT MnuT1";
+        const QString personal = "Sep4 Mnu_Importar Mnu_Exportar Mnu_BorrarBackup";
+        QTest::newRow("personal, anonymous") << 1 << ""
+                                             << "" << personal + " Mnu_ControlCli Mnu_ExpTD"
+                                             << "MnuT MnuT2 4";
+        QTest::newRow("personal, named") << 1 << "elopez"
+                                         << "" << personal + " Mnu_ControlCli Mnu_ExpTD"
+                                         << "MnuT MnuT2 Mnu_Veterinarios 3 4";
+        QTest::newRow("personal, central") << 1 << "CENTRAL"
+                                           << "oficina" << personal << "MnuT MnuT2";
+    }
+    void EstadoPorEntradaYModo() {
+        QFETCH(int, entrada);
+        QFETCH(QString, usuario);
+        QFETCH(QString, clave);
+        QFETCH(QString, ocultas);
+        QFETCH(QString, inactivas);
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        i.PonerUsuarios();
+        Principal p(i.sesion);
+        VincularTodo(p);
+        EntradaEnPrincipal interfaz(p);
+        QVERIFY(EntrarEnBase(i.sesion, entrada, usuario, clave, interfaz));
+
+        QStringList escondidas = ocultas.split(' ', Qt::SkipEmptyParts), apagadas = inactivas.split(' ');
+        escondidas << "MnuCausaPrincipal";
+        for (const EntradaDeMenu& e : MenusDePrincipal()) {
+            const QString nombre = QString::fromUtf8(e.nombre);
+            QVERIFY2(p.Orden(nombre)->isVisible() == !escondidas.contains(nombre), e.nombre);
+            if (p.Orden(nombre)->isVisible()) // the toolkit calls whatever is hidden disabled
+                QVERIFY2(p.Orden(nombre)->isEnabled() == !apagadas.contains(nombre), e.nombre);
+        }
+        for (const int boton : {1, 3, 4, 5, 7, 8})
+            QVERIFY2(p.Boton(boton)->isEnabled() == !apagadas.contains(QString::number(boton)),
+                     qPrintable(QString::number(boton)));
+        QCOMPARE(p.windowTitle(), QString("PASTORIX.    (3.09)"));
+    }
+
+    void UnIntentoFallidoNoDejaRestoEnElSiguiente() {
+        // Personal as nobody, then the main one as central: hidden entries come back.
+        Instalacion i;
+        Cajas cajas;
+        QVERIFY(Arrancar(i.sesion));
+        i.PonerUsuarios();
+        Principal p(i.sesion);
+        EntradaEnPrincipal interfaz(p);
+        QVERIFY(!EntrarEnBase(i.sesion, 1, "nadie", {}, interfaz));
+        QCOMPARE(p.Panel(), QString(" Modo: (Base de Datos Personal)"));
+        QVERIFY(EntrarEnBase(i.sesion, 0, "CENTRAL", "oficina", interfaz));
+        for (const char* orden :
+             {"Mnu_ControlCli", "Sep4", "Mnu_Importar", "Mnu_Exportar", "Mnu_ExpTD", "Mnu_BorrarBackup"})
+            QVERIFY2(p.Orden(orden)->isVisible(), orden);
+        QCOMPARE(p.Panel(), QString(" Modo: BASE DE DATOS CENTRAL"));
+        QCOMPARE(cajas.Tomar().size(), 1);
+    }
+
+    void LasOrdenesSeVinculanDesdeFuera() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        QVERIFY(!p.Orden("Mnu_Vacas")->isEnabled());
+        QVERIFY(!p.Boton(7)->isEnabled());
+        int veces = 0;
+        p.Vincular("Mnu_Vacas", [&] { ++veces; });
+        p.Orden("Mnu_Vacas")->trigger();
+        p.Boton(7)->trigger();
+        QCOMPARE(veces, 2);
+        p.Vincular("Mnu_Veterinarios", [&] { ++veces; });
+        p.Activar("Mnu_Veterinarios", false); // the mode's word stands over the binding
+        p.ActivarBoton(3, false);
+        p.Vincular("Mnu_Veterinarios", [&] { ++veces; });
+        p.Orden("Mnu_Veterinarios")->trigger();
+        p.Boton(3)->trigger();
+        p.Boton(4)->trigger(); // no command at all
+        QCOMPARE(veces, 2);
+        prueba::EsperarAviso("no such command: Mnu_Nada");
+        p.Vincular("Mnu_Nada", [] {});
+    }
+
+    void LaCausaPrincipalSeEligeEnUnMenuDeContexto() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        bool elegida = false;
+        p.Vincular("MnuPpal", [&] { elegida = true; });
+        QTimer::singleShot(0, &p, [&] {
+            QMenu* menu = p.MenuCausaPrincipal();
+            QVERIFY(menu->isVisible());
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(p.Orden("MnuPpal")).center());
+        });
+        QCOMPARE(p.MenuCausaPrincipal()->exec(QPoint(50, 50)), p.Orden("MnuPpal"));
+        QVERIFY(elegida);
+    }
+
+    void LosNombresSonUnicosYLasLetrasTambien() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        QSet<QString> nombres;
+        for (const EntradaDeMenu& e : MenusDePrincipal()) {
+            QVERIFY2(!nombres.contains(e.nombre), e.nombre);
+            nombres << e.nombre;
+            QVERIFY2(p.findChild<QAction*>(QString::fromUtf8(e.nombre)) ==
+                         p.Orden(QString::fromUtf8(e.nombre)),
+                     e.nombre);
+        }
+        ExigirMnemonicosUnicos(p.menuBar()->actions());
+        for (const QMenu* menu : p.findChildren<QMenu*>())
+            ExigirMnemonicosUnicos(menu->actions());
+    }
+
+    void TodosLosBotonesTienenDibujoYNombre() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        auto* barra = p.findChild<QToolBar*>("BarraHerr");
+        for (const BotonDeBarra& b : BarraDePrincipal()) {
+            if (!*b.texto) {
+                QVERIFY(p.Boton(b.indice)->isSeparator());
+                continue;
+            }
+            QVERIFY2(!p.Boton(b.indice)->icon().pixmap(32).isNull(), b.texto);
+            QCOMPARE(p.Boton(b.indice)->toolTip(), QString::fromUtf8(b.texto));
+            QVERIFY(barra->widgetForAction(p.Boton(b.indice)));
+        }
+    }
+
+    void ElHistorialGuardaDiezDias() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        for (const int hace : {0, 10, 11, 400})
+            Insertar(i.sesion.conexion, "Historial",
+                     {{"Equipo", Texto("CENTRAL")}, {"Fecha", Hoy().MasDias(-hace)}});
+        {
+            Conexion personal = i.Abrir("BD_PradalP.mdb");
+            Insertar(personal, "Historial", {{"Equipo", Texto("X")}, {"Fecha", Hoy().MasDias(-400)}});
+        }
+        Principal p(i.sesion);
+        QCOMPARE(Contar(i.sesion.conexion, "Historial"), 2L);
+        InterfazDeEntrada nada;
+        QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada));
+        QCOMPARE(Contar(i.sesion.conexion, "Historial"), 1L); // the personal one is never purged
+    }
+
+    void SalirTerminaElPrograma_data() {
+        QTest::addColumn<QString>("por");
+        for (const char* por : {"menu", "boton", "cierre"})
+            QTest::newRow(por) << por;
+    }
+    void SalirTerminaElPrograma() {
+        QFETCH(QString, por);
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        p.show();
+        QSignalSpy salida(&p, &Principal::Salida);
+        if (por == "menu")
+            p.Orden("Mnu_Salir")->trigger();
+        else if (por == "boton")
+            p.Boton(1)->trigger();
+        else
+            p.close();
+        QCOMPARE(salida.size(), 1);
+        QVERIFY(!p.isVisible());
+    }
+
+    void ElManual() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        QDesktopServices::setUrlHandler("file", this, "Abrir");
+        {
+            Cajas cajas;
+            p.Orden("Mnu_Manual")->trigger();
+            QCOMPARE(cajas.Tomar(),
+                     QStringList{"Atención|No es posible abrir el documento: " +
+                                 QDir::toNativeSeparators(i.En("manual.pdf")) +
+                                 "\r\nCompruebe el funcionamiento de su visor de ficheros PDF"});
+            QVERIFY(m_abierto.isEmpty());
+        }
+        prueba::Escribir(i.En("Manual.PDF"));
+        p.Orden("Mnu_Manual")->trigger();
+        QCOMPARE(m_abierto.toLocalFile(), i.En("Manual.PDF"));
+    }
+
+    void LosPanelesDeEstado() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Principal p(i.sesion);
+        p.show();
+        auto* modo = p.findChild<QLabel*>("StatusBar1.Panel(1)");
+        auto* fecha = p.findChild<QLabel*>("StatusBar1.Panel(2)");
+        p.FijarPanel(" Modo: <b>x</b>");
+        QCOMPARE(modo->text(), QString(" Modo: <b>x</b>"));
+        QCOMPARE(modo->textFormat(), Qt::PlainText);
+        QCOMPARE(fecha->text(), QString("22/11/2026"));
+        FijarHoy(Fecha::De(2026, 11, 23)); // midnight passes
+        p.resize(700, 500);
+        QCOMPARE(fecha->text(), QString("23/11/2026"));
+        QVERIFY(modo->width() > fecha->width());
+        QVERIFY(p.minimumSizeHint().width() <= 700);
+    }
+};
+
+PRUEBA(PruebaPrincipal)
+#include "PruebaPrincipal.moc"

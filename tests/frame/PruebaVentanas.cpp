@@ -1,0 +1,267 @@
+#include "prueba.h"
+
+#include "Cajas.h"
+#include "Instalacion.h"
+#include "frame/AbrirSesion.h"
+#include "frame/Acerca.h"
+#include "frame/Ciclo.h"
+#include "frame/ControlEquipos.h"
+#include "frame/Presentacion.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTimer>
+
+using namespace pastorix;
+using prueba::Cajas;
+using prueba::Insertar;
+using prueba::Instalacion;
+using prueba::Texto;
+
+class PruebaVentanas : public QObject {
+    Q_OBJECT
+
+private:
+    // A started program with its main window loaded and the login on show.
+    struct Escena {
+        explicit Escena(bool entradaPrincipal = false) {
+            if (!Arrancar(i.sesion))
+                qFatal("the start failed");
+            i.PonerUsuarios();
+            principal = std::make_unique<Principal>(i.sesion);
+            abrir = new AbrirSesion(i.sesion, *principal, entradaPrincipal);
+            abrir->show();
+            if (!QTest::qWaitForWindowActive(abrir))
+                qCritical("the login does not become active");
+        }
+        ~Escena() { delete abrir; }
+        QLineEdit* Campo(int n) const {
+            return abrir->findChild<QLineEdit*>(QStringLiteral("Text1(%1)").arg(n));
+        }
+        QPushButton* Boton(const char* nombre) const {
+            return abrir->findChild<QPushButton*>(QString::fromUtf8(nombre));
+        }
+
+        Instalacion i;
+        Cajas cajas;
+        std::unique_ptr<Principal> principal;
+        QPointer<AbrirSesion> abrir;
+    };
+
+private Q_SLOTS:
+    void LaPresentacionDuraCincoSegundosYDaPaso() {
+        Sesion sesion;
+        sesion.VersionPrograma = "Pastorix (3.09)";
+        int pasos = 0;
+        QPointer<Presentacion> p = new Presentacion(sesion, [&] { ++pasos; });
+        auto* reloj = p->findChild<QTimer*>("Reloj");
+        p->show();
+        QVERIFY(reloj->isActive());
+        QCOMPARE(reloj->interval(), 5000);
+        QCOMPARE(p->findChild<QLabel*>("Version")->text(), QString("Pastorix (3.09)"));
+        QTest::mouseClick(p, Qt::LeftButton); // nothing to press
+        QTest::keyClick(p, Qt::Key_Escape);
+        QVERIFY(p->isVisible());
+        reloj->start(1);
+        QTRY_VERIFY(!p);
+        QCOMPARE(pasos, 1);
+    }
+
+    void LaEntradaEntregadaSoloAbreLaPersonal() {
+        Escena e(false);
+        QVERIFY(!e.principal->isEnabled());
+        QVERIFY(!e.Boton("B_Aceptar(0)")->isEnabled());
+        QVERIFY(e.Boton("B_Aceptar(1)")->isEnabled());
+        QCOMPARE(e.Boton("B_Aceptar(1)")->toolTip(),
+                 QString(" No es necesario que indique contraseña, déjelo en blanco "));
+        QCOMPARE(e.abrir->focusWidget(), e.Campo(0));
+        QCOMPARE(e.Campo(1)->echoMode(), QLineEdit::Password);
+        QTest::mouseClick(e.Boton("B_Aceptar(0)"), Qt::LeftButton);
+        QVERIFY(e.i.sesion.ModoSesion.empty());
+    }
+
+    // Enter takes the personal entry wherever the focus is, in both editions.
+    void EnterEntraEnLaPersonal_data() {
+        QTest::addColumn<bool>("entradaPrincipal");
+        QTest::addColumn<QString>("foco");
+        for (const char* foco : {"Text1(0)", "Text1(1)", "B_Aceptar(1)", "IDF_Cancelar"}) {
+            QTest::addRow("%s", foco) << false << foco;
+            QTest::addRow("%s, office", foco) << true << foco;
+        }
+        QTest::newRow("B_Aceptar(0), office") << true << "B_Aceptar(0)";
+    }
+    void EnterEntraEnLaPersonal() {
+        QFETCH(bool, entradaPrincipal);
+        QFETCH(QString, foco);
+        Escena e(entradaPrincipal);
+        e.Campo(0)->setText("elopez");
+        auto* control = e.abrir->findChild<QWidget*>(foco);
+        control->setFocus();
+        e.cajas.Responder(false); // the yearly question
+        QTest::keyClick(control, Qt::Key_Return);
+        QCOMPARE(e.cajas.Tomar(), QStringList{" Confirme|Desea inicializar los Años Naturales ? "});
+        QCOMPARE(int(e.i.sesion.BaseElegida), 1);
+        QVERIFY(e.principal->isVisible());
+        QVERIFY(e.principal->isEnabled());
+        QTRY_VERIFY(!e.abrir);
+        QVERIFY(e.principal->isEnabled());
+    }
+
+    void LaOficinaEntraEnLaPrincipal() {
+        Escena e(true);
+        QTest::keyClicks(e.Campo(0), "CENTRAL");
+        QTest::keyClick(e.Campo(0), Qt::Key_Tab);
+        QCOMPARE(e.abrir->focusWidget(), e.Campo(1));
+        QTest::keyClicks(e.Campo(1), "oficina");
+        QTest::keyClick(e.Campo(1), Qt::Key_Tab);
+        QCOMPARE(e.abrir->focusWidget(), e.Boton("B_Aceptar(0)"));
+        e.cajas.Responder(true);
+        QTest::keyClick(e.Boton("B_Aceptar(0)"), Qt::Key_Space);
+        QCOMPARE(e.cajas.Tomar().size(), 1);
+        QCOMPARE(e.i.sesion.ModoSesion, std::string("CENTRAL"));
+        QCOMPARE(int(e.i.sesion.BaseElegida), 0);
+        QCOMPARE(QString::fromStdString(e.i.sesion.conexion.Fichero()), e.i.sesion.rutas.BasePrincipal());
+        QCOMPARE(e.principal->Panel(), QString(" Modo: BASE DE DATOS CENTRAL"));
+        QVERIFY(!QApplication::activeModalWidget()); // Ciclo has gone
+    }
+
+    void UnIntentoFallidoVaciaLaClave() {
+        Escena e(true);
+        e.Campo(0)->setText("o'brien");
+        e.Campo(1)->setText("x");
+        e.Campo(1)->setFocus();
+        QTest::keyClick(e.Campo(1), Qt::Key_Enter);
+        QCOMPARE(e.cajas.Tomar(), QStringList{"Adios|Usuario No Autorizado"});
+        QVERIFY(e.abrir->isVisible());
+        QVERIFY(!e.principal->isVisible());
+        QCOMPARE(e.Campo(1)->text(), QString());
+        QCOMPARE(e.abrir->focusWidget(), e.Campo(0));
+        QTRY_COMPARE(e.Campo(0)->selectedText(), QString("o'brien"));
+    }
+
+    void LosDosCaminosDeSalida_data() {
+        QTest::addColumn<QString>("por");
+        for (const char* por : {"Escape", "Cancelar", "cierre"})
+            QTest::newRow(por) << por;
+    }
+    void LosDosCaminosDeSalida() {
+        QFETCH(QString, por);
+        Escena e;
+        QSignalSpy salida(e.abrir, &AbrirSesion::Salida);
+        if (por == "Escape")
+            QTest::keyClick(e.Campo(1), Qt::Key_Escape);
+        else if (por == "Cancelar")
+            QTest::mouseClick(e.Boton("IDF_Cancelar"), Qt::LeftButton);
+        else
+            e.abrir->close();
+        QCOMPARE(salida.size(), 1);
+        QVERIFY(!e.principal->isVisible());
+    }
+
+    void ElCicloMuestraTantosPorCiento_data() {
+        QTest::addColumn<int>("hecho");
+        QTest::addColumn<int>("total");
+        QTest::addColumn<int>("porcentaje");
+        QTest::newRow("nothing done") << 0 << 700 << 1;
+        QTest::newRow("rounds to nothing") << 1 << 700 << 1;
+        QTest::newRow("half to even") << 5 << 200 << 2;
+        QTest::newRow("half to even, up") << 7 << 200 << 4;
+        QTest::newRow("all") << 700 << 700 << 100;
+        QTest::newRow("no total") << 0 << 0 << 1;
+        QTest::newRow("more than there is") << 9 << 3 << 100;
+        QTest::newRow("large") << 2'000'000'000 << 2'000'000'000 << 100;
+    }
+    void ElCicloMuestraTantosPorCiento() {
+        QFETCH(int, hecho);
+        QFETCH(int, total);
+        QFETCH(int, porcentaje);
+        Ciclo ciclo;
+        ciclo.show();
+        ciclo.Avance(hecho, total);
+        QCOMPARE(ciclo.findChild<QProgressBar*>("PBar")->value(), porcentaje);
+        QCOMPARE(ciclo.findChild<QLabel*>("Porcentaje")->text(), QString::number(porcentaje) + " %");
+        QCOMPARE(ciclo.findChild<QLabel*>("Ct_Estandar")->text(), QString("Generando informe"));
+        QTest::keyClick(&ciclo, Qt::Key_Escape);
+        QVERIFY(ciclo.isVisible());
+    }
+
+    void ElCicloSePuedeLlamarEnCadaFila() {
+        // A hundred paintings at most for a hundred thousand rows.
+        Ciclo ciclo;
+        ciclo.show();
+        int pintados = 0;
+        struct Contador : QObject {
+            int* n;
+            bool eventFilter(QObject*, QEvent* e) override {
+                *n += e->type() == QEvent::Paint;
+                return false;
+            }
+        } contador;
+        contador.n = &pintados;
+        ciclo.installEventFilter(&contador);
+        for (int fila = 0; fila < 100'000; ++fila)
+            ciclo.Avance(fila, 100'000);
+        QVERIFY2(pintados > 50 && pintados < 300, qPrintable(QString::number(pintados)));
+    }
+
+    void UnTrabajoCortoNoEnsenaElCiclo() {
+        CicloTardio corto(nullptr, "x");
+        corto.Avance(1, 2);
+        QVERIFY(!QApplication::activeModalWidget());
+        {
+            FuncionAvance largo = AvanceTardio(nullptr, "Preparando");
+            QTest::qSleep(520);
+            largo(1, 2);
+            QVERIFY(qobject_cast<Ciclo*>(QApplication::activeModalWidget()));
+        }
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void LaRelacionDeDistribucion() {
+        Instalacion i;
+        QVERIFY(Arrancar(i.sesion));
+        Conexion& c = i.sesion.conexion;
+        Insertar(c, "T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", Texto("Sofía")}});
+        Insertar(c, "T_Veterinarios", {{"Id_Veterinario", 3.0}, {"NombreVet", Texto("Ángel")}});
+        Insertar(c, "T_Ganaderos",
+                 {{"Id_Ganadero", 12.0}, {"Nombre", Texto("Nicolás")}, {"Id_Veterinario", 2.0}});
+        Insertar(c, "T_Ganaderos",
+                 {{"Id_Ganadero", 57.0},
+                  {"Nombre", Texto("Ñoel")},
+                  {"Apellidos", Texto("Cuesta")},
+                  {"Id_Veterinario", 3.0}});
+        Insertar(c, "T_Ganaderos", {{"Id_Ganadero", 85.0}, {"Nombre", Texto("Sin veterinario")}});
+        const auto filas = RelacionDeDistribucion(c);
+        QCOMPARE(filas.size(), std::size_t{3});
+        QCOMPARE(filas[0], (std::array<std::string, 3>{"", "Sin veterinario", ""}));
+        QCOMPARE(filas[1], (std::array<std::string, 3>{"Ángel", "Ñoel", "Cuesta"}));
+        QCOMPARE(filas[2][0], std::string("Sofía"));
+
+        ControlEquipos forma(filas, nullptr);
+        forma.show();
+        auto* rejilla = forma.findChild<QTableWidget*>("Grid");
+        QCOMPARE(rejilla->item(1, 1)->text(), QString("Ñoel"));
+        QVERIFY(rejilla->currentItem());
+        QVERIFY(!(rejilla->item(0, 0)->flags() & Qt::ItemIsEditable) ||
+                rejilla->editTriggers() == QAbstractItemView::NoEditTriggers);
+        QTest::keyClick(rejilla, Qt::Key_Escape);
+        QVERIFY(!forma.isVisible());
+    }
+
+    void LaListaQueNoSePuedeLeerSeDice() {
+        Cajas cajas;
+        Sesion cerrada;
+        MostrarControlEquipos(cerrada, nullptr);
+        const auto vistas = cajas.Vistas();
+        QCOMPARE(vistas.size(), 1);
+        QVERIFY(vistas[0].texto.startsWith("3704 ... "));
+    }
+};
+
+PRUEBA(PruebaVentanas)
+#include "PruebaVentanas.moc"
