@@ -124,6 +124,8 @@ private Q_SLOTS:
         QCOMPARE(ventana->findChild<VistaPaginas*>()->PaginaActual(), 1);
         formulario.reset();
         QVERIFY(Ventana());
+        ventana->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(ventana));
         QTest::keyClick(ventana, Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!Ventana());
@@ -159,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(pagina->value(), 5);
 
         for (const auto& [texto, esperado] :
-             {std::pair("200 %", 2.0), {"75", 0.75}, {"33,5%", 0.335}, {"9000 %", 5.0}, {"nada", 5.0}}) {
+             {std::pair("200 %", 2.0), {"75", 0.75}, {"33,5%", 0.34}, {"9000 %", 5.0}, {"nada", 5.0}}) {
             zoom->setEditText(QString::fromUtf8(texto));
             QTest::keyClick(zoom->lineEdit(), Qt::Key_Return);
             QCOMPARE(vista->Zoom(), esperado);

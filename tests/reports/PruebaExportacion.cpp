@@ -92,7 +92,7 @@ private Q_SLOTS:
         const QString destino = carpeta.filePath(QStringLiteral("nueva/tablas"));
         const QStringList ficheros = GuardarCsv(Muestra(), destino);
         QCOMPARE(QDir(destino).entryList(QDir::Files),
-                 QStringList({QStringLiteral("Vacas 12.csv"), QStringLiteral("vacas 12 (2).csv")}));
+                 QStringList({QStringLiteral("vacas 12 (2).csv"), QStringLiteral("Vacas 12.csv")}));
         QCOMPARE(Leer(ficheros.at(0)),
                  QByteArray("\xEF\xBB\xBF"
                             "\"Texto; con \"\"signos\"\"\";Número escrito;Número;Fecha\r\n"
@@ -141,9 +141,9 @@ private Q_SLOTS:
     void FilasDelInforme() {
         PeticionInforme peticion;
         peticion.formulaSeleccion = "{T_Ganaderos.Id_Ganadero} < 1200004";
-        const InformeTerminado informe =
-            GenerarInforme(LeerDisposicionDeFichero(std::string(PASTORIX_LAYOUTS) + "/Ganaderos.rpt"),
-                           Registros(60), peticion);
+        const InformeTerminado informe = GenerarInforme(
+            LeerDisposicionDeFichero(QStringLiteral(PASTORIX_LAYOUTS "/Ganaderos.rpt").toStdString()),
+            Registros(60), peticion);
         QCOMPARE(informe.hojas.size(), std::size_t(1));
         QCOMPARE(informe.hojas[0].filas.size(), std::size_t(4));
         QCOMPARE(std::get<std::string>(informe.hojas[0].filas[0][1]), std::string("Ángel"));

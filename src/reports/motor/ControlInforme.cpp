@@ -2,7 +2,6 @@
 
 #include "frame/Rutas.h"
 #include "reports/motor/ErrorInforme.h"
-#include "reports/motor/LectorDeTablas.h"
 #include "reports/motor/LectorDisposicion.h"
 #include "reports/motor/VentanaInforme.h"
 
@@ -30,14 +29,8 @@ struct Espera {
 
 } // namespace
 
-ControlInforme::ControlInforme(Conexion& conexion, const QWidget* junto)
-    : m_propia(std::make_unique<LectorDeTablas>(conexion))
-    , m_fuente(*m_propia)
-    , m_junto(junto) {}
-
-ControlInforme::ControlInforme(const FuenteDeTablas& fuente, const QWidget* junto)
-    : m_fuente(fuente)
-    , m_junto(junto) {}
+ControlInforme::ControlInforme(const FuenteDeTablas& fuente)
+    : m_fuente(fuente) {}
 
 void ControlInforme::Reiniciar() {
     EstadoVentana = 0;
@@ -93,7 +86,7 @@ void ControlInforme::Action(int accion) {
         Instalado()(std::move(informe));
         return;
     }
-    VentanaInforme::Abrir(std::move(informe), EstadoVentana == 1, m_junto);
+    VentanaInforme::Abrir(std::move(informe), EstadoVentana == 1);
 }
 
 ControlInforme::Destinatario ControlInforme::InstalarDestino(Destinatario destinatario) {

@@ -2,16 +2,10 @@
 
 #include "reports/motor/Informe.h"
 
-#include <QPointer>
-#include <QWidget>
-
 #include <functional>
 #include <map>
-#include <memory>
 
 namespace pastorix {
-
-class Conexion;
 
 // The report control of the report forms. They set its members in this order, and Action(1) runs the report:
 //   Reiniciar(); EstadoVentana; Bandera125; CampoParametro(i, ...); TituloVentana; FicheroInforme; FormulaSeleccion; Destino; Action(1)
@@ -20,9 +14,8 @@ public:
     // Who takes a finished report in place of the window.
     using Destinatario = std::function<void(InformeTerminado)>;
 
-    // The tables are read when Action runs; connection or source must outlive the control. Windows open on the screen of `junto`.
-    explicit ControlInforme(Conexion& conexion, const QWidget* junto = nullptr);
-    explicit ControlInforme(const FuenteDeTablas& fuente, const QWidget* junto = nullptr);
+    // The tables are read when Action runs; the source must outlive the control.
+    explicit ControlInforme(const FuenteDeTablas& fuente);
 
     // Forgets everything that was set.
     void Reiniciar();
@@ -49,9 +42,7 @@ public:
 private:
     PeticionInforme Peticion() const;
 
-    std::unique_ptr<FuenteDeTablas> m_propia; // when made for a connection
     const FuenteDeTablas& m_fuente;
-    QPointer<const QWidget> m_junto;
     std::map<int, QString> m_parametros;
 };
 

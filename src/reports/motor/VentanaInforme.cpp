@@ -77,12 +77,10 @@ VentanaInforme::VentanaInforme(InformeTerminado informe, QWidget* padre)
     m_vista->setFocus();
 }
 
-VentanaInforme* VentanaInforme::Abrir(InformeTerminado informe, bool comoIcono, const QWidget* junto) {
+VentanaInforme* VentanaInforme::Abrir(InformeTerminado informe, bool comoIcono) {
     const bool maximizada = informe.maximizada;
     auto* ventana = new VentanaInforme(std::move(informe));
     ventana->setAttribute(Qt::WA_DeleteOnClose);
-    if (junto)
-        ventana->setScreen(junto->screen());
     // A modal form that is open would block a window that does not belong to it; it need not own it for that.
     if (const QWidget* modal = QApplication::activeModalWidget(); modal && modal->windowHandle()) {
         ventana->winId();
@@ -311,7 +309,7 @@ void VentanaInforme::ElegirZoom(const QString& texto) {
     else if (texto == PaginaEntera)
         m_vista->PonerAjuste(VistaPaginas::Ajuste::Pagina);
     else if (numero && porcentaje > 0)
-        m_vista->PonerZoom(porcentaje / 100);
+        m_vista->PonerZoom(std::round(porcentaje) / 100);
     MostrarZoom(); // what was not understood gives way to what is
     m_vista->setFocus();
 }

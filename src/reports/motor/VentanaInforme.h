@@ -23,9 +23,8 @@ class VentanaInforme : public QMainWindow {
 public:
     explicit VentanaInforme(InformeTerminado informe, QWidget* padre = nullptr);
 
-    // Opens a preview on the screen of `junto`, maximised if the report says so. The window deletes itself when closed.
-    static VentanaInforme* Abrir(InformeTerminado informe, bool comoIcono = false,
-                                 const QWidget* junto = nullptr);
+    // Opens a preview, maximised if the report says so. The window deletes itself when closed.
+    static VentanaInforme* Abrir(InformeTerminado informe, bool comoIcono = false);
 
     const InformeTerminado& Informe() const { return m_informe; }
 
