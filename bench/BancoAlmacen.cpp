@@ -66,7 +66,8 @@ BENCHMARK(PuntoAlmacen);
 void PuntoDirecto(benchmark::State& estado) {
     auto& b = LaBase();
     sqlite3_stmt* s = nullptr;
-    sqlite3_prepare_v2(b.s, "SELECT Saneamiento, KgCanal FROM T_Cebo WHERE Id_Ganadero = ? AND Id_Cebo = ?", -1, &s, nullptr);
+    sqlite3_prepare_v2(b.s, "SELECT Saneamiento, KgCanal FROM T_Cebo WHERE Id_Ganadero = ? AND Id_Cebo = ?",
+                       -1, &s, nullptr);
     int i = 0;
     for (auto _ : estado) {
         i = (i + 7919) % 100000;
@@ -83,11 +84,12 @@ BENCHMARK(PuntoDirecto);
 void LeerAlmacen(benchmark::State& estado) {
     auto& b = LaBase();
     for (auto _ : estado) {
-        Recordset rs(b.c, "SELECT Id_Cebo, Id_Ganadero, Saneamiento, Sexo, KgCanal, AñoRef FROM T_Cebo", Cursor::Keyset,
-                     Bloqueo::SoloLectura);
+        Recordset rs(b.c, "SELECT Id_Cebo, Id_Ganadero, Saneamiento, Sexo, KgCanal, AñoRef FROM T_Cebo",
+                     Cursor::Keyset, Bloqueo::SoloLectura);
         double suma = 0;
         for (; !rs.Eof(); rs.Siguiente())
-            suma += rs["Id_Cebo"].Numero() + rs["Id_Ganadero"].Numero() + rs["KgCanal"].Numero() + rs["AñoRef"].Numero() +
+            suma += rs["Id_Cebo"].Numero() + rs["Id_Ganadero"].Numero() + rs["KgCanal"].Numero() +
+                    rs["AñoRef"].Numero() +
                     static_cast<double>(rs["Saneamiento"].Vista().size() + rs["Sexo"].Vista().size());
         benchmark::DoNotOptimize(suma);
     }
@@ -97,7 +99,8 @@ BENCHMARK(LeerAlmacen)->Unit(benchmark::kMillisecond);
 void LeerDirecto(benchmark::State& estado) {
     auto& b = LaBase();
     sqlite3_stmt* s = nullptr;
-    sqlite3_prepare_v2(b.s, "SELECT Id_Cebo, Id_Ganadero, Saneamiento, Sexo, KgCanal, AñoRef FROM T_Cebo", -1, &s, nullptr);
+    sqlite3_prepare_v2(b.s, "SELECT Id_Cebo, Id_Ganadero, Saneamiento, Sexo, KgCanal, AñoRef FROM T_Cebo", -1,
+                       &s, nullptr);
     for (auto _ : estado) {
         double suma = 0;
         while (sqlite3_step(s) == SQLITE_ROW) {
@@ -139,7 +142,8 @@ BENCHMARK(AñadirAlmacen)->Unit(benchmark::kMillisecond);
 void AñadirDirecto(benchmark::State& estado) {
     auto& b = LaBase();
     sqlite3_stmt* s = nullptr;
-    sqlite3_prepare_v2(b.s, "INSERT INTO X_Temp (C1, C2, N1, N2, F1) VALUES (?, ?, ?, ?, ?)", -1, &s, nullptr);
+    sqlite3_prepare_v2(b.s, "INSERT INTO X_Temp (C1, C2, N1, N2, F1) VALUES (?, ?, ?, ?, ?)", -1, &s,
+                       nullptr);
     for (auto _ : estado) {
         sqlite3_exec(b.s, "BEGIN", nullptr, nullptr, nullptr);
         for (int i = 0; i < 100000; ++i) {

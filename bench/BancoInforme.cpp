@@ -1,7 +1,7 @@
 #include "Rebaño.h"
 
-#include "reports/indices/IndicesTecnicosTablas.h"
 #include "reports/indices/IndicesTec.h"
+#include "reports/indices/IndicesTecnicosTablas.h"
 #include "reports/motor/Informe.h"
 #include "reports/motor/LectorDeTablas.h"
 #include "reports/motor/LectorDisposicion.h"

@@ -16,7 +16,9 @@ constexpr int kVacas = 500;
 constexpr int kPrimerAño = 2013;
 constexpr int kAños = 14;
 
-Fecha Dia(int año, int mes, int dia) { return *Fecha::De(año, mes, dia); }
+Fecha Dia(int año, int mes, int dia) {
+    return *Fecha::De(año, mes, dia);
+}
 
 } // namespace
 

@@ -7,11 +7,11 @@
 #include "frame/Presentacion.h"
 #include "frame/Principal.h"
 #include "reports/motor/ControlInforme.h"
+#include "reports/motor/LectorDeTablas.h"
 
 #include <QApplication>
 
 #include <memory>
-#include <optional>
 
 using namespace pastorix;
 
@@ -21,14 +21,14 @@ namespace {
 struct Programa {
     Sesion sesion;
     std::unique_ptr<Principal> principal;
-    std::unique_ptr<ControlInforme> informe;
+    LectorDeTablas tablas{sesion.conexion};
+    ControlInforme informe{tablas};
     std::unique_ptr<AbrirSesion> entrada;
     std::unique_ptr<Presentacion> presentacion;
 
     void MostrarEntrada() {
         principal = std::make_unique<Principal>(sesion);
-        informe = std::make_unique<ControlInforme>(sesion.conexion, principal.get());
-        VincularOrdenes(*principal, sesion, *informe);
+        VincularOrdenes(*principal, sesion, informe);
         QObject::connect(principal.get(), &Principal::Salida, qApp, &QApplication::quit);
         entrada = std::make_unique<AbrirSesion>(sesion, *principal);
         QObject::connect(entrada.get(), &AbrirSesion::Salida, qApp, &QApplication::quit);

@@ -25,18 +25,20 @@ private Q_SLOTS:
         g.Vaca(3, 2);
         g.Vaca(4, 6);
         g.Vaca(5, 7);
-        g.Vaca(6, -1);                      // no mating record: nowhere
-        g.Vaca(7, 3, "30/11/2020");         // leaves on the date: still there
-        g.Vaca(8, 3, "29/11/2020");         // left the day before
+        g.Vaca(6, -1);                       // no mating record: nowhere
+        g.Vaca(7, 3, "30/11/2020");          // leaves on the date: still there
+        g.Vaca(8, 3, "29/11/2020");          // left the day before
         g.Vaca(9, 3, nullptr, "30/11/2020"); // bought on the date
         g.Vaca(10, 3, nullptr, "1/12/2020"); // bought later
         g.Vaca(11, -1);
         g.Cubricion(11, 2019, 4);
-        g.Cubricion(11, 2020, Valor());     // last one without parity: of more than six
+        g.Cubricion(11, 2020, Valor());        // last one without parity: of more than six
         g.Vaca(12, 1, nullptr, nullptr, 2021); // first record in a later year: nowhere
         g.Vaca(13, 5);
-        g.Cubricion(13, 2021, 6);           // records after the year do not count
-        const auto censo = [&](int categoria) { return CensoVacasAFecha(g.c, 12, 2020, "30/11/20", categoria); };
+        g.Cubricion(13, 2021, 6); // records after the year do not count
+        const auto censo = [&](int categoria) {
+            return CensoVacasAFecha(g.c, 12, 2020, "30/11/20", categoria);
+        };
         QCOMPARE(censo(NovillasEnCubricion), 1.0);
         QCOMPARE(censo(PrimerParto), 1.0);
         QCOMPARE(censo(DeDosASeisPartos), 5.0); // 3, 4, 7, 9, 13
@@ -57,12 +59,13 @@ private Q_SLOTS:
         Granja g;
         const auto vaca = [&](double id, const char* desecho, int año) {
             g.Vaca(id, 1, desecho, nullptr, año);
-            g.c.Execute("UPDATE T_Vacas SET Cularidad = 'g-culón' WHERE Id_Vaca = " + std::to_string(int(id)));
+            g.c.Execute("UPDATE T_Vacas SET Cularidad = 'g-culón' WHERE Id_Vaca = " +
+                        std::to_string(int(id)));
         };
         vaca(1, nullptr, 2020);
         vaca(2, "30/11/2019", 2019); // had left by then
         vaca(3, "1/12/2019", 2019);
-        vaca(4, nullptr, 2021);      // no record up to the year
+        vaca(4, nullptr, 2021); // no record up to the year
         QCOMPARE(CensoPorCularidad(g.c, 12, 2020, "G-Culón"), 2.0);
         QCOMPARE(CensoPorCularidad(g.c, 12, 2020, "G-Normal"), 0.0);
     }
@@ -92,7 +95,8 @@ private Q_SLOTS:
         g.Vaca(1, 1);
         QCOMPARE(PorcentajeNacidosIA(g.c, 12, 2020), std::int64_t(0)); // no calves is no error
         for (int i = 0; i < 8; ++i)
-            g.Parto(1, i + 1, 2020, "1/5/2020", {{"Semental", i == 0 ? Valor("nerón(ia)") : Valor("Urbano")}});
+            g.Parto(1, i + 1, 2020, "1/5/2020",
+                    {{"Semental", i == 0 ? Valor("nerón(ia)") : Valor("Urbano")}});
         QCOMPARE(PorcentajeNacidosIA(g.c, 12, 2020), std::int64_t(12)); // 12.5 to the even one
     }
 
@@ -100,7 +104,9 @@ private Q_SLOTS:
         Granja g;
         g.Vaca(1, 1);
         const auto ternero = [&](const char* muere, int ganancia, int edad, const char* cularidad) {
-            g.Parto(1, 1, 2020, "1/5/2020", {{"Muere", muere}, {"GDestete", ganancia}, {"EdadDestete", edad}, {"Cularidad", cularidad}});
+            g.Parto(
+                1, 1, 2020, "1/5/2020",
+                {{"Muere", muere}, {"GDestete", ganancia}, {"EdadDestete", edad}, {"Cularidad", cularidad}});
         };
         ternero("No", 501, 120, "Culón");
         ternero("no", 900, 200, "culón");
@@ -118,12 +124,19 @@ private Q_SLOTS:
         g.Vaca(2, -1, "31/12/2019"); // gone before the civil year
         g.Vaca(3, -1, "1/1/2020");
         for (const double v : {1.0, 2.0, 3.0})
-            g.Poner("T_Cubriciones", {{"Id_Vaca", v}, {"Año_Ref", 2020}, {"N_Parto", 2}, {"Aborto", v == 3 ? 1 : 0}, {"IEPc", 340}});
-        g.Poner("T_Cubriciones", {{"Id_Vaca", 1.0}, {"Año_Ref", 2019}, {"N_Parto", 1}, {"DatosCompletos", 0}, {"IEPc", 800}});
-        g.Poner("T_Cubriciones", {{"Id_Vaca", 3.0}, {"Año_Ref", 2019}, {"N_Parto", 1}, {"DatosCompletos", Valor()}});
+            g.Poner("T_Cubriciones", {{"Id_Vaca", v},
+                                      {"Año_Ref", 2020},
+                                      {"N_Parto", 2},
+                                      {"Aborto", v == 3 ? 1 : 0},
+                                      {"IEPc", 340}});
+        g.Poner("T_Cubriciones",
+                {{"Id_Vaca", 1.0}, {"Año_Ref", 2019}, {"N_Parto", 1}, {"DatosCompletos", 0}, {"IEPc", 800}});
+        g.Poner("T_Cubriciones",
+                {{"Id_Vaca", 3.0}, {"Año_Ref", 2019}, {"N_Parto", 1}, {"DatosCompletos", Valor()}});
         QCOMPARE(PorcentajeAbortos(g.c, 12, 2020), std::string("33")); // of 3: two of the year and one open
         QCOMPARE(PerdidaPreñezTardia(g.c, 12, 2020), -0.2);            // three times 25 days early
-        g.Poner("T_Cubriciones", {{"Id_Vaca", 1.0}, {"Año_Ref", 2020}, {"N_Parto", 3}, {"IEPc", 0}}); // does not count
+        g.Poner("T_Cubriciones",
+                {{"Id_Vaca", 1.0}, {"Año_Ref", 2020}, {"N_Parto", 3}, {"IEPc", 0}}); // does not count
         QCOMPARE(PerdidaPreñezTardia(g.c, 12, 2020), -0.2);
     }
 
@@ -142,25 +155,29 @@ private Q_SLOTS:
         g.Vaca(6, -1);
         g.Cubricion(6, 2021, 2, "1/12/2020"); // calved after
         g.Vaca(7, -1);
-        g.Cubricion(7, 2020, 0);              // heifer
+        g.Cubricion(7, 2020, 0); // heifer
         QCOMPARE(VacasMediasPartos(g.c, 12, 2020), 4.0);
         // 1, 2 and 3 all year; 4 leaves on the last day, is in R and by its 365 days in D2
         QCOMPARE(VacasMediasPresentes(g.c, 12, 2020), 5.0);
 
         Granja h;
-        h.Vaca(1, 2, nullptr, "31/5/2020"); // 183 days
-        h.Vaca(2, 2, "31/5/2020");          // 182 days
-        h.Vaca(3, 2, "31/5/2020", "1/4/2020"); // 60 days
-        h.Vaca(4, 2, nullptr, "1/12/2020"); // bought after the year
+        h.Vaca(1, 2, nullptr, "31/5/2020");                 // 183 days
+        h.Vaca(2, 2, "31/5/2020");                          // 182 days
+        h.Vaca(3, 2, "31/5/2020", "1/4/2020");              // 60 days
+        h.Vaca(4, 2, nullptr, "1/12/2020");                 // bought after the year
         QCOMPARE(VacasMediasPresentes(h.c, 12, 2020), 1.0); // (183 + 182 + 60) / 365 = 1.16
     }
 
     void AFecha() {
         Granja g;
-        g.Poner("T_Sementales", {{"Id_Semental", 1.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", Granja::Dia("1/12/2019")}});
-        g.Poner("T_Sementales", {{"Id_Semental", 2.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", Granja::Dia("2/12/2019")}});
-        g.Poner("T_Sementales", {{"Id_Semental", 3.0}, {"Id_Ganadero", 12.0}, {"FechaAlta", Granja::Dia("1/1/2024")}});
-        QCOMPARE(SementalesAFecha(g.c, 12, "1/12/2019"), std::string("2")); // the one that leaves that day is out
+        g.Poner("T_Sementales",
+                {{"Id_Semental", 1.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", Granja::Dia("1/12/2019")}});
+        g.Poner("T_Sementales",
+                {{"Id_Semental", 2.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", Granja::Dia("2/12/2019")}});
+        g.Poner("T_Sementales",
+                {{"Id_Semental", 3.0}, {"Id_Ganadero", 12.0}, {"FechaAlta", Granja::Dia("1/1/2024")}});
+        QCOMPARE(SementalesAFecha(g.c, 12, "1/12/2019"),
+                 std::string("2")); // the one that leaves that day is out
 
         g.Vaca(1, -1);
         g.Parto(1, 1, 2019, "30/9/2018", {{"DESTINOTERNERO", "recría"}}); // 15 months on 1/12/2019
@@ -174,9 +191,14 @@ private Q_SLOTS:
         QCOMPARE(RecriaAFecha(g.c, 12, fecha, 2019, "FIN"), std::string("2"));
         QCOMPARE(fecha, std::string("01/12/19")); // moved for the caller
 
-        g.Poner("T_Cebo", {{"Id_Cebo", 1.0}, {"Id_Ganadero", 12.0}, {"FechaCebo", Granja::Dia("30/11/2019")}});
-        g.Poner("T_Cebo", {{"Id_Cebo", 2.0}, {"Id_Ganadero", 12.0}, {"FechaCebo", Granja::Dia("1/12/2019")}}); // not before
-        g.Poner("T_Cebo", {{"Id_Cebo", 3.0}, {"Id_Ganadero", 12.0}, {"FechaCebo", Granja::Dia("1/1/2019")},
+        g.Poner("T_Cebo",
+                {{"Id_Cebo", 1.0}, {"Id_Ganadero", 12.0}, {"FechaCebo", Granja::Dia("30/11/2019")}});
+        g.Poner(
+            "T_Cebo",
+            {{"Id_Cebo", 2.0}, {"Id_Ganadero", 12.0}, {"FechaCebo", Granja::Dia("1/12/2019")}}); // not before
+        g.Poner("T_Cebo", {{"Id_Cebo", 3.0},
+                           {"Id_Ganadero", 12.0},
+                           {"FechaCebo", Granja::Dia("1/1/2019")},
                            {"FechaSacrif", Granja::Dia("1/12/2019")}}); // not after
         QCOMPARE(CeboAFecha(g.c, 12, "1/12/2019", 2020, "INICIO"), std::string("1"));
 
@@ -195,7 +217,8 @@ private Q_SLOTS:
 
         g.Parto(3, 5, 2019, "30/11/2019", {{"FechaDestete", Granja::Dia("2/12/2019")}});
         g.Parto(3, 6, 2019, "30/11/2019", {{"FVentaAD", Granja::Dia("1/12/2019")}});
-        QCOMPARE(TernerosMamonesAFecha(g.c, 12, "1/12/2019", 2020, "INICIO"), std::string("4")); // three of cow 1, one of cow 3
+        QCOMPARE(TernerosMamonesAFecha(g.c, 12, "1/12/2019", 2020, "INICIO"),
+                 std::string("4")); // three of cow 1, one of cow 3
     }
 };
 
