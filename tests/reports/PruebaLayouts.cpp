@@ -61,6 +61,30 @@ private Q_SLOTS:
         }
     }
 
+    // The example of the manual of layouts does what the manual says.
+    void EjemploDelManual() {
+        QFile manual(QStringLiteral(PASTORIX_LAYOUTS "/../docs/layouts.md"));
+        QVERIFY(manual.open(QIODevice::ReadOnly));
+        const QString texto = QString::fromUtf8(manual.readAll());
+        const QString layout = texto.section(QStringLiteral("```"), 1, 1);
+        QVERIFY(layout.startsWith(QStringLiteral("\npastorix-informe 1")));
+        TablasEnMemoria fuente;
+        using namespace ejemplo;
+        fuente.Poner(Tabla("X_Temp", {"C1", "C3", "C15", "F1", "N1", "M1"},
+                           {{T("Casa Pepe"), T("ES1"), T("Venta"), F(3, 5, 2026), N(44), {}},
+                            {T("Casa Pepe"), T("ES2"), T("Recría"), F(1, 5, 2026), N(40), T("gemelo")},
+                            {T("Casa Pepe"), T("ES3"), T("Venta"), F(2, 1, 2026), N(41), {}}}));
+        PeticionInforme peticion;
+        peticion.parametros = {{"AñoRef", "2026"}};
+        const InformeTerminado informe =
+            GenerarInforme(LeerDisposicion(layout.toStdString(), "layouts.md"), fuente, peticion);
+        QCOMPARE(
+            Leida(informe.paginas.paginas.at(0)),
+            QStringLiteral(
+                "Casa Pepe|Año 2026|Crotal|Nacido el|Peso (kg)|Observaciones|Recría|ES2|01/05/26|40|gemelo|"
+                "1 terneros|40 kg|Venta|ES3|02/01/26|41|ES1|03/05/26|44|2 terneros|43 kg|Página 1 de 1"));
+    }
+
     // Two pages per farm; each farm's figures stand on its own pages, those of the heifers under their own label.
     void IndicesTecnicos() {
         const InformeTerminado informe =

@@ -309,7 +309,7 @@ void VentanaInforme::ElegirZoom(const QString& texto) {
     else if (texto == PaginaEntera)
         m_vista->PonerAjuste(VistaPaginas::Ajuste::Pagina);
     else if (numero && porcentaje > 0)
-        m_vista->PonerZoom(porcentaje / 100);
+        m_vista->PonerZoom(std::round(porcentaje) / 100);
     MostrarZoom(); // what was not understood gives way to what is
     m_vista->setFocus();
 }
