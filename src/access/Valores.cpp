@@ -1,6 +1,5 @@
 #include "access/Valores.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
