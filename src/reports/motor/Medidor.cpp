@@ -7,6 +7,10 @@
 
 namespace pastorix {
 
+namespace {
+constexpr qsizetype AnchosGuardados = 20'000; // per font
+}
+
 QStringList Pagina::Textos() const {
     QStringList textos;
     for (const Trozo& trozo : trozos) {
@@ -49,11 +53,17 @@ int Medidor::Indice(const Aspecto& aspecto) {
         return static_cast<int>(it - m_letras.begin());
     m_letras.push_back(letra);
     m_medidas.emplace_back(FuenteDe(letra));
+    m_anchos.emplace_back();
     return static_cast<int>(m_letras.size()) - 1;
 }
 
 double Medidor::Ancho(int letra, const QString& texto) const {
-    return Medidas(letra).horizontalAdvance(texto) * MmPorUnidad;
+    QHash<QString, double>& anchos = m_anchos[static_cast<std::size_t>(letra)];
+    if (const auto it = anchos.constFind(texto); it != anchos.constEnd())
+        return *it;
+    if (anchos.size() >= AnchosGuardados)
+        anchos.clear();
+    return anchos[texto] = Medidas(letra).horizontalAdvance(texto) * MmPorUnidad;
 }
 
 double Medidor::Subida(int letra) const {

@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 
 #include <deque>
 
@@ -38,6 +39,7 @@ private:
     QString m_familia;
     std::vector<Letra> m_letras;
     std::deque<QFontMetricsF> m_medidas;
+    mutable std::vector<QHash<QString, double>> m_anchos; // lists repeat their texts
 };
 
 } // namespace pastorix
