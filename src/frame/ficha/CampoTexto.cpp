@@ -1,0 +1,69 @@
+#include "frame/ficha/CampoTexto.h"
+
+#include <QFocusEvent>
+#include <QValidator>
+
+namespace pastorix {
+
+int ComaUnica(const QString& texto, int tecla) {
+    return tecla == ',' && texto.contains(QLatin1Char(',')) ? 0 : tecla;
+}
+
+QString Filtrado(const QString& texto, ClaseCampo clase) {
+    if (clase == ClaseCampo::Texto)
+        return texto;
+    QString salida;
+    for (const QChar c : texto) {
+        const bool digito = c >= QLatin1Char('0') && c <= QLatin1Char('9');
+        const bool barra = clase == ClaseCampo::Fecha && c == QLatin1Char('/');
+        const bool coma =
+            clase == ClaseCampo::Decimal && c == QLatin1Char(',') && ComaUnica(salida, ',') != 0;
+        if (digito || barra || coma)
+            salida += c;
+    }
+    return salida;
+}
+
+namespace {
+
+// Drops what the class does not take instead of refusing the whole edit: a code pasted with blanks around it goes in without them.
+class Tamiz : public QValidator {
+public:
+    Tamiz(ClaseCampo clase, QObject* padre)
+        : QValidator(padre)
+        , m_clase(clase) {}
+    State validate(QString& texto, int& posicion) const override {
+        const auto limpio = Filtrado(texto, m_clase);
+        if (limpio != texto) {
+            posicion = static_cast<int>(Filtrado(texto.left(posicion), m_clase).size());
+            texto = limpio;
+        }
+        return Acceptable;
+    }
+
+private:
+    ClaseCampo m_clase;
+};
+
+} // namespace
+
+CampoTexto::CampoTexto(ClaseCampo clase, int anchura, QWidget* padre)
+    : QLineEdit(padre)
+    , m_clase(clase) {
+    if (clase != ClaseCampo::Texto)
+        setValidator(new Tamiz(clase, this));
+    if (anchura > 0)
+        setMaxLength(anchura);
+}
+
+void CampoTexto::focusInEvent(QFocusEvent* evento) {
+    QLineEdit::focusInEvent(evento);
+    // After a click Qt puts the cursor where the pointer is; selecting has to wait for that.
+    if (evento->reason() == Qt::MouseFocusReason)
+        QMetaObject::invokeMethod(
+            this, [this] { selectAll(); }, Qt::QueuedConnection);
+    else if (evento->reason() != Qt::PopupFocusReason && evento->reason() != Qt::ActiveWindowFocusReason)
+        selectAll();
+}
+
+} // namespace pastorix

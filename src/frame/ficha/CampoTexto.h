@@ -1,0 +1,29 @@
+#pragma once
+
+#include "frame/ficha/CampoFicha.h"
+
+#include <QLineEdit>
+#include <QString>
+
+namespace pastorix {
+
+// The comma is dropped (0 comes back) when the text already has one; any other key passes.
+int ComaUnica(const QString& texto, int tecla);
+
+// What remains of a text when only the characters that the class takes are kept: the same rule for keys and for what is pasted.
+QString Filtrado(const QString& texto, ClaseCampo clase);
+
+// A text box of a sheet: selects its whole text when it gets the focus and takes only what its class takes, pasted or typed.
+class CampoTexto : public QLineEdit {
+public:
+    CampoTexto(ClaseCampo clase, int anchura, QWidget* padre = nullptr);
+    ClaseCampo Clase() const { return m_clase; }
+
+protected:
+    void focusInEvent(QFocusEvent* evento) override;
+
+private:
+    ClaseCampo m_clase;
+};
+
+} // namespace pastorix

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "frame/Sesion.h"
+#include "frame/ficha/BarraFicha.h"
+#include "frame/ficha/CampoFicha.h"
+#include "frame/ficha/CampoTexto.h"
+
+#include <QDialog>
+
+#include <map>
+#include <string>
+
+class QGridLayout;
+class QToolButton;
+
+namespace pastorix {
+
+class Recordset;
+
+// The record sheet: one row of a table, shown, added, changed, deleted. A sheet derives from it with its table of fields, and says through the
+// hooks below only where it differs. The database is written when the user saves, as one durable unit.
+class Ficha : public QDialog {
+public:
+    Ficha(Sesion& sesion, const DefinicionFicha& definicion, QWidget* padre = nullptr);
+
+    // Shows the record of a key; a box and false when there is none.
+    bool CargarFicha(double clave);
+    // The same for a sheet that another one opens: no other record is to be looked for.
+    void AbrirCon(double clave);
+
+    double Clave() const { return m_clave; } // key of the record on screen, 0 if none
+    int Accion() const { return m_accion; }  // 1 adding, 2 modifying, 0 neither
+
+    void Añadir();
+    void Modificar();
+    void Eliminar();
+    void Guardar();
+    void Cancelar();
+
+    void reject() override; // Escape, Cerrar, the window's cross: not over changes that nobody has saved
+
+protected:
+    // Hooks, in the order in which they come into play.
+    virtual bool PermiteAñadir() { return true; }    // a limit of the sheet; false after its own box
+    virtual void LimpiarPropios() {}                 // controls beyond the table of fields
+    virtual void MostrarPropios(Recordset&) {}       // the same, when a record is read
+    virtual bool Comprobar() { return true; }        // further checks, each with its box and focus
+    virtual void EscribirPropios(Recordset&) {}      // columns beyond the table of fields, before Update
+    virtual void EscribirHijos(double /*codigo*/) {} // child tables, after Update
+    virtual void DespuesDeGuardar(double clave);     // buttons, or load the record again
+    virtual QString PreguntaEliminar() const { return QStringLiteral("Desea Eliminar ? "); }
+    virtual void Borrar(double clave); // the row; with the cascade of the sheet
+    virtual void DespuesDeBorrar() {}
+    virtual void BuscarDato(int /*icono*/) {} // a search icon was pressed
+
+    // For the sheet's constructor.
+    QWidget* CrearRejilla(QWidget* padre);              // fields and captions at the places of the table
+    QGridLayout* Rejilla() const { return m_rejilla; }  // for controls between them
+    void PonerIconoBusDato(int icono, int indiceCampo); // the search icon beside a field
+    BarraFicha& Barra() { return *m_barra; }
+    void Vigilar(QWidget* control); // a change in it begins a modification
+
+    // For its hooks.
+    CampoTexto& Campo(int indice) const { return *m_campos.at(indice); }
+    QString Texto(int indice) const { return Campo(indice).text(); }
+    std::string TextoStd(int indice) const { return Texto(indice).toStdString(); }
+    void Poner(int indice, const std::string& texto) { Campo(indice).setText(QString::fromStdString(texto)); }
+    QString CodigoTecleado() const { return Texto(0); }
+    Conexion& Base() const { return m_sesion.conexion; }
+    Sesion& LaSesion() const { return m_sesion; }
+    bool Editando() const;
+    void EntrarEnModificar();                           // as typing does
+    bool Rechazar(const QString& texto, QWidget* foco); // exclamation box "Atención"; always false
+    void LimpiarCampos();
+
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void ConectarBarra();
+    CampoTexto* CrearCampo(const CampoFicha& campo, QWidget* padre);
+    void CodigoDejado();
+    bool ComprobarMinimos();
+    void ReponerCodigo();
+    bool Escribir(double codigo); // false when the code is taken
+    void EscribirCampos(Recordset& rs);
+    std::string SentenciaDeClave(double clave) const;
+    void MostrarError(const std::exception& error);
+
+    Sesion& m_sesion;
+    const DefinicionFicha& m_definicion;
+    BarraFicha* m_barra;
+    QGridLayout* m_rejilla = nullptr;
+    std::map<int, CampoTexto*> m_campos;
+    std::map<int, QToolButton*> m_iconos;
+    double m_clave = 0;
+    int m_accion = 0;
+};
+
+} // namespace pastorix

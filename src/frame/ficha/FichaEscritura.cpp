@@ -1,0 +1,139 @@
+// The part of the record sheet that changes the database.
+#include "frame/ficha/Ficha.h"
+
+#include "frame/Mensajes.h"
+#include "frame/calendario/Calendario.h"
+#include "frame/calendario/Reloj.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+namespace pastorix {
+
+std::string Ficha::SentenciaDeClave(double clave) const {
+    return std::string("Select * FROM ") + m_definicion.tabla + " WHERE " + m_definicion.columnaClave +
+           " = " + NumeroSql(clave);
+}
+
+void Ficha::Añadir() {
+    try {
+        if (!PermiteAñadir())
+            return;
+        const std::string clave = m_definicion.columnaClave;
+        const double propuesto =
+            SiguienteId(Base(), "SELECT " + clave + " FROM " + m_definicion.tabla + " ORDER BY " + clave);
+        m_accion = 1;
+        m_barra->EstadoBotones(1);
+        LimpiarCampos();
+        if (m_definicion.indiceFechaAlta >= 0)
+            Poner(m_definicion.indiceFechaAlta, FormatoFecha(Hoy(), m_definicion.mascaraFechaAlta));
+        Poner(0, TextoNumero(propuesto));
+        if (m_campos.contains(1))
+            Campo(1).setFocus();
+    } catch (const std::exception& e) {
+        MostrarError(e);
+    }
+}
+
+void Ficha::Modificar() {
+    m_accion = 2;
+    m_barra->EstadoBotones(2);
+    if (CodigoTecleado().toDouble() != m_clave) {
+        Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
+               QStringLiteral("El Código no se puede cambiar"));
+        ReponerCodigo();
+    }
+}
+
+bool Ficha::ComprobarMinimos() {
+    const auto codigo = CodigoTecleado();
+    if (!codigo.isEmpty() && codigo.toDouble() == 0)
+        return Rechazar(QStringLiteral("El Código no puede ser '0'"), &Campo(0));
+    const int otro = m_definicion.indiceObligatorio;
+    if (codigo.isEmpty() || (otro >= 0 && Texto(otro).isEmpty()))
+        return Rechazar(QString::fromUtf8(m_definicion.minimos), &Campo(0));
+    return true;
+}
+
+void Ficha::Guardar() {
+    try {
+        if (!ComprobarMinimos() || !Comprobar())
+            return;
+        m_barra->EstadoBotones(4);
+        if (m_accion == 2 && CodigoTecleado().toDouble() != m_clave) {
+            Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
+                   QStringLiteral("El Código no se puede cambiar"));
+            ReponerCodigo();
+        }
+        const double codigo = CodigoTecleado().toDouble();
+        if (!EnGrupo(Base(), [&] { return Escribir(codigo); })) {
+            Avisar(this, TipoMensaje::Critico, QStringLiteral("Atención"),
+                   QStringLiteral("Codigo no Valido, Cambielo por Otro"));
+            Campo(0).setFocus();
+            return;
+        }
+        m_clave = codigo;
+        m_accion = 0;
+        DespuesDeGuardar(codigo);
+    } catch (const std::exception& e) {
+        // What was typed stays on the sheet, and the sheet stays in its edit.
+        MostrarError(e);
+    }
+}
+
+bool Ficha::Escribir(double codigo) {
+    Recordset rs(Base(), SentenciaDeClave(codigo), Cursor::Dinamico);
+    if (m_accion == 1) {
+        if (!rs.Eof())
+            return false;
+        rs.AddNew();
+        rs[m_definicion.columnaClave] = codigo;
+    } else if (rs.Eof()) {
+        throw ErrorAlmacen(
+            CodigoError::SinFilaActual,
+            "El registro ya no existe: otro proceso lo ha borrado. Lo escrito sigue en la ficha.");
+    }
+    EscribirCampos(rs);
+    EscribirPropios(rs);
+    rs.Update();
+    EscribirHijos(codigo);
+    return true;
+}
+
+void Ficha::EscribirCampos(Recordset& rs) {
+    for (const auto& c : m_definicion.campos) {
+        if (!c.columna || c.clase == ClaseCampo::Codigo)
+            continue;
+        const auto texto = TextoStd(c.indice);
+        if (c.clase == ClaseCampo::Fecha) {
+            if (EsFechaValida(texto))
+                rs[c.columna] = texto;
+        } else {
+            rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
+        }
+    }
+}
+
+void Ficha::DespuesDeGuardar(double) {
+    m_barra->EstadoBotones(6);
+}
+
+void Ficha::Eliminar() {
+    if (!Preguntar(this, QStringLiteral("Confirme Eliminar"), PreguntaEliminar(), TipoMensaje::Critico, true))
+        return;
+    try {
+        EnGrupo(Base(), [this] { Borrar(m_clave); });
+        LimpiarCampos();
+        m_clave = 0;
+        DespuesDeBorrar();
+    } catch (const std::exception& e) {
+        MostrarError(e);
+    }
+}
+
+void Ficha::Borrar(double clave) {
+    Recordset rs(Base(), SentenciaDeClave(clave), Cursor::Dinamico);
+    if (!rs.Eof())
+        rs.Delete();
+}
+
+} // namespace pastorix

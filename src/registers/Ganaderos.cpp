@@ -1,0 +1,232 @@
+#include "registers/Ganaderos.h"
+
+#include "frame/Ciclo.h"
+#include "frame/Mensajes.h"
+#include "frame/calendario/Calendario.h"
+#include "registers/Borrados.h"
+#include "registers/DarBaja.h"
+#include "registers/Direccion.h"
+#include "registers/Listas.h"
+#include "store/Recordset.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace pastorix {
+
+namespace {
+
+constexpr CampoFicha kCampos[] = {
+    {0, "Id_Ganadero", "Códig&o", ClaseCampo::Codigo, 0, 0, 0},
+    {1, "DNI", "&D.N.I.", ClaseCampo::Texto, 50, 1, 0},
+    {16, "NSocio", "Nº &Socio", ClaseCampo::Texto, 50, 1, 1},
+    {2, "Nombre", "&Nombre", ClaseCampo::Texto, 50, 2, 0},
+    {3, "Apellidos", "A&pellidos", ClaseCampo::Texto, 50, 2, 1},
+    {15, "Apodo", "Apo&do", ClaseCampo::Texto, 50, 3, 0},
+    {14, "Concejo", "Conce&jo", ClaseCampo::Texto, 50, 3, 1},
+    {4, nullptr, "D&irección", ClaseCampo::Texto, 50, 4, 0, 2},
+    {5, nullptr, "", ClaseCampo::Texto, 50, 5, 0, 2, "Complemento de la dirección"},
+    {6, nullptr, "Cód. Pos&tal", ClaseCampo::Texto, 5, 6, 0},
+    {7, nullptr, "&Localidad", ClaseCampo::Texto, 30, 6, 1},
+    {8, nullptr, "Pro&vincia", ClaseCampo::Texto, 30, 7, 0},
+    {9, nullptr, "Tel&éfono", ClaseCampo::Texto, 20, 7, 1},
+    {10, nullptr, "Tlf. Mó&vil", ClaseCampo::Texto, 20, 8, 0},
+    {11, nullptr, "e-mai&l", ClaseCampo::Texto, 25, 8, 1},
+    {12, "FechaAlta", "&Fecha de Alta", ClaseCampo::Fecha, 10, 9, 0},
+    {13, nullptr, "Fecha de &Baja", ClaseCampo::Fecha, 10, 9, 1},
+};
+
+// Telephone and mobile stand the other way round than on the sheet of veterinarians.
+constexpr CampoDireccion kDireccion[] = {{"Direccion", 4},  {"Complemento", 5}, {"Codigo_Postal", 6},
+                                         {"Localidad", 7},  {"Provincia", 8},   {"TelefonoP", 9},
+                                         {"TelefonoM", 10}, {"Email", 11}};
+
+constexpr int kFechaBaja = 13;
+
+constexpr DefinicionFicha kDefinicion{"Ganaderos",
+                                      "CT_Estandar",
+                                      "T_Ganaderos",
+                                      "Id_Ganadero",
+                                      kCampos,
+                                      12,
+                                      "dd/mm/yyyy",
+                                      "Debe incluir como mínimo el Código y el Nombre",
+                                      2};
+
+} // namespace
+
+Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
+    : Ficha(sesion, kDefinicion, padre)
+    , m_tab(new QTabWidget(this))
+    , m_encabezado(new QLabel(this)) {
+    setObjectName(QStringLiteral("Ganaderos"));
+    m_tab->setObjectName(QStringLiteral("TabGanaderos"));
+    Barra()[BarraFicha::Eliminar]->setObjectName(QStringLiteral("B_Borrar"));
+    Barra()[BarraFicha::Cerrar]->setObjectName(QStringLiteral("B_CerrarGeneral"));
+    auto fuente = m_encabezado->font();
+    fuente.setPointSizeF(fuente.pointSizeF() * 1.3);
+    fuente.setBold(true);
+    m_encabezado->setFont(fuente);
+    m_encabezado->setObjectName(QStringLiteral("Encabezado"));
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(m_encabezado);
+    todo->addWidget(m_tab);
+    m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
+    for (const char* tab : {" Cebo ", " Inicio Periodo Reproductivo ", " Manejo "}) {
+        const int i = m_tab->addTab(new QWidget(m_tab), QString::fromUtf8(tab));
+        m_tab->setTabEnabled(i, false); // their sub-sheets are yet to come
+    }
+    LlenarVeterinarios();
+    RefrescarEncabezado();
+}
+
+QWidget* Ganaderos::CrearGeneral() {
+    auto* general = new QWidget(m_tab);
+    auto* todo = new QVBoxLayout(general);
+    todo->addWidget(CrearRejilla(general));
+    PonerIconoBusDato(0, 0);
+    auto* aviso = new QLabel(
+        QStringLiteral("(Recuerde que el Ganadero Código 1 siempre se usa para Toros de IA)"), general);
+    aviso->setEnabled(false);
+    aviso->setWordWrap(true);
+    Rejilla()->addWidget(aviso, 0, 2, 1, 2);
+
+    m_veterinarios = new QComboBox(general);
+    m_veterinarios->setObjectName(QStringLiteral("CD_Veterinarios"));
+    m_torosComun = new QComboBox(general);
+    m_torosComun->setObjectName(QStringLiteral("Combo1"));
+    m_torosComun->addItems({QStringLiteral("Sí"), QStringLiteral("No")});
+    m_torosComun->setCurrentIndex(-1);
+    int columna = 0;
+    for (const auto& [texto, combo] :
+         {std::pair{"Veterina&rio", m_veterinarios}, {"Toros de Inseminación", m_torosComun}}) {
+        auto* rotulo = new QLabel(QString::fromUtf8(texto), general);
+        rotulo->setBuddy(combo);
+        combo->setAccessibleName(QString::fromUtf8(texto).remove(QLatin1Char('&')));
+        Rejilla()->addWidget(rotulo, 10, columna++, Qt::AlignRight | Qt::AlignVCenter);
+        Rejilla()->addWidget(combo, 10, columna++);
+        Vigilar(combo);
+    }
+    auto* baja = new QPushButton(QStringLiteral("Dar de Ba&ja..."), general);
+    baja->setObjectName(QStringLiteral("B_DarBaja"));
+    auto* motivo = new QPushButton(QStringLiteral("Ver motivo de la Baja"), general);
+    motivo->setObjectName(QStringLiteral("B_MotivoBaja"));
+    for (auto* b : {baja, motivo})
+        b->setAutoDefault(false);
+    connect(baja, &QPushButton::clicked, this, [this] { AbrirDarBaja(); });
+    connect(motivo, &QPushButton::clicked, this, [this] { MostrarMotivoBaja(); });
+    auto* bajas = new QHBoxLayout;
+    bajas->addWidget(baja);
+    bajas->addWidget(motivo);
+    bajas->addStretch();
+    Rejilla()->addLayout(bajas, 11, 1, 1, 3);
+    for (const int i : {2, 3, 15})
+        connect(&Campo(i), &QLineEdit::textChanged, this, [this] { RefrescarEncabezado(); });
+    todo->addStretch();
+    todo->addWidget(&Barra());
+    return general;
+}
+
+void Ganaderos::LlenarVeterinarios() {
+    for (Recordset rs(Base(), "Select * FROM T_Veterinarios ORDER BY NombreVet"); !rs.Eof(); rs.Siguiente()) {
+        m_veterinarios->addItem(
+            QString::fromStdString(rs["NombreVet"].Texto() + " " + rs["ApellidosVet"].Texto()));
+        m_idsVeterinarios.push_back(rs["Id_Veterinario"].Numero());
+    }
+    m_veterinarios->setCurrentIndex(-1);
+}
+
+void Ganaderos::RefrescarEncabezado() {
+    m_encabezado->setText(Texto(2) + QLatin1Char(' ') + Texto(3) + QStringLiteral(" (") + Texto(15) +
+                          QLatin1Char(')'));
+    m_encabezado->setVisible(!(Texto(2) + Texto(3) + Texto(15)).isEmpty());
+}
+
+void Ganaderos::LimpiarPropios() {
+    m_veterinarios->setCurrentIndex(-1);
+    m_torosComun->setCurrentIndex(-1);
+    m_motivoBaja.clear();
+}
+
+void Ganaderos::MostrarPropios(Recordset& rs) {
+    Poner(kFechaBaja, rs["FechaBaja"].Texto());
+    m_motivoBaja = QString::fromStdString(rs["MotivoBaja"].Texto());
+    const auto it =
+        std::find(m_idsVeterinarios.begin(), m_idsVeterinarios.end(), rs["Id_Veterinario"].Numero());
+    m_veterinarios->setCurrentIndex(it == m_idsVeterinarios.end() || rs["Id_Veterinario"].Nulo()
+                                        ? -1
+                                        : static_cast<int>(it - m_idsVeterinarios.begin()));
+    m_torosComun->setCurrentIndex(
+        m_torosComun->findText(QString::fromStdString(rs["TorosComun"].Texto()), Qt::MatchFixedString));
+    LeerDireccion(Base(), rs["Id_Direccion"].Numero(), Clave(), kDireccion,
+                  [this](int i, const std::string& texto) { Poner(i, texto); });
+}
+
+bool Ganaderos::Comprobar() {
+    // Farmer 1 alone owns the insemination bulls, whatever was chosen.
+    m_torosComun->setCurrentIndex(CodigoTecleado() == QLatin1String("1") ? 0 : 1);
+    if (m_veterinarios->currentIndex() < 0)
+        return Rechazar(QStringLiteral("Debe Indicar el Veterinario"), m_veterinarios);
+    return true;
+}
+
+void Ganaderos::EscribirPropios(Recordset& rs) {
+    if (EsFechaValida(TextoStd(kFechaBaja))) {
+        rs["FechaBaja"] = TextoStd(kFechaBaja);
+    } else {
+        rs["FechaBaja"] = Valor();
+        rs["MotivoBaja"] = Valor(); // without the date the reason is forgotten
+    }
+    rs["Id_Veterinario"] = m_idsVeterinarios[static_cast<std::size_t>(m_veterinarios->currentIndex())];
+    rs["TorosComun"] = m_torosComun->currentText().toStdString();
+    m_idDireccion = NumerarDireccion(Base(), rs, Accion(), [this](int i) { return TextoStd(i); });
+}
+
+void Ganaderos::EscribirHijos(double codigo) {
+    EscribirDireccion(Base(), m_idDireccion, codigo, kDireccion, [this](int i) { return TextoStd(i); });
+}
+
+void Ganaderos::DespuesDeGuardar(double clave) {
+    CargarFicha(clave);
+    Barra().EstadoBotones(6);
+}
+
+QString Ganaderos::PreguntaEliminar() const {
+    return QStringLiteral("Eliminar Ganadero: ") + Texto(2) + QLatin1Char(' ') + Texto(3);
+}
+
+void Ganaderos::Borrar(double clave) {
+    if (clave != 0)
+        BorrarGanadero(Base(), clave);
+}
+
+void Ganaderos::DespuesDeBorrar() {
+    Barra().EstadoBotones(0);
+}
+
+void Ganaderos::AbrirDarBaja() {
+    if (Clave() == 0)
+        return;
+    DarBaja dialogo(Base(), Clave(), Texto(2) + QLatin1Char(' ') + Texto(3), this);
+    if (dialogo.exec() != QDialog::Accepted)
+        return;
+    Poner(kFechaBaja, dialogo.Fecha().toStdString());
+    m_motivoBaja = dialogo.Motivo();
+}
+
+void Ganaderos::MostrarMotivoBaja() {
+    Avisar(this, TipoMensaje::Informacion, QStringLiteral("Causa de la Baja."), m_motivoBaja);
+}
+
+void Ganaderos::BuscarDato(int) {
+    if (const auto clave = ElegirGanadero(LaSesion(), this))
+        CargarFicha(*clave);
+}
+
+} // namespace pastorix

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "frame/ficha/Ficha.h"
+
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QTabWidget;
+
+namespace pastorix {
+
+// The sheet of farmers: identity and address on its first tab; the farm's data on the others.
+class Ganaderos : public Ficha {
+public:
+    explicit Ganaderos(Sesion& sesion, QWidget* padre = nullptr);
+
+protected:
+    void LimpiarPropios() override;
+    void MostrarPropios(Recordset& rs) override;
+    bool Comprobar() override;
+    void EscribirPropios(Recordset& rs) override;
+    void EscribirHijos(double codigo) override;
+    void DespuesDeGuardar(double clave) override;
+    QString PreguntaEliminar() const override;
+    void Borrar(double clave) override;
+    void DespuesDeBorrar() override;
+    void BuscarDato(int icono) override;
+
+private:
+    QWidget* CrearGeneral();
+    void LlenarVeterinarios();
+    void RefrescarEncabezado();
+    void AbrirDarBaja();
+    void MostrarMotivoBaja();
+
+    QTabWidget* m_tab; // TabGanaderos
+    QLabel* m_encabezado;
+    QComboBox* m_veterinarios = nullptr;   // CD_Veterinarios
+    std::vector<double> m_idsVeterinarios; // same index
+    QComboBox* m_torosComun = nullptr;     // Combo1
+    QString m_motivoBaja;
+    double m_idDireccion = 0; // of the address that the save at hand writes
+};
+
+} // namespace pastorix

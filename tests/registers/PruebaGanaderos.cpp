@@ -1,0 +1,107 @@
+#include "PuestoDeFichas.h"
+#include "prueba.h"
+
+#include "registers/DarBaja.h"
+#include "registers/Ganaderos.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QTabWidget>
+#include <QTimer>
+
+using namespace pastorix;
+using namespace prueba;
+
+class PruebaGanaderos : public QObject {
+    Q_OBJECT
+
+    static QString Botones(QWidget& f) { return Encendidos(f, "B_Borrar", "B_CerrarGeneral"); }
+
+private Q_SLOTS:
+    void AltaYBaja() {
+        PuestoDeFichas p;
+        p.Poner("T_Veterinarios", {{"Id_Veterinario", 5.0}, {"NombreVet", "Zoe"}, {"ApellidosVet", "Gil"}});
+        p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
+        Ganaderos f(p.sesion);
+        f.show();
+        auto* vet = f.findChild<QComboBox*>(QStringLiteral("CD_Veterinarios"));
+        auto* toros = f.findChild<QComboBox*>(QStringLiteral("Combo1"));
+        QCOMPARE(vet->itemText(1), QStringLiteral("Zoe Gil"));
+        auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
+        QCOMPARE(tab->tabText(2), QStringLiteral(" Inicio Periodo Reproductivo "));
+        BotonDe(f, "B_Añadir")->click();
+        QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1"));
+        QCOMPARE(CampoDe(f, 12)->text(), QStringLiteral("22/11/2026"));
+        Teclear(f, 2, "Nora");
+        Teclear(f, 3, "Díaz");
+        Teclear(f, 15, "La Ñisu");
+        QCOMPARE(f.findChild<QLabel*>(QStringLiteral("Encabezado"))->text(),
+                 QStringLiteral("Nora Díaz (La Ñisu)"));
+        toros->setCurrentIndex(1);
+        BotonDe(f, "B_Guardar")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("Debe Indicar el Veterinario"));
+        QVERIFY(vet->hasFocus());
+        vet->setCurrentIndex(1);
+        BotonDe(f, "B_Guardar")->click();
+        QCOMPARE(p.cajas.Vistas().size(), 0);
+        // farmer 1 owns the common bulls whatever was chosen; no address text, no address
+        QCOMPARE(p.Texto("SELECT Id_Ganadero, Nombre, Apodo, FechaAlta, TorosComun, Id_Veterinario, "
+                         "Id_Direccion FROM T_Ganaderos"),
+                 std::string("1|Nora|La Ñisu|22/11/26|Sí|5|-"));
+        QCOMPARE(p.Texto("SELECT Id_GV FROM T_Direcciones"), std::string());
+        QCOMPARE(Botones(f), QStringLiteral("AMER"));
+        BotonDe(f, "B_Añadir")->click();
+        Teclear(f, 0, "57");
+        Teclear(f, 2, "Ana");
+        Teclear(f, 10, "600");
+        toros->setCurrentIndex(0);
+        vet->setCurrentIndex(0);
+        BotonDe(f, "B_Guardar")->click();
+        QCOMPARE(p.Texto("SELECT TorosComun FROM T_Ganaderos WHERE Id_Ganadero = 57"), std::string("No"));
+        QCOMPARE(p.Texto("SELECT Id_GV, TelefonoP, TelefonoM FROM T_Direcciones"), std::string("57|-|600"));
+
+        // removal: date and reason, shown again, and forgotten with the date
+        const auto conDialogo = [&](const char* fecha, const char* motivo, const char* boton) {
+            QTimer::singleShot(0, &f, [&f, fecha, motivo, boton] {
+                auto* d = f.findChild<QDialog*>(QStringLiteral("DarBaja"));
+                QCOMPARE(d->windowTitle(), QStringLiteral("Dar de Baja a: Ana "));
+                TeclearEn(*CampoDe(*d, 0), fecha);
+                TeclearEn(*CampoDe(*d, 1), motivo);
+                BotonDe(*d, boton)->click();
+                if (d->isVisible())
+                    BotonDe(*d, "B_Cancelar")->click();
+            });
+            BotonDe(f, "B_DarBaja")->click();
+        };
+        conDialogo("31/02/26", "x", "B_Aceptar");
+        const auto mal = p.cajas.Vistas();
+        QCOMPARE(mal.size(), 1);
+        QCOMPARE(mal[0].titulo, QStringLiteral("Atención!"));
+        QCOMPARE(mal[0].texto, QStringLiteral("La fecha no es correcta, dd/mm/aa"));
+        QCOMPARE(p.Texto("SELECT FechaBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"), std::string("-"));
+        conDialogo("1/11/26", "Venta d'a casería", "B_Aceptar");
+        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"),
+                 std::string("01/11/26|Venta d'a casería"));
+        QCOMPARE(CampoDe(f, 13)->text(), QStringLiteral("1/11/26"));
+        BotonDe(f, "B_MotivoBaja")->click();
+        const auto motivo = p.cajas.Vistas();
+        QCOMPARE(motivo[0].titulo, QStringLiteral("Causa de la Baja."));
+        QCOMPARE(motivo[0].texto, QStringLiteral("Venta d'a casería"));
+        Teclear(f, 13, "");
+        BotonDe(f, "B_Guardar")->click();
+        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"),
+                 std::string("-|-"));
+
+        p.cajas.Responder(true);
+        BotonDe(f, "B_Borrar")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("Eliminar Ganadero: Ana "));
+        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Ganaderos"), std::string("1"));
+        QCOMPARE(p.Texto("SELECT Id_GV FROM T_Direcciones"), std::string());
+        QCOMPARE(Botones(f), QStringLiteral("AR"));
+        QCOMPARE(CampoDe(f, 2)->text(), QString());
+        f.close();
+    }
+};
+
+PRUEBA(PruebaGanaderos)
+#include "PruebaGanaderos.moc"
