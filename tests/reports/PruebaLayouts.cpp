@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPainter>
+#include <QPrinter>
 #include <QTemporaryDir>
 
 using namespace pastorix;
@@ -156,6 +157,30 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(GuardarPdf(informe, carpeta.filePath(QStringLiteral("no/hay/i.pdf"))),
                                  ErrorInforme);
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("i.pdf")});
+    }
+
+    // A printer gets the pages that were asked for, shrunk to its paper if that is smaller.
+    void Impresora() {
+        QTemporaryDir carpeta;
+        const InformeTerminado informe =
+            Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(2), " Índices Técnicos");
+        const auto imprimir = [&](int desde, int hasta, QPageSize::PageSizeId papel) {
+            QPrinter impresora;
+            const QString fichero = carpeta.filePath(QStringLiteral("p.pdf"));
+            impresora.setOutputFormat(QPrinter::PdfFormat);
+            impresora.setOutputFileName(fichero);
+            impresora.setPageSize(QPageSize(papel));
+            if (desde > 0) {
+                impresora.setPrintRange(QPrinter::PageRange);
+                impresora.setFromTo(desde, hasta);
+            }
+            Imprimir(informe, impresora);
+            QFile pdf(fichero);
+            return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray();
+        };
+        QVERIFY(imprimir(0, 0, QPageSize::A4).contains("/Count 4"));
+        QVERIFY(imprimir(2, 3, QPageSize::A4).contains("/Count 2"));
+        QVERIFY(imprimir(4, 9, QPageSize::A5).contains("/Count 1"));
     }
 
     void Dibujo() {

@@ -20,6 +20,7 @@
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QWindow>
 
 #include <cmath>
