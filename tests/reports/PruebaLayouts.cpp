@@ -113,6 +113,17 @@ private Q_SLOTS:
         QVERIFY(!sinPartos.contains(QStringLiteral("% Pérdida|%")));
     }
 
+    // The longest name and town that the database takes leave the report on its two pages.
+    void NombreLargo() {
+        TablasEnMemoria fuente = ejemplo::IndicesTecnicos(1);
+        const std::string nombre =
+            QStringLiteral("Comunidad de bienes de los hermanos ").repeated(4).left(134).toStdString();
+        fuente.Poner(
+            ejemplo::Tabla("X_Temp", {"C1", "C2", "C3", "C4"},
+                           {{ejemplo::T("1200044"), nombre, ejemplo::T("985"), ejemplo::T("2026")}}));
+        QCOMPARE(Hacer("IndTecnicos.rpt", fuente, "").paginas.paginas.size(), std::size_t(2));
+    }
+
     void SinFilas() {
         QCOMPARE(Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(0), "").paginas.paginas.size(),
                  std::size_t(1));
@@ -154,8 +165,8 @@ private Q_SLOTS:
         QVERIFY(!bytes.contains("/Subtype /Image"));
 
         // Losing the folder leaves the old file and tells.
-        QVERIFY_EXCEPTION_THROWN(GuardarPdf(informe, carpeta.filePath(QStringLiteral("no/hay/i.pdf"))),
-                                 ErrorInforme);
+        QVERIFY_THROWS_EXCEPTION(ErrorInforme,
+                                 GuardarPdf(informe, carpeta.filePath(QStringLiteral("no/hay/i.pdf"))));
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("i.pdf")});
     }
 
