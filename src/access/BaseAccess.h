@@ -86,8 +86,8 @@ public:
     BaseAccess& operator=(BaseAccess&&) noexcept;
 
     int VersionJet() const; // 3 or 4
-    const std::string&
-    Clave() const; // database password, UTF-8, empty when none; the rows can be read without it
+    // Database password, UTF-8, empty when none; the rows can be read without it.
+    const std::string& Clave() const;
     const std::vector<Tabla>& Tablas() const; // user tables, in the order of the catalogue
 
     // Walks the live rows of a table in physical order; the cells stand in the order of Tabla::columnas. Returns the number

@@ -45,16 +45,16 @@ public:
     Lector Parte(std::uint64_t desde, std::uint64_t largo) const { return {Trozo(desde, largo), m_pagina}; }
 
     std::uint8_t U8(std::uint64_t pos) const { return Trozo(pos, 1)[0]; }
-    std::uint16_t U16(std::uint64_t pos) const { return Sin<std::uint16_t>(pos); }
-    std::uint32_t U32(std::uint64_t pos) const { return Sin<std::uint32_t>(pos); }
-    std::uint64_t U64(std::uint64_t pos) const { return Sin<std::uint64_t>(pos); }
+    std::uint16_t U16(std::uint64_t pos) const { return Entero<std::uint16_t>(pos); }
+    std::uint32_t U32(std::uint64_t pos) const { return Entero<std::uint32_t>(pos); }
+    std::uint64_t U64(std::uint64_t pos) const { return Entero<std::uint64_t>(pos); }
     double Doble(std::uint64_t pos) const { return std::bit_cast<double>(U64(pos)); }
     float Simple(std::uint64_t pos) const { return std::bit_cast<float>(U32(pos)); }
 
 private:
     // Little-endian, whatever the machine; compilers make one load of it.
     template <class T>
-    T Sin(std::uint64_t pos) const {
+    T Entero(std::uint64_t pos) const {
         const Vista b = Trozo(pos, sizeof(T));
         std::uint64_t valor = 0;
         for (std::size_t i = 0; i < sizeof(T); ++i)

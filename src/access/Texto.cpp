@@ -2,8 +2,6 @@
 
 #include "access/BaseAccess.h"
 
-#include <algorithm>
-
 namespace pastorix::access {
 
 namespace {

@@ -1,6 +1,5 @@
 #include "access/Valores.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -70,7 +69,7 @@ void EscribirGuid(const Lector& bytes, std::string& texto) {
     constexpr std::array<int, 20> orden{3, 2, 1, 0, -1, 5, 4, -1, 7, 6, -1, 8, 9, -1, 10, 11, 12, 13, 14, 15};
     constexpr char cifras[] = "0123456789ABCDEF";
     const Vista b = bytes.Trozo(0, 16);
-    texto = "{";
+    texto.assign(1, '{');
     for (const int i : orden) {
         if (i < 0) {
             texto += '-';

@@ -167,7 +167,6 @@ void AbrirSesion::Entrar(int indice) {
     m_principal.show();
     m_principal.activateWindow();
     Q_EMIT Abierta();
-    deleteLater();
 }
 
 void AbrirSesion::reject() {

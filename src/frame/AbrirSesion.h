@@ -13,7 +13,8 @@ class QPushButton;
 namespace pastorix {
 
 // The login form: the button picks the database, what is typed picks the mode. The main window is loaded behind it and disabled as long
-// as it is there. A successful entry closes it and shows the main window; leaving it otherwise ends the program.
+// as it is there. A successful entry hides it and shows the main window; leaving it otherwise ends the program. Whoever made it
+// deletes it, before the main window.
 class AbrirSesion : public QDialog {
     Q_OBJECT
 

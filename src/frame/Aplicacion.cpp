@@ -12,7 +12,6 @@ namespace pastorix {
 void PrepararAplicacion(QApplication& aplicacion) {
     QApplication::setOrganizationName(QStringLiteral("PASTORIX"));
     QApplication::setApplicationName(QStringLiteral("pastorix"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Pastorix"));
     QApplication::setDesktopFileName(QStringLiteral("pastorix"));
     QApplication::setWindowIcon(Icono("pastorix"));
     QApplication::setQuitOnLastWindowClosed(false);

@@ -2,6 +2,8 @@
 
 #include "frame/Mensajes.h"
 
+#include <QStringList>
+
 namespace pastorix {
 
 QString TextoErrorInesperado(long numero, const QString& descripcion) {

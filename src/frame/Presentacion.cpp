@@ -59,7 +59,6 @@ void Presentacion::showEvent(QShowEvent* evento) {
 
 void Presentacion::Terminar() {
     hide();
-    deleteLater();
     if (const auto siguiente = std::exchange(m_siguiente, {}))
         siguiente();
 }

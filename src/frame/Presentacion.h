@@ -10,7 +10,8 @@ class QTimer;
 
 namespace pastorix {
 
-// The splash form: the version for five seconds and nothing to press. Then it goes and what comes next is called, once.
+// The splash form: the version for five seconds and nothing to press. Then it hides and what comes next is
+// called, once. Whoever made it deletes it.
 class Presentacion : public QWidget {
     Q_OBJECT
 

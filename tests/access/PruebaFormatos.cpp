@@ -17,13 +17,13 @@ using Filita = std::vector<std::string>;
 // Rows of up to 1900 bytes in Jet 3: every number of jump bytes, offsets on both sides of each multiple of 256.
 TablaNueva ConSaltos(std::vector<Filita>& esperadas) {
     TablaNueva tabla{"Larga", {}, {}};
-    for (int c = 0; c < 8; ++c)
-        tabla.columnas.push_back({"c" + std::to_string(c), Tipo::Texto, false, 255});
-    for (int largo = 0; largo <= 234; ++largo) {
+    for (std::size_t c = 0; c < 8; ++c)
+        tabla.columnas.push_back({std::string(1, char('a' + c)), Tipo::Texto, false, 255});
+    for (std::size_t largo = 0; largo <= 234; ++largo) {
         FilaNueva fila;
         Filita textos;
-        for (int c = 0; c < 8; ++c) {
-            textos.emplace_back(std::size_t((largo + 37 * c * (largo % 2)) % 235), char('a' + c));
+        for (std::size_t c = 0; c < 8; ++c) {
+            textos.emplace_back((largo + 37 * c * (largo % 2)) % 235, char('a' + c));
             fila.celdas.push_back(Crudo(textos.back()));
         }
         tabla.filas.push_back(fila);
@@ -65,13 +65,13 @@ private Q_SLOTS:
         QFETCH(int, version);
         QFETCH(uint, llave);
         QFETCH(bool, porReferencia);
+        const std::string clave = version == 4 ? "aĀ€" : "secreto"; // Ā has a zero byte
         TablaNueva tabla = TablaVariada(version);
         tabla.mapaPorReferencia = porReferencia;
-        const Plano plano =
-            Escribir({.version = version, .llave = llave, .clave = "secreto", .tablas = {tabla}});
+        const Plano plano = Escribir({.version = version, .llave = llave, .clave = clave, .tablas = {tabla}});
         const BaseAccess base = BaseAccess::DeBytes(plano.contenido);
         QCOMPARE(base.VersionJet(), version);
-        QCOMPARE(base.Clave(), std::string("secreto"));
+        QCOMPARE(base.Clave(), clave);
         QCOMPARE(TablaDe(base, "Pesadas").columnas[1].longitud, version == 4 ? 127 : 255);
         const auto filas = Filas(base, "Pesadas");
         QCOMPARE(filas.size(), TablaDe(base, "Pesadas").filasDeclaradas);
@@ -211,6 +211,8 @@ private Q_SLOTS:
         Fila("decimal", Tipo::Decimal, {0x80, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0},
              "-42949672.98");
         Fila("greatest decimal", Tipo::Decimal, Bytes(17, 0xFF), "-3402823669209384634633746074317682114.55");
+        Fila("decimal minus zero", Tipo::Decimal, {0x80, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+             "0.00");
         Fila("decimal zero", Tipo::Decimal, Bytes(17), "0.00");
         Fila("unknown type", Tipo(19), {1, 2}, "0102");
         Fila("plain text", Tipo::Texto, Utf16("Añó €😀"), "Añó €😀");
@@ -221,6 +223,12 @@ private Q_SLOTS:
         Fila("compressed", Tipo::Texto, {0xFF, 0xFE, 'A', 0xF1, 'o'}, "Año");
         Fila("changing over", Tipo::Texto, {0xFF, 0xFE, 'a', 0, 0xAC, 0x20, 0x22, 0x21, 0, 'b', 0xF1},
              "a€™bñ");
+        Fila("second half alone", Tipo::Texto, {0x00, 0xDC, 'b', 0},
+             "\xEF\xBF\xBD"
+             "b");
+        Fila("half a pair, then narrow", Tipo::Texto, {0xFF, 0xFE, 0, 0x3D, 0xD8, 0, 'b'},
+             "\xEF\xBF\xBD"
+             "b");
         Fila("lone byte of wide text", Tipo::Texto, {0xFF, 0xFE, 0, 0xAC, 0x20, 0x22}, "€");
         Fila("compressed memo", Tipo::Memo, {0xFF, 0xFE, 'A', 0xF1, 'o'}, "Año");
         Fila("too short for its type", Tipo::Doble, {1, 2, 3},
@@ -241,11 +249,13 @@ private Q_SLOTS:
                                                  {"Oculta", una, {}, 8},
                                                  {"DelDiseño", una, {}, 2},
                                                  {"DelMotor", una, {}, std::int32_t(0x80000000U)},
-                                                 {"~TMP1", una, {}}}});
+                                                 {"~TMP1", una, {}},
+                                                 {"×", una, {}},
+                                                 {"÷", una, {}}}});
         QStringList nombres;
         for (const BaseAccess base = BaseAccess::DeBytes(plano.contenido); const Tabla& t : base.Tablas())
             nombres << QString::fromStdString(t.nombre);
-        QCOMPARE(nombres, QStringList({"Visible", "Oculta"}));
+        QCOMPARE(nombres, QStringList({"Visible", "Oculta", "×", "÷"}));
         const Plano doble = Escribir({.tablas = {{"Año", una, {}}, {"AÑO", una, {}}}});
         QVERIFY_THROWS_EXCEPTION(ErrorAccess, BaseAccess::DeBytes(doble.contenido));
     }

@@ -1,8 +1,6 @@
 #include "Ayudas.h"
 #include "prueba.h"
 
-#include <QSet>
-
 using namespace pastorix::access;
 using namespace pastorix::access::ayudas;
 

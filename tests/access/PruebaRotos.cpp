@@ -3,11 +3,9 @@
 #include "access/Rc4.h"
 #include "prueba.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
-#include <cmath>
-#include <limits>
+#include <ctime>
 #include <random>
 
 using namespace pastorix::access;
@@ -27,7 +25,9 @@ struct Fichero {
     std::size_t Datos(std::size_t i) const { return plano.datos.at("Pesadas").at(i) * P; }
 
     static TablaNueva PorReferencia() {
-        TablaNueva t{"Otra", {{"C", Tipo::Byte, true, 1}}, {{{Numero(1, 1)}}}};
+        TablaNueva t{"Otra",
+                     {{"C", Tipo::Byte, true, 1}, {"N", Tipo::Memo, false, 0}},
+                     {{{Numero(1, 1), Bytes(500, 'n')}}}};
         t.mapaPorReferencia = true;
         return t;
     }
@@ -59,6 +59,12 @@ struct Fichero {
     // Head of the memo of row r, the last of the variable values but one.
     std::size_t Memo(std::size_t pagina, std::size_t r) const {
         return Fila(pagina, r) + Leer(FinFila(pagina, r) - 7, 2);
+    }
+    std::size_t DatosDeOtra() const { return plano.datos.at("Otra").at(0) * P; }
+    // Entry of the row where row r stands now.
+    std::size_t EntradaTrasladada(std::size_t pagina, std::size_t r) const {
+        const std::size_t puntero = Leer(Fila(pagina, r), 4);
+        return Entrada((puntero >> 8) * P, puntero & 0xFF);
     }
     std::size_t Columna(std::size_t c) const { return def + Jet4.finFijo + Jet4.descriptor * c; }
 };
@@ -172,6 +178,9 @@ private Q_SLOTS:
         Fila(
             "map in no page", [](Fichero& f) { f.Poner(f.def + Jet4.mapaPropio, 0, 4); }, "la cabecera");
         Fila(
+            "short map", [](Fichero& f) { f.Poner(f.Entrada(f.plano.mapas * P, 0), P - 4, 2); },
+            "demasiado corto");
+        Fila(
             "kind of map", [](Fichero& f) { f.b[f.Mapa()] = 2; }, "clase desconocida");
         Fila(
             "map beyond the file", [](Fichero& f) { f.Poner(f.Mapa() + 1, 0xFFFFFFFF, 4); },
@@ -179,6 +188,14 @@ private Q_SLOTS:
         Fila(
             "map's bitmap", [](Fichero& f) { f.b[f.plano.bitmap * P] = 1; },
             "tabla Otra: la página no es de la clase");
+        Fila(
+            "bitmap of later pages",
+            [](Fichero& f) {
+                const std::size_t mapa = f.Fila(f.plano.mapas * P, 1);
+                f.Poner(mapa + 1, 0, 4);
+                f.Poner(mapa + 5, f.plano.bitmap, 4);
+            },
+            "cortado: tabla Otra: faltan páginas de datos (la 32");
         Fila(
             "bitmap twice", [](Fichero& f) { f.Poner(f.Fila(f.plano.mapas * P, 1) + 5, f.plano.bitmap, 4); },
             "repite una de sus partes");
@@ -210,6 +227,9 @@ private Q_SLOTS:
         Fila(
             "field order", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 7, 500, 2); }, "se pisan");
         Fila(
+            "end of the fields", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 11, 4000, 2); },
+            "se salen de ella");
+        Fila(
             "field over the count", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 5, 1, 2); }, "se pisan");
         Fila(
             "fixed field", [](Fichero& f) { f.Poner(f.Columna(0) + Jet4.lugarFijo, 4000, 2); },
@@ -221,6 +241,10 @@ private Q_SLOTS:
         Fila(
             "moved out of its table", [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.plano.mapas << 8, 4); },
             "fuera de su tabla");
+        Fila(
+            "new place without its mark",
+            [](Fichero& f) { f.b[f.EntradaTrasladada(f.datos, 4) + 1] &= 0x7F; },
+            "dos veces a la misma fila");
         Fila(
             "two moved to one place",
             [](Fichero& f) { f.Poner(f.Fila(f.datos2, 1), f.Leer(f.Fila(f.datos, 4), 4), 4); },
@@ -246,6 +270,14 @@ private Q_SLOTS:
             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.Leer(f.Memo(f.datos, 8) + 4, 4), 4); },
             "comparten la fila");
         Fila(
+            "two tables, one memo",
+            [](Fichero& f) {
+                const std::size_t otra =
+                    f.Fila(f.DatosDeOtra(), 0) + f.Leer(f.FinFila(f.DatosDeOtra(), 0) - 5, 2);
+                f.Poner(otra + 4, f.Leer(f.Memo(f.datos, 9) + 4, 4), 4);
+            },
+            "comparten la fila");
+        Fila(
             "memo loops",
             [](Fichero& f) {
                 const std::size_t puntero = f.Leer(f.Memo(f.datos2, 7) + 4, 4);
@@ -261,6 +293,20 @@ private Q_SLOTS:
         reinterpret_cast<Estropear>(estropear)(fichero);
         const std::string dicho = Mensaje(fichero.b);
         QVERIFY2(!dicho.empty() && QString::fromStdString(dicho).contains(mensaje), dicho.c_str());
+    }
+
+    // What looks odd and is not damage.
+    void Inofensivos() {
+        Fichero f;
+        const std::size_t filas = Filas(BaseAccess::DeBytes(f.b), "Pesadas").size();
+        f.Poner(f.Memo(f.datos, 0), 0x40000000, 4); // empty memo that points nowhere
+        f.Poner(f.Columna(4) + Jet4.lugar, 100, 2); // rows older than their last variable column
+        std::fill_n(f.b.begin() + std::ptrdiff_t(P), P, std::uint8_t(0xEE)); // a page that nothing points to
+        f.Poner(f.def + Jet4.filas, 7, 4); // the declared count is a check, not a limit
+        const auto leidas = Filas(BaseAccess::DeBytes(f.b), "Pesadas");
+        QCOMPARE(leidas.size(), filas);
+        QCOMPARE(leidas[0][2], std::string());
+        QVERIFY(std::all_of(leidas.begin(), leidas.end(), [](const auto& fila) { return fila[4] == "@"; }));
     }
 
     // Whatever is broken, the file is read or refused, and soon.
@@ -280,23 +326,22 @@ private Q_SLOTS:
                                : Escribir({.version = version, .tablas = {TablaVariada(version)}}).contenido;
         std::mt19937 azar(20261122);
         int rechazados = 0, leidos = 0;
-        qint64 peor = 0;
+        std::clock_t peor = 0; // processor time: the machine may have other things to do
         for (int i = 0; i < veces; ++i) {
             Bytes b = sano;
             for (auto daños = azar() % 3; daños < 3 && !b.empty(); ++daños)
                 if (b.size() > 4 * Jet4.pagina)
                     EstropearAlAzar(b, version == 3 ? Jet3.pagina : Jet4.pagina, azar);
-            QElapsedTimer reloj;
-            reloj.start();
+            const std::clock_t comienzo = std::clock();
             const std::string dicho = Mensaje(b);
-            peor = std::max(peor, reloj.elapsed());
+            peor = std::max(peor, std::clock() - comienzo);
             QVERIFY2(dicho.empty() || dicho.starts_with("El fichero ") || dicho.starts_with("Los textos "),
                      dicho.c_str());
             ++(dicho.empty() ? leidos : rechazados);
         }
         QVERIFY2(rechazados > veces / 10 && leidos > veces / 20,
                  qPrintable(QStringLiteral("%1 refused").arg(rechazados)));
-        QVERIFY2(peor < 2000, qPrintable(QStringLiteral("%1 ms for one file").arg(peor)));
+        QVERIFY2(peor < 2 * CLOCKS_PER_SEC, qPrintable(QStringLiteral("%1 ticks for one file").arg(peor)));
     }
 
     void NoSonAccess_data() {

@@ -82,7 +82,8 @@ private Q_SLOTS:
 
     void UnFicheroDeLaPlataformaAnteriorSeConvierteYSeGuarda() {
         Instalacion i(false);
-        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_DATOS "/paquetes/VETERINARIO.mdb"), i.En("BD_PradalC.mdb")));
+        QVERIFY(
+            QFile::copy(QStringLiteral(PASTORIX_DATOS "/paquetes/VETERINARIO.mdb"), i.En("BD_PradalC.mdb")));
         QVERIFY(QFile::copy(QStringLiteral(PASTORIX_DATOS "/minima.mdb"), i.En("BD_PradalP.mdb")));
         i.Crear("Toros.mdb", ClaseDeBase::Toros);
         int avances = 0;
