@@ -100,7 +100,7 @@ private Q_SLOTS:
                             "'=1+1;( 0 );-1;31/12/1899\r\n"
                             ";;;\r\n"));
         // A folder that cannot be made: its name is a file's.
-        QVERIFY_EXCEPTION_THROWN(GuardarCsv(Muestra(), ficheros.at(0)), ErrorInforme);
+        QVERIFY_THROWS_EXCEPTION(ErrorInforme, GuardarCsv(Muestra(), ficheros.at(0)));
     }
 
     void Xlsx() {
@@ -132,8 +132,8 @@ private Q_SLOTS:
 
         GuardarXlsx(InformeTerminado(), fichero); // no sheet at all is still a workbook
         QVERIFY(Leer(fichero).startsWith("PK"));
-        QVERIFY_EXCEPTION_THROWN(GuardarXlsx(Muestra(), carpeta.filePath(QStringLiteral("no/año.xlsx"))),
-                                 ErrorInforme);
+        QVERIFY_THROWS_EXCEPTION(ErrorInforme,
+                                 GuardarXlsx(Muestra(), carpeta.filePath(QStringLiteral("no/año.xlsx"))));
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("año.xlsx")});
     }
 

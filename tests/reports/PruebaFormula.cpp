@@ -90,7 +90,7 @@ private Q_SLOTS:
     }
     void Erroneas() {
         QFETCH(QString, formula);
-        QVERIFY_EXCEPTION_THROWN(Cumple(formula.toStdString()), ErrorInforme);
+        QVERIFY_THROWS_EXCEPTION(ErrorInforme, Cumple(formula.toStdString()));
     }
 };
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPainter>
+#include <QPrinter>
 #include <QTemporaryDir>
 
 using namespace pastorix;
@@ -112,6 +113,17 @@ private Q_SLOTS:
         QVERIFY(!sinPartos.contains(QStringLiteral("% Pérdida|%")));
     }
 
+    // The longest name and town that the database takes leave the report on its two pages.
+    void NombreLargo() {
+        TablasEnMemoria fuente = ejemplo::IndicesTecnicos(1);
+        const std::string nombre =
+            QStringLiteral("Comunidad de bienes de los hermanos ").repeated(4).left(134).toStdString();
+        fuente.Poner(
+            ejemplo::Tabla("X_Temp", {"C1", "C2", "C3", "C4"},
+                           {{ejemplo::T("1200044"), nombre, ejemplo::T("985"), ejemplo::T("2026")}}));
+        QCOMPARE(Hacer("IndTecnicos.rpt", fuente, "").paginas.paginas.size(), std::size_t(2));
+    }
+
     void SinFilas() {
         QCOMPARE(Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(0), "").paginas.paginas.size(),
                  std::size_t(1));
@@ -153,9 +165,33 @@ private Q_SLOTS:
         QVERIFY(!bytes.contains("/Subtype /Image"));
 
         // Losing the folder leaves the old file and tells.
-        QVERIFY_EXCEPTION_THROWN(GuardarPdf(informe, carpeta.filePath(QStringLiteral("no/hay/i.pdf"))),
-                                 ErrorInforme);
+        QVERIFY_THROWS_EXCEPTION(ErrorInforme,
+                                 GuardarPdf(informe, carpeta.filePath(QStringLiteral("no/hay/i.pdf"))));
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("i.pdf")});
+    }
+
+    // A printer gets the pages that were asked for, shrunk to its paper if that is smaller.
+    void Impresora() {
+        QTemporaryDir carpeta;
+        const InformeTerminado informe =
+            Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(2), " Índices Técnicos");
+        const auto imprimir = [&](int desde, int hasta, QPageSize::PageSizeId papel) {
+            QPrinter impresora;
+            const QString fichero = carpeta.filePath(QStringLiteral("p.pdf"));
+            impresora.setOutputFormat(QPrinter::PdfFormat);
+            impresora.setOutputFileName(fichero);
+            impresora.setPageSize(QPageSize(papel));
+            if (desde > 0) {
+                impresora.setPrintRange(QPrinter::PageRange);
+                impresora.setFromTo(desde, hasta);
+            }
+            Imprimir(informe, impresora);
+            QFile pdf(fichero);
+            return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray();
+        };
+        QVERIFY(imprimir(0, 0, QPageSize::A4).contains("/Count 4"));
+        QVERIFY(imprimir(2, 3, QPageSize::A4).contains("/Count 2"));
+        QVERIFY(imprimir(4, 9, QPageSize::A5).contains("/Count 1"));
     }
 
     void Dibujo() {

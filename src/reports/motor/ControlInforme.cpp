@@ -2,10 +2,10 @@
 
 #include "frame/Rutas.h"
 #include "reports/motor/ErrorInforme.h"
+#include "reports/motor/Espera.h"
 #include "reports/motor/LectorDisposicion.h"
 #include "reports/motor/VentanaInforme.h"
 
-#include <QApplication>
 #include <QFileInfo>
 
 #include <utility>
@@ -18,14 +18,6 @@ ControlInforme::Destinatario& Instalado() {
     static ControlInforme::Destinatario destinatario;
     return destinatario;
 }
-
-// The wait cursor for as long as a report is made.
-struct Espera {
-    Espera() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Espera() { QApplication::restoreOverrideCursor(); }
-    Espera(const Espera&) = delete;
-    Espera& operator=(const Espera&) = delete;
-};
 
 } // namespace
 

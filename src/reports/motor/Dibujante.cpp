@@ -10,28 +10,31 @@ namespace pastorix {
 
 namespace {
 
+constexpr double UnidadesPorMm = 1 / MmPorUnidad;
+
 QColor De(Color color) {
     return QColor::fromRgb(static_cast<QRgb>(color | 0xFF000000U));
 }
 
 void DibujarCaja(QPainter& pintor, const CajaColocada& caja, double grosorMinimo) {
-    const QRectF& r = caja.lugar;
-    QPen pluma(De(caja.colorBorde), std::max(caja.grosor, grosorMinimo));
+    const QRectF r(caja.lugar.topLeft() * UnidadesPorMm, caja.lugar.size() * UnidadesPorMm);
+    const double radio = caja.radio * UnidadesPorMm;
+    QPen pluma(De(caja.colorBorde), std::max(caja.grosor * UnidadesPorMm, grosorMinimo));
     pluma.setCapStyle(Qt::FlatCap);
     pluma.setJoinStyle(Qt::MiterJoin);
     if (caja.fondo && !r.isEmpty()) {
         pintor.setPen(Qt::NoPen);
         pintor.setBrush(De(*caja.fondo));
-        if (caja.radio > 0)
-            pintor.drawRoundedRect(r, caja.radio, caja.radio);
+        if (radio > 0)
+            pintor.drawRoundedRect(r, radio, radio);
         else
             pintor.drawRect(r);
     }
     pintor.setBrush(Qt::NoBrush);
     pintor.setPen(pluma);
     if (caja.bordes == TodosLosLados) {
-        if (caja.radio > 0)
-            pintor.drawRoundedRect(r, caja.radio, caja.radio);
+        if (radio > 0)
+            pintor.drawRoundedRect(r, radio, radio);
         else
             pintor.drawRect(r);
         return;
@@ -57,22 +60,27 @@ void DibujarPagina(QPainter& pintor, const Paginas& paginas, std::size_t pagina,
     pintor.save();
     pintor.setRenderHint(QPainter::Antialiasing);
     pintor.setRenderHint(QPainter::TextAntialiasing);
-    pintor.scale(escala, escala);
-    const double grosorMinimo = 0.6 / escala; // thinner lines would fade away on a screen
-    // Texts come after boxes at the same place in the list, so one walk keeps the order; fonts want their own scale.
+    // All is drawn in the units of the fonts: a change of scale for every text takes longer than the text.
+    pintor.scale(escala * MmPorUnidad, escala * MmPorUnidad);
+    const double grosorMinimo = 0.6 / (escala * MmPorUnidad); // thinner lines would fade away on a screen
+    int letraPuesta = -1;
+    std::optional<Color> colorPuesto;
     for (const Trozo& trozo : paginas.paginas[pagina].trozos) {
-        if (const auto* caja = std::get_if<CajaColocada>(&trozo)) {
+        if (const auto* texto = std::get_if<TextoColocado>(&trozo)) {
+            if (letraPuesta != texto->letra)
+                pintor.setFont(fuentes[static_cast<std::size_t>(letraPuesta = texto->letra)]);
+            if (colorPuesto != texto->color)
+                pintor.setPen(De(*(colorPuesto = texto->color)));
+            pintor.drawText(texto->base * UnidadesPorMm, texto->texto);
+        } else if (const auto* caja = std::get_if<CajaColocada>(&trozo)) {
             DibujarCaja(pintor, *caja, grosorMinimo);
-        } else if (const auto* texto = std::get_if<TextoColocado>(&trozo)) {
-            pintor.save();
-            pintor.scale(MmPorUnidad, MmPorUnidad);
-            pintor.setFont(fuentes[static_cast<std::size_t>(texto->letra)]);
-            pintor.setPen(De(texto->color));
-            pintor.drawText(texto->base / MmPorUnidad, texto->texto);
-            pintor.restore();
+            colorPuesto.reset();
         } else {
             const auto& grafico = std::get<GraficoColocado>(trozo);
+            pintor.save();
+            pintor.scale(UnidadesPorMm, UnidadesPorMm);
             DibujarGrafico(pintor, grafico.lugar, *grafico.datos);
+            pintor.restore();
         }
     }
     pintor.restore();

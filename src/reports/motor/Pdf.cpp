@@ -65,13 +65,17 @@ void Imprimir(const InformeTerminado& informe, QPrinter& impresora) {
     QPainter pintor;
     if (!pintor.begin(&impresora))
         throw ErrorInforme(CodigoInforme::Escritura, "La impresora no acepta el informe");
+    // A sheet smaller than the report's takes it whole, in small.
+    const QRectF hoja = impresora.pageLayout().fullRect(QPageLayout::Millimeter);
+    const QSizeF pedida = informe.paginas.tamaño;
+    const double encoger = std::min({1.0, hoja.width() / pedida.width(), hoja.height() / pedida.height()});
     const bool alReves = impresora.pageOrder() == QPrinter::LastPageFirst;
     for (int k = 0; k <= hasta - desde; ++k) {
         const int pagina = alReves ? hasta - k : desde + k;
         if (k > 0 && !impresora.newPage())
             throw ErrorInforme(CodigoInforme::Escritura, "La impresora ha dejado de aceptar el informe");
         DibujarPagina(pintor, informe.paginas, static_cast<std::size_t>(pagina - 1),
-                      impresora.resolution() / MmPorPulgada);
+                      impresora.resolution() / MmPorPulgada * encoger);
     }
 }
 

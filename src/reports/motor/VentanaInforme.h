@@ -29,6 +29,9 @@ public:
     const InformeTerminado& Informe() const { return m_informe; }
 
 private:
+    inline static const QString AnchoDePagina = QStringLiteral("Ancho de página");
+    inline static const QString PaginaEntera = QStringLiteral("Página entera");
+
     void CrearOrdenes();
     void CrearBarra();
     void CrearMiniaturas();
