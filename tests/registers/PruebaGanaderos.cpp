@@ -23,7 +23,7 @@ private Q_SLOTS:
         p.Poner("T_Veterinarios", {{"Id_Veterinario", 5.0}, {"NombreVet", "Zoe"}, {"ApellidosVet", "Gil"}});
         p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
         Ganaderos f(p.sesion);
-        f.show();
+        Mostrar(f);
         auto* vet = f.findChild<QComboBox*>(QStringLiteral("CD_Veterinarios"));
         auto* toros = f.findChild<QComboBox*>(QStringLiteral("Combo1"));
         QCOMPARE(vet->itemText(1), QStringLiteral("Zoe Gil"));

@@ -20,7 +20,7 @@ private Q_SLOTS:
         p.sesion.UsuarioSesion = "CENTRAL";
         p.Poner("T_Veterinarios", {{"Id_Veterinario", 7.0}, {"NombreVet", "VALNOR"}});
         Veterinarios f(p.sesion);
-        f.show();
+        Mostrar(f);
         QCOMPARE(Encendidos(f), QStringLiteral("AR"));
         Teclear(f, 2, "x"); // nothing on screen and no edit: a key begins none
         QCOMPARE(Encendidos(f), QStringLiteral("AR"));
@@ -83,7 +83,7 @@ private Q_SLOTS:
                 {{"Id_Direccion", 4.0}, {"Id_GV", 2.0}, {"Localidad", "Tineo"}, {"FAX", "9"}});
         p.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Id_Veterinario", 2.0}});
         Veterinarios f(p.sesion);
-        f.show();
+        Mostrar(f);
         Teclear(f, 0, "99");
         QTest::keyClick(CampoDe(f, 0), Qt::Key_Return);
         const auto caja = p.cajas.Vistas();
@@ -154,7 +154,7 @@ private Q_SLOTS:
         for (const double id : {1.0, 2.0})
             p.Poner("T_Veterinarios", {{"Id_Veterinario", id}, {"NombreVet", "V"}});
         Veterinarios f(p.sesion);
-        f.show();
+        Mostrar(f);
         f.CargarFicha(2);
         BotonDe(f, "B_Añadir")->click();
         QCOMPARE(p.Caja(),

@@ -53,6 +53,12 @@ struct PuestoDeFichas {
     }
 };
 
+// Shown and active: focus is part of what the sheets promise.
+inline void Mostrar(QWidget& ficha) {
+    ficha.show();
+    ficha.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&ficha));
+}
 inline QLineEdit* CampoDe(QWidget& ficha, int i) {
     return ficha.findChild<QLineEdit*>(QStringLiteral("CT_Estandar(%1)").arg(i));
 }
