@@ -1,19 +1,31 @@
 #include "app/Ordenes.h"
 
+#include "frame/Mensajes.h"
 #include "frame/Principal.h"
+#include "registers/Ganaderos.h"
+#include "registers/Veterinarios.h"
 #include "reports/ListadoMaestro.h"
 #include "reports/Lst_IndicesTecnicos.h"
+
+#include <QDialog>
+
+#include <functional>
 
 namespace pastorix {
 
 namespace {
 
-// A report form belongs to the frame, which is out of reach while the form is open; it goes when it is closed.
-template <typename Formulario>
-void Abrir(Principal& principal, Sesion& sesion, ControlInforme& informe) {
-    auto* f = new Formulario(sesion, informe, &principal);
-    f->setAttribute(Qt::WA_DeleteOnClose);
-    f->show();
+// A form belongs to the frame, which is out of reach while the form is open; it goes when it is closed. What cannot be opened (the
+// database fails) is told.
+template <typename Hacer>
+void Abrir(Principal& principal, Hacer hacer) {
+    try {
+        QDialog* f = hacer();
+        f->setAttribute(Qt::WA_DeleteOnClose);
+        f->show();
+    } catch (const ErrorAlmacen& e) {
+        Avisar(&principal, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+    }
 }
 
 } // namespace
@@ -24,8 +36,12 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     };
     principal.Vincular(QStringLiteral("Menu_Herr(1)"), listado(1));
     principal.Vincular(QStringLiteral("Menu_Herr(2)"), listado(2));
-    principal.Vincular(QStringLiteral("Mnu_IndicesTecnicos"),
-                       [&] { Abrir<Lst_IndicesTecnicos>(principal, sesion, informe); });
+    const auto formulario = [&](const char* orden, std::function<QDialog*()> hacer) {
+        principal.Vincular(QString::fromUtf8(orden), [&principal, hacer] { Abrir(principal, hacer); });
+    };
+    formulario("Mnu_Veterinarios", [&] { return new Veterinarios(sesion, &principal); });
+    formulario("Mnu_Ganaderos", [&] { return new Ganaderos(sesion, &principal); });
+    formulario("Mnu_IndicesTecnicos", [&] { return new Lst_IndicesTecnicos(sesion, informe, &principal); });
 }
 
 } // namespace pastorix

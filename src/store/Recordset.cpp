@@ -290,6 +290,13 @@ int Recordset::Campos() const {
 std::string Recordset::NombreCampo(int indice) const {
     return m->Salida(indice).nombre;
 }
+int Recordset::TipoCampo(int indice) const {
+    return CodigoDeTipo(m->Salida(indice).tipo);
+}
+std::string Recordset::TablaCampo(int indice) const {
+    const auto* tabla = m->Salida(indice).tabla;
+    return tabla ? tabla->nombre : std::string();
+}
 
 Campo Recordset::operator[](std::string_view nombre) {
     const int i = m->preparada->Columna(nombre);

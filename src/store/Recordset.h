@@ -67,6 +67,8 @@ public:
 
     int Campos() const;
     std::string NombreCampo(int indice) const;
+    int TipoCampo(int indice) const;          // type code of the column, see CodigoDeTipo
+    std::string TablaCampo(int indice) const; // table that the column comes from; "" when it is computed
     // By name without regard to case ("AÑONAT" finds AñoNat), optionally prefixed "T_Vacas.Nombre"; the first of two equal names.
     // Throws ErrorAlmacen(ColumnaDesconocida).
     Campo operator[](std::string_view nombre);
