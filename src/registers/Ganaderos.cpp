@@ -28,17 +28,17 @@ constexpr CampoFicha kCampos[] = {
     {16, "NSocio", "Nº &Socio", ClaseCampo::Texto, 50, 1, 1},
     {2, "Nombre", "&Nombre", ClaseCampo::Texto, 50, 2, 0},
     {3, "Apellidos", "A&pellidos", ClaseCampo::Texto, 50, 2, 1},
-    {15, "Apodo", "Apo&do", ClaseCampo::Texto, 50, 3, 0},
-    {14, "Concejo", "Conce&jo", ClaseCampo::Texto, 50, 3, 1},
+    {15, "Apodo", "Apodo", ClaseCampo::Texto, 50, 3, 0},
+    {14, "Concejo", "Concejo", ClaseCampo::Texto, 50, 3, 1},
     {4, nullptr, "D&irección", ClaseCampo::Texto, 50, 4, 0, 2},
     {5, nullptr, "", ClaseCampo::Texto, 50, 5, 0, 2, "Complemento de la dirección"},
-    {6, nullptr, "Cód. Pos&tal", ClaseCampo::Texto, 5, 6, 0},
+    {6, nullptr, "Cód. Postal", ClaseCampo::Texto, 5, 6, 0},
     {7, nullptr, "&Localidad", ClaseCampo::Texto, 30, 6, 1},
-    {8, nullptr, "Pro&vincia", ClaseCampo::Texto, 30, 7, 0},
-    {9, nullptr, "Tel&éfono", ClaseCampo::Texto, 20, 7, 1},
-    {10, nullptr, "Tlf. Mó&vil", ClaseCampo::Texto, 20, 8, 0},
-    {11, nullptr, "e-mai&l", ClaseCampo::Texto, 25, 8, 1},
-    {12, "FechaAlta", "&Fecha de Alta", ClaseCampo::Fecha, 10, 9, 0},
+    {8, nullptr, "Provincia", ClaseCampo::Texto, 30, 7, 0},
+    {9, nullptr, "Telé&fono", ClaseCampo::Texto, 20, 7, 1},
+    {10, nullptr, "Tlf. Móvil", ClaseCampo::Texto, 20, 8, 0},
+    {11, nullptr, "e-mail", ClaseCampo::Texto, 25, 8, 1},
+    {12, "FechaAlta", "Fec&ha de Alta", ClaseCampo::Fecha, 10, 9, 0},
     {13, nullptr, "Fecha de &Baja", ClaseCampo::Fecha, 10, 9, 1},
 };
 
@@ -74,6 +74,9 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     fuente.setBold(true);
     m_encabezado->setFont(fuente);
     m_encabezado->setObjectName(QStringLiteral("Encabezado"));
+    auto lugar = m_encabezado->sizePolicy();
+    lugar.setRetainSizeWhenHidden(true); // the tabs stay where they are
+    m_encabezado->setSizePolicy(lugar);
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(m_encabezado);
     todo->addWidget(m_tab);
@@ -105,7 +108,7 @@ QWidget* Ganaderos::CrearGeneral() {
     m_torosComun->setCurrentIndex(-1);
     int columna = 0;
     for (const auto& [texto, combo] :
-         {std::pair{"Veterina&rio", m_veterinarios}, {"Toros de Inseminación", m_torosComun}}) {
+         {std::pair{"Ve&terinario", m_veterinarios}, {"Toros de Inseminación", m_torosComun}}) {
         auto* rotulo = new QLabel(QString::fromUtf8(texto), general);
         rotulo->setBuddy(combo);
         combo->setAccessibleName(QString::fromUtf8(texto).remove(QLatin1Char('&')));
@@ -115,10 +118,13 @@ QWidget* Ganaderos::CrearGeneral() {
     }
     auto* baja = new QPushButton(QStringLiteral("Dar de Ba&ja..."), general);
     baja->setObjectName(QStringLiteral("B_DarBaja"));
-    auto* motivo = new QPushButton(QStringLiteral("Ver motivo de la Baja"), general);
+    auto* motivo = new QPushButton(QStringLiteral("&Ver motivo de la Baja"), general);
     motivo->setObjectName(QStringLiteral("B_MotivoBaja"));
-    for (auto* b : {baja, motivo})
+    m_bajas = {baja, motivo};
+    for (auto* b : m_bajas) {
         b->setAutoDefault(false);
+        b->setEnabled(false); // until a farmer is on the sheet
+    }
     connect(baja, &QPushButton::clicked, this, [this] { AbrirDarBaja(); });
     connect(motivo, &QPushButton::clicked, this, [this] { MostrarMotivoBaja(); });
     auto* bajas = new QHBoxLayout;
@@ -152,11 +158,15 @@ void Ganaderos::LimpiarPropios() {
     m_veterinarios->setCurrentIndex(-1);
     m_torosComun->setCurrentIndex(-1);
     m_motivoBaja.clear();
+    for (auto* b : m_bajas)
+        b->setEnabled(false);
 }
 
 void Ganaderos::MostrarPropios(Recordset& rs) {
     Poner(kFechaBaja, rs["FechaBaja"].Texto());
     m_motivoBaja = QString::fromStdString(rs["MotivoBaja"].Texto());
+    for (auto* b : m_bajas)
+        b->setEnabled(true);
     const auto it =
         std::find(m_idsVeterinarios.begin(), m_idsVeterinarios.end(), rs["Id_Veterinario"].Numero());
     m_veterinarios->setCurrentIndex(it == m_idsVeterinarios.end() || rs["Id_Veterinario"].Nulo()

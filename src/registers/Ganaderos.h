@@ -2,10 +2,12 @@
 
 #include "frame/ficha/Ficha.h"
 
+#include <array>
 #include <vector>
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 class QTabWidget;
 
 namespace pastorix {
@@ -39,6 +41,7 @@ private:
     QComboBox* m_veterinarios = nullptr;   // CD_Veterinarios
     std::vector<double> m_idsVeterinarios; // same index
     QComboBox* m_torosComun = nullptr;     // Combo1
+    std::array<QPushButton*, 2> m_bajas{}; // removal, and its reason
     QString m_motivoBaja;
     double m_idDireccion = 0; // of the address that the save at hand writes
 };

@@ -27,6 +27,7 @@ private Q_SLOTS:
         auto* vet = f.findChild<QComboBox*>(QStringLiteral("CD_Veterinarios"));
         auto* toros = f.findChild<QComboBox*>(QStringLiteral("Combo1"));
         QCOMPARE(vet->itemText(1), QStringLiteral("Zoe Gil"));
+        QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHIJLMNOPRSTV"));
         auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
         QCOMPARE(tab->tabText(2), QStringLiteral(" Inicio Periodo Reproductivo "));
         BotonDe(f, "B_Añadir")->click();

@@ -21,6 +21,7 @@ private Q_SLOTS:
         p.Poner("T_Veterinarios", {{"Id_Veterinario", 7.0}, {"NombreVet", "VALNOR"}});
         Veterinarios f(p.sesion);
         Mostrar(f);
+        QCOMPARE(Mnemonicos(f), QStringLiteral("ACDEFGHIJLMNOPRSTUVX"));
         QCOMPARE(Encendidos(f), QStringLiteral("AR"));
         Teclear(f, 2, "x"); // nothing on screen and no edit: a key begins none
         QCOMPARE(Encendidos(f), QStringLiteral("AR"));

@@ -6,7 +6,9 @@
 #include "frame/Sesion.h"
 #include "frame/calendario/Reloj.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -80,6 +82,21 @@ inline void Teclear(QWidget& ficha, int i, const char* texto) {
         TeclearEn(*campo, texto);
     else
         QTest::keyClick(campo, Qt::Key_Delete);
+}
+// Letters that Alt reaches in a window, sorted; each must stand for one thing only.
+inline QString Mnemonicos(QWidget& ficha) {
+    QStringList letras;
+    const auto tomar = [&](const QString& texto) {
+        const auto i = texto.indexOf(QLatin1Char('&'));
+        if (i >= 0)
+            letras << texto.mid(i + 1, 1).toUpper();
+    };
+    for (const auto* l : ficha.findChildren<QLabel*>())
+        tomar(l->text());
+    for (const auto* b : ficha.findChildren<QAbstractButton*>())
+        tomar(b->text());
+    letras.sort();
+    return letras.join(QString());
 }
 // The buttons that are on, by the first letter after B_: "AMEGCR" (R for Cerrar).
 inline QString Encendidos(QWidget& ficha, const char* eliminar = "B_Eliminar",

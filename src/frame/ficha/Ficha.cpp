@@ -57,6 +57,7 @@ QWidget* Ficha::CrearRejilla(QWidget* padre) {
     auto* caja = new QWidget(padre);
     m_rejilla = new QGridLayout(caja);
     m_rejilla->setHorizontalSpacing(12);
+    const int anchuraMinima = fontMetrics().averageCharWidth() * 26;
     QWidget* anterior = nullptr;
     for (const auto& c : m_definicion.campos) {
         auto* campo = CrearCampo(c, caja);
@@ -66,6 +67,8 @@ QWidget* Ficha::CrearRejilla(QWidget* padre) {
         const int columna = c.columnaRejilla * 2;
         m_rejilla->addWidget(rotulo, c.fila, columna, Qt::AlignRight | Qt::AlignVCenter);
         m_rejilla->addWidget(campo, c.fila, columna + 1, 1, c.ancho * 2 - 1);
+        m_rejilla->setColumnMinimumWidth(columna + 1, anchuraMinima);
+        m_rejilla->setColumnStretch(columna + 1, 1);
         if (anterior)
             setTabOrder(anterior, campo);
         anterior = campo;
