@@ -87,6 +87,7 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     }
     LlenarVeterinarios();
     RefrescarEncabezado();
+    TerminarConstruccion(m_bajas[1]);
 }
 
 QWidget* Ganaderos::CrearGeneral() {

@@ -61,6 +61,7 @@ Veterinarios::Veterinarios(Sesion& sesion, QWidget* padre)
     PonerIconoBusDato(0, 0);
     todo->addStretch();
     todo->addWidget(&Barra());
+    TerminarConstruccion(&Campo(14));
 }
 
 // Anonymous veterinarians keep two at most. The test is for exactly two: a database that holds more already is let through.

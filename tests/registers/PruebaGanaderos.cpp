@@ -27,6 +27,13 @@ private Q_SLOTS:
         auto* vet = f.findChild<QComboBox*>(QStringLiteral("CD_Veterinarios"));
         auto* toros = f.findChild<QComboBox*>(QStringLiteral("Combo1"));
         QCOMPARE(vet->itemText(1), QStringLiteral("Zoe Gil"));
+        QVERIFY(CampoDe(f, 0)->hasFocus());
+        for (const int i : {1, 16, 2, 3}) { // reading order
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            if (qobject_cast<QAbstractButton*>(QApplication::focusWidget())) // the search icon
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QVERIFY(CampoDe(f, i)->hasFocus());
+        }
         QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHIJLMNOPRSTV"));
         auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
         QCOMPARE(tab->tabText(2), QStringLiteral(" Inicio Periodo Reproductivo "));

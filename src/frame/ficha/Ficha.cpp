@@ -133,6 +133,14 @@ void Ficha::PonerIconoBusDato(int icono, int indiceCampo) {
     m_iconos[icono] = boton;
 }
 
+void Ficha::TerminarConstruccion(QWidget* ultimo) {
+    for (auto* boton : m_barra->findChildren<QPushButton*>()) {
+        setTabOrder(ultimo, boton);
+        ultimo = boton;
+    }
+    Campo(0).setFocus();
+}
+
 void Ficha::Vigilar(QWidget* control) {
     if (auto* combo = qobject_cast<QComboBox*>(control))
         connect(combo, &QComboBox::activated, this, [this] { EntrarEnModificar(); });

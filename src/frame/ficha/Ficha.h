@@ -58,7 +58,8 @@ protected:
     QGridLayout* Rejilla() const { return m_rejilla; }  // for controls between them
     void PonerIconoBusDato(int icono, int indiceCampo); // the search icon beside a field
     BarraFicha& Barra() { return *m_barra; }
-    void Vigilar(QWidget* control); // a change in it begins a modification
+    void TerminarConstruccion(QWidget* ultimo); // focus on the code; the buttons come after the last control
+    void Vigilar(QWidget* control);             // a change in it begins a modification
 
     // For its hooks.
     CampoTexto& Campo(int indice) const { return *m_campos.at(indice); }
