@@ -78,7 +78,9 @@ Selector::Selector(Conexion& conexion, ListaSelector lista, QWidget* padre)
         m_rejilla->setFocus();
 }
 
-Selector::~Selector() = default;
+Selector::~Selector() {
+    delete m_filtros; // it watches the list, which as the older child would go first
+}
 
 void Selector::CrearBarra() {
     auto* barra = new QToolBar(this);
