@@ -151,7 +151,7 @@ private Q_SLOTS:
         QFETCH(QString, claves);
         Granjas b;
         const auto clase = static_cast<TipoSelector>(tipo);
-        QVERIFY_EXCEPTION_THROWN(PrepararSelector(b.c, clase), std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, PrepararSelector(b.c, clase));
         const auto lista = ListaDelLlamador(clase, sentencia.toStdString(), " Título", {"Una", "Otra"});
         QCOMPARE(lista.titulo, std::string(" Título"));
         QCOMPARE(Unidas(lista.columnas), QString("Una|Otra"));
@@ -177,7 +177,7 @@ private Q_SLOTS:
 
     void NoHayClaseDiez() {
         Granjas b;
-        QVERIFY_EXCEPTION_THROWN(PrepararSelector(b.c, static_cast<TipoSelector>(10)), std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, PrepararSelector(b.c, static_cast<TipoSelector>(10)));
     }
 };
 

@@ -24,7 +24,7 @@ namespace pastorix {
 namespace {
 
 constexpr int kFilasDeMuestra = 60; // rows by which the first widths are judged
-constexpr int kAnchoMaximo = 190;   // of a column at first, pixels
+constexpr int kAnchoMaximo = 240;   // of a column at first, pixels
 constexpr int kAnchoDeVentana = 1240;
 
 std::unique_ptr<Recordset> AbrirLista(Conexion& conexion, const SentenciaDeLista& sentencia,
@@ -78,7 +78,9 @@ Selector::Selector(Conexion& conexion, ListaSelector lista, QWidget* padre)
         m_rejilla->setFocus();
 }
 
-Selector::~Selector() = default;
+Selector::~Selector() {
+    delete m_filtros; // it watches the list, which as the older child would go first
+}
 
 void Selector::CrearBarra() {
     auto* barra = new QToolBar(this);
@@ -147,7 +149,9 @@ void Selector::AjustarColumnas() {
     const int muestra = std::min(kFilasDeMuestra, m_modelo->rowCount());
     int total = 0;
     for (int c = 0; c < static_cast<int>(m_filtros->Cajas().size()); ++c) {
-        int ancho = std::max(m_filtros->AnchoDeTitulo(c), 56);
+        const bool fecha = m_columnas[static_cast<std::size_t>(c)].tipo == TipoFecha;
+        int ancho = std::max({m_filtros->AnchoDeTitulo(c), 56,
+                              fecha ? metrica.horizontalAdvance(QStringLiteral("00/00/00")) + 14 : 0});
         for (int f = 0; f < muestra; ++f)
             ancho = std::max(ancho, metrica.horizontalAdvance(
                                         m_modelo->data(m_modelo->index(f, c), Qt::DisplayRole).toString()) +
