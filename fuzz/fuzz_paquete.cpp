@@ -23,7 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t n) 
     try {
         c.AbrirFichero(fichero, kClave, o);
         for (const auto& t : c.Esquema().Tablas())
-            (void)Recordset(c, "SELECT * FROM [" + t.nombre + "]", Cursor::Keyset, Bloqueo::SoloLectura).Contar();
+            (void)Recordset(c, "SELECT * FROM [" + t.nombre + "]", Cursor::Keyset, Bloqueo::SoloLectura)
+                .Contar();
     } catch (const ErrorAlmacen& e) {
         if (e.what()[0] == '\0')
             std::abort();

@@ -25,7 +25,8 @@ struct Base {
     explicit Base(pastorix::ClaseDeBase clase = pastorix::ClaseDeBase::Principal) {
         pastorix::CrearBase(pastorix::Ruta(fichero), clase, pastorix::kClave);
         c.AbrirFichero(fichero, pastorix::kClave);
-        sqlite3_exec(c.Manejador(), "PRAGMA synchronous=OFF", nullptr, nullptr, nullptr); // no test pulls the plug
+        sqlite3_exec(c.Manejador(), "PRAGMA synchronous=OFF", nullptr, nullptr,
+                     nullptr); // no test pulls the plug
     }
 
     using Fila = std::initializer_list<std::pair<const char*, pastorix::Valor>>;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "store/Recordset.h"
+
+#include <QTableWidget>
+
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace pastorix {
+
+// A column of a grid of child rows.
+struct ColumnaHijos {
+    const char* columna; // field of the query
+    const char* titulo;
+    int caracteres;      // width
+};
+
+// The grid of a sheet's child rows: read-only, one row chosen at a time. A click, or moving onto it with the arrows, brings a row into the
+// sheet's fields; a double click or Enter opens it.
+class RejillaHijos : public QTableWidget {
+public:
+    RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padre = nullptr);
+
+    // Shows the rows of the query from its first one; the recordset may be closed afterwards.
+    void Llenar(Recordset& rs);
+    void Vaciar();
+    int Filas() const { return rowCount(); }
+    // Value of a field of a row as the query gave it.
+    const Valor& De(int fila, std::size_t columna) const { return m_valores[static_cast<std::size_t>(fila)][columna]; }
+
+    std::function<void(int fila)> alElegir; // a row became the current one
+    std::function<void(int fila)> alAbrir;  // a row is to be opened
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    std::span<const ColumnaHijos> m_columnas;
+    std::vector<std::vector<Valor>> m_valores;
+};
+
+} // namespace pastorix

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+class QHBoxLayout;
+class QStackedWidget;
+class QToolButton;
+
+namespace pastorix {
+
+// The navigation strip of a sheet with sub-sheets: one pair of icon and label per sub-sheet, and a click on either, or its letter, brings
+// that one up. The sub-sheets belong to the strip.
+class TiraNavegacion : public QWidget {
+public:
+    explicit TiraNavegacion(QWidget* padre = nullptr);
+
+    // Adds a sub-sheet behind the others; returns its index. The first one added is up.
+    int Añadir(const char* icono, const QString& rotulo, QWidget* subficha);
+    void Mostrar(int indice);
+    int Actual() const;
+
+private:
+    QHBoxLayout* m_fila;
+    QStackedWidget* m_subfichas;
+    std::vector<QToolButton*> m_botones;
+};
+
+} // namespace pastorix
