@@ -33,8 +33,9 @@ void Ejecutar(sqlite3* base, const std::string& sql) {
 // A database that is built beside the scenes: no journal and no sync until it is whole, then one sync and a rename.
 BasePropia NuevaBase(const fs::path& ruta) {
     sqlite3* cruda = nullptr;
-    const int codigo = sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    const int codigo =
+        sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda,
+                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
     BasePropia base(cruda);
     if (codigo != SQLITE_OK)
         LanzarError(cruda, codigo, {});

@@ -1,9 +1,9 @@
 #include "store/Fecha.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
-#include <cstdio>
 
 namespace pastorix {
 
@@ -34,10 +34,17 @@ std::string_view SinBlancos(std::string_view t) {
     return t;
 }
 
+// At least `anchura` digits, zeros before them. By hand: dates are written by the ten thousand when a file is converted.
 void Cifras(std::string& salida, int valor, int anchura) {
-    std::array<char, 12> buffer{};
-    const int n = std::snprintf(buffer.data(), buffer.size(), "%0*d", anchura, valor);
-    salida.append(buffer.data(), static_cast<std::size_t>(n));
+    std::array<char, 12> cifras{};
+    int n = 0;
+    do {
+        cifras[static_cast<std::size_t>(n++)] = static_cast<char>('0' + valor % 10);
+        valor /= 10;
+    } while (valor > 0);
+    salida.append(static_cast<std::size_t>(std::max(0, anchura - n)), '0');
+    while (n > 0)
+        salida += cifras[static_cast<std::size_t>(--n)];
 }
 
 } // namespace
@@ -96,12 +103,12 @@ std::optional<Fecha> FechaDeTexto(std::string_view texto) {
 
 std::string FechaIso(Fecha fecha) {
     std::string salida;
-    salida.reserve(19);
-    Cifras(salida, fecha.Año(), 4);
+    const auto p = Partes(fecha.dia);
+    Cifras(salida, static_cast<int>(p.year()), 4);
     salida += '-';
-    Cifras(salida, fecha.Mes(), 2);
+    Cifras(salida, static_cast<int>(static_cast<unsigned>(p.month())), 2);
     salida += '-';
-    Cifras(salida, fecha.DiaDelMes(), 2);
+    Cifras(salida, static_cast<int>(static_cast<unsigned>(p.day())), 2);
     if (fecha.segundo != 0) {
         salida += ' ';
         Cifras(salida, fecha.segundo / 3600, 2);

@@ -181,7 +181,8 @@ bool TablaDestino::EnlazarCelda(int lugar, const access::Celda& celda, TipoColum
 
 bool TablaDestino::EnlazarTextoEn(int lugar, const access::Celda& celda) {
     if (const auto* t = std::get_if<std::string>(&celda)) {
-        EnlazarTexto(lugar, *t);
+        // The row outlives the statement's run: no copy.
+        sqlite3_bind_text64(m_insercion, lugar, t->data(), t->size(), SQLITE_STATIC, SQLITE_UTF8);
         return true;
     }
     if (const auto* b = std::get_if<bool>(&celda))

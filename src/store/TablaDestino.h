@@ -60,7 +60,6 @@ private:
     std::vector<Destino> m_destinos; // one per column of the Access table, in its order
     std::map<std::string, int> m_raros;
     sqlite3_stmt* m_insercion = nullptr;
-    std::string m_buffer;
 };
 
 } // namespace pastorix
