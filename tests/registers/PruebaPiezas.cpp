@@ -32,7 +32,9 @@ private Q_SLOTS:
     void Hijos() {
         Base b;
         for (int n = 1; n <= 3; ++n)
-            b.Poner("T_Partos", {{"Id_Parto", double(n)}, {"N_Parto", n}, {"Fecha_Parto", n == 2 ? Valor() : Valor(F("1/2/2026"))}});
+            b.Poner("T_Partos", {{"Id_Parto", double(n)},
+                                 {"N_Parto", n},
+                                 {"Fecha_Parto", n == 2 ? Valor() : Valor(F("1/2/2026"))}});
         static constexpr ColumnaHijos kColumnas[] = {{"N_Parto", "Nº", 4}, {"Fecha_Parto", "Fecha", 10}};
         RejillaHijos rejilla(kColumnas);
         std::vector<int> elegidas;

@@ -14,7 +14,8 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
         titulos << QString::fromUtf8(c.titulo);
     setHorizontalHeaderLabels(titulos);
     for (int i = 0; i < columnCount(); ++i)
-        setColumnWidth(i, fontMetrics().averageCharWidth() * (columnas[static_cast<std::size_t>(i)].caracteres + 2));
+        setColumnWidth(i, fontMetrics().averageCharWidth() *
+                              (columnas[static_cast<std::size_t>(i)].caracteres + 2));
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -41,7 +42,8 @@ void RejillaHijos::Llenar(Recordset& rs) {
         for (int i = 0; i < columnCount(); ++i) {
             valores.push_back(rs[m_columnas[static_cast<std::size_t>(i)].columna].Leer());
             auto* celda = new QTableWidgetItem(QString::fromStdString(TextoDe(valores.back())));
-            if (std::holds_alternative<double>(valores.back()) || std::holds_alternative<std::int64_t>(valores.back()))
+            if (std::holds_alternative<double>(valores.back()) ||
+                std::holds_alternative<std::int64_t>(valores.back()))
                 celda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             setItem(fila, i, celda);
         }

@@ -14,7 +14,7 @@ namespace pastorix {
 struct ColumnaHijos {
     const char* columna; // field of the query
     const char* titulo;
-    int caracteres;      // width
+    int caracteres; // width
 };
 
 // The grid of a sheet's child rows: read-only, one row chosen at a time. A click, or moving onto it with the arrows, brings a row into the
@@ -28,7 +28,9 @@ public:
     void Vaciar();
     int Filas() const { return rowCount(); }
     // Value of a field of a row as the query gave it.
-    const Valor& De(int fila, std::size_t columna) const { return m_valores[static_cast<std::size_t>(fila)][columna]; }
+    const Valor& De(int fila, std::size_t columna) const {
+        return m_valores[static_cast<std::size_t>(fila)][columna];
+    }
 
     std::function<void(int fila)> alElegir; // a row became the current one
     std::function<void(int fila)> alAbrir;  // a row is to be opened

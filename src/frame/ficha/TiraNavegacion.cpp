@@ -46,6 +46,8 @@ void TiraNavegacion::Mostrar(int indice) {
     m_botones[static_cast<std::size_t>(indice)]->setChecked(true);
 }
 
-int TiraNavegacion::Actual() const { return m_subfichas->currentIndex(); }
+int TiraNavegacion::Actual() const {
+    return m_subfichas->currentIndex();
+}
 
 } // namespace pastorix
