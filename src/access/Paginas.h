@@ -42,7 +42,9 @@ public:
     void Comprobar() const;
 
 private:
-    std::uint16_t Entrada(unsigned numero) const { return m_pagina.U16(m_formato->tablaFilas + 2U * numero); }
+    std::uint16_t Entrada(unsigned numero) const {
+        return m_pagina.U16(m_formato->tablaFilas + std::size_t{2} * numero);
+    }
 
     Lector m_pagina;
     const Formato* m_formato;

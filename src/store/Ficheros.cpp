@@ -123,7 +123,7 @@ FicheroTemporal::~FicheroTemporal() {
 }
 
 fs::path EntradaSinCaso(const fs::path& carpeta, std::string_view nombre) {
-    const fs::path exacta = carpeta / Ruta(nombre);
+    fs::path exacta = carpeta / Ruta(nombre);
     std::error_code error;
     if (fs::exists(exacta, error))
         return exacta;

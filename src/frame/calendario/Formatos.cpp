@@ -59,7 +59,7 @@ void Redondear(Decimal& d, int decimales) {
         d.digitos.insert(0, static_cast<std::size_t>(1 - d.enteros), '0');
         d.enteros = 1;
     }
-    const std::size_t quedan = static_cast<std::size_t>(d.enteros + decimales);
+    const std::size_t quedan = static_cast<std::size_t>(d.enteros) + static_cast<std::size_t>(decimales);
     if (d.digitos.size() <= quedan) {
         d.digitos.append(quedan - d.digitos.size(), '0');
         return;
