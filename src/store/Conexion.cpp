@@ -46,11 +46,6 @@ struct Conexion::Interior {
         if (!base)
             throw ErrorAlmacen(CodigoError::ObjetoCerrado, "La conexión con la base de datos está cerrada");
     }
-
-    void Ejecutar(const char* sql) {
-        if (const int codigo = sqlite3_exec(base.get(), sql, nullptr, nullptr, nullptr); codigo != SQLITE_OK)
-            LanzarError(base.get(), codigo, sql);
-    }
 };
 
 Conexion::Conexion()
@@ -148,7 +143,7 @@ long Conexion::Execute(std::string_view sentencia) {
 void Conexion::EntrarEnGrupo() {
     m->Exigir();
     if (m->grupos == 0)
-        m->Ejecutar("BEGIN");
+        EjecutarDirecto(m->base.get(), "BEGIN");
     ++m->grupos;
 }
 

@@ -24,12 +24,6 @@ using access::BaseAccess;
 
 namespace {
 
-void Ejecutar(sqlite3* base, const std::string& sql) {
-    const int codigo = sqlite3_exec(base, sql.c_str(), nullptr, nullptr, nullptr);
-    if (codigo != SQLITE_OK)
-        LanzarError(base, codigo, sql);
-}
-
 // A database that is built beside the scenes: no journal and no sync until it is whole, then one sync and a rename.
 BasePropia NuevaBase(const fs::path& ruta) {
     sqlite3* cruda = nullptr;
@@ -40,12 +34,13 @@ BasePropia NuevaBase(const fs::path& ruta) {
     if (codigo != SQLITE_OK)
         LanzarError(cruda, codigo, {});
     InicializarConexion(cruda);
-    Ejecutar(cruda, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-64000; BEGIN");
+    EjecutarDirecto(cruda,
+                    "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-64000; BEGIN");
     return base;
 }
 
 void Terminar(BasePropia base, const fs::path& ruta) {
-    Ejecutar(base.get(), "COMMIT");
+    EjecutarDirecto(base.get(), "COMMIT");
     base.reset();
     SincronizarFichero(ruta);
 }
@@ -134,7 +129,7 @@ private:
         m_hoja.curiosidades.push_back("El fichero tiene además la tabla " + tabla.nombre);
         TablaCatalogo nueva;
         nueva.nombre = tabla.nombre;
-        Ejecutar(m_destino, TablaDestino::SqlDeCreacion(tabla));
+        EjecutarDirecto(m_destino, TablaDestino::SqlDeCreacion(tabla));
         TablaDestino destino(m_destino, nueva);
         for (const auto& c : tabla.columnas)
             destino.Añadir(c);
@@ -242,14 +237,15 @@ void CopiarCanonica(sqlite3* base, const TablaCatalogo& canonica, const TablaCat
     for (const auto& c : vieja.columnas) {
         const int lugar = canonica.Buscar(c.nombre);
         if (lugar < 0)
-            Ejecutar(base, "ALTER TABLE main." + Entrecomillar(canonica.nombre) + " ADD COLUMN " +
-                               Entrecomillar(c.nombre) + " " + TablaDestino::DeclaracionCompleta(c));
+            EjecutarDirecto(base, "ALTER TABLE main." + Entrecomillar(canonica.nombre) + " ADD COLUMN " +
+                                      Entrecomillar(c.nombre) + " " + TablaDestino::DeclaracionCompleta(c));
         const auto& nueva = lugar < 0 ? c : canonica.columnas[static_cast<std::size_t>(lugar)];
         par(nueva.nombre,
             nueva.noNula ? "ifnull(" + Entrecomillar(c.nombre) + ", 0)" : Entrecomillar(c.nombre));
     }
-    Ejecutar(base, "INSERT INTO main." + Entrecomillar(canonica.nombre) + " (" + destino + ") SELECT " +
-                       origen + " FROM vieja." + Entrecomillar(vieja.nombre) + " ORDER BY rowid");
+    EjecutarDirecto(base, "INSERT INTO main." + Entrecomillar(canonica.nombre) + " (" + destino +
+                              ") SELECT " + origen + " FROM vieja." + Entrecomillar(vieja.nombre) +
+                              " ORDER BY rowid");
 }
 
 } // namespace
@@ -320,9 +316,9 @@ void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& ca
     const auto catalogo = Catalogo::DeBase(vieja.get());
     const auto clase = LeerSello(vieja.get(), clave).clase;
     auto base = NuevaBase(nueva.Nombre());
-    Ejecutar(base.get(), "COMMIT");
+    EjecutarDirecto(base.get(), "COMMIT");
     Unir(base.get(), fichero);
-    Ejecutar(base.get(), "BEGIN");
+    EjecutarDirecto(base.get(), "BEGIN");
     CrearTablas(base.get(), clase, clave);
     const int total = static_cast<int>(catalogo.Tablas().size());
     int hechas = 0;
@@ -330,15 +326,15 @@ void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& ca
         if (const auto* canonica = CatalogoCanonico(clase).Buscar(t.nombre)) {
             CopiarCanonica(base.get(), *canonica, t);
         } else {
-            Ejecutar(base.get(), TablaDestino::SqlDeCreacion(t));
+            EjecutarDirecto(base.get(), TablaDestino::SqlDeCreacion(t));
             CopiarCanonica(base.get(), t, t);
         }
         if (avance)
             avance(++hechas, total);
     }
     CrearIndices(base.get(), clase);
-    Ejecutar(base.get(), "COMMIT");
-    Ejecutar(base.get(), "DETACH vieja");
+    EjecutarDirecto(base.get(), "COMMIT");
+    EjecutarDirecto(base.get(), "DETACH vieja");
     base.reset();
     SincronizarFichero(nueva.Nombre());
     CopiarFichero(fichero, NombreDeBackup(fichero, carpetaBackup, "Orden"));

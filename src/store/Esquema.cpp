@@ -19,12 +19,6 @@ namespace pastorix {
 
 namespace {
 
-void Ejecutar(sqlite3* base, const std::string& sql) {
-    const int codigo = sqlite3_exec(base, sql.c_str(), nullptr, nullptr, nullptr);
-    if (codigo != SQLITE_OK)
-        LanzarError(base, codigo, sql);
-}
-
 std::string_view Vista(sqlite3_value* v) {
     const auto* t = reinterpret_cast<const char*>(sqlite3_value_text(v));
     return t ? std::string_view(t, static_cast<std::size_t>(sqlite3_value_bytes(v))) : std::string_view();
@@ -130,37 +124,37 @@ void InicializarConexion(sqlite3* base) {
     sqlite3_create_function_v2(base, "stdev", 1, kFuncion, nullptr, nullptr, PasoStDev, FinStDev, nullptr);
     sqlite3_create_collation_v2(base, "ES", SQLITE_UTF8, nullptr, Colacion, nullptr);
     // Rollback journal: the one file is complete between two actions, whoever carries it away.
-    Ejecutar(
+    EjecutarDirecto(
         base,
         "PRAGMA mmap_size=0; PRAGMA cell_size_check=ON; PRAGMA synchronous=FULL; PRAGMA temp_store=MEMORY; "
         "PRAGMA cache_size=-16000; PRAGMA foreign_keys=OFF");
 }
 
 void CrearTablas(sqlite3* base, ClaseDeBase clase, std::string_view clave) {
-    Ejecutar(base, "PRAGMA application_id=" + std::to_string(kIdentificadorAplicacion));
-    Ejecutar(base, "CREATE TABLE _pastorix (nombre TEXT PRIMARY KEY, valor TEXT)");
+    EjecutarDirecto(base, "PRAGMA application_id=" + std::to_string(kIdentificadorAplicacion));
+    EjecutarDirecto(base, "CREATE TABLE _pastorix (nombre TEXT PRIMARY KEY, valor TEXT)");
     for (const auto& s : Sentencias(clase))
         if (s.starts_with("CREATE TABLE"))
-            Ejecutar(base, s);
+            EjecutarDirecto(base, s);
     quint32 azar[4];
     QRandomGenerator::system()->fillRange(azar);
     const auto sal = QByteArray(reinterpret_cast<const char*>(azar), sizeof azar).toHex();
     const auto sello = sal + ":" + Resumen(sal, clave);
-    Ejecutar(base, "INSERT INTO _pastorix VALUES ('formato', '1'), ('clase', '" +
-                       std::string(clase == ClaseDeBase::Principal ? "principal" : "toros") +
-                       "'), ('sello', '" + sello.toStdString() + "')");
+    EjecutarDirecto(base, "INSERT INTO _pastorix VALUES ('formato', '1'), ('clase', '" +
+                              std::string(clase == ClaseDeBase::Principal ? "principal" : "toros") +
+                              "'), ('sello', '" + sello.toStdString() + "')");
 }
 
 std::vector<std::string> CrearIndices(sqlite3* base, ClaseDeBase clase) {
     std::vector<std::string> sinClave;
     for (const auto& s : Sentencias(clase)) {
         if (s.starts_with("CREATE INDEX")) {
-            Ejecutar(base, s);
+            EjecutarDirecto(base, s);
         } else if (s.starts_with("CREATE UNIQUE INDEX")) {
             const int codigo = sqlite3_exec(base, s.c_str(), nullptr, nullptr, nullptr);
             if ((codigo & 0xFF) == SQLITE_CONSTRAINT) {
                 auto llano = s;
-                Ejecutar(base, llano.erase(7, 7)); // "UNIQUE "
+                EjecutarDirecto(base, llano.erase(7, 7)); // "UNIQUE "
                 const auto tabla = s.find("clave_") + 6;
                 sinClave.push_back(s.substr(tabla, s.find(' ', tabla) - tabla));
             } else if (codigo != SQLITE_OK) {
@@ -197,13 +191,14 @@ void CrearBase(const std::filesystem::path& fichero, ClaseDeBase clase, std::str
     if (codigo != SQLITE_OK)
         LanzarError(base, codigo, {});
     InicializarConexion(base);
-    Ejecutar(base, "BEGIN");
+    EjecutarDirecto(base, "BEGIN");
     CrearTablas(base, clase, clave);
     CrearIndices(base, clase);
     if (clase == ClaseDeBase::Principal)
-        Ejecutar(base, "INSERT INTO T_Tetos VALUES (1, 'Anterior izquierdo'), (2, 'Anterior derecho'), "
-                       "(3, 'Posterior izquierdo'), (4, 'Posterior derecho')");
-    Ejecutar(base, "COMMIT");
+        EjecutarDirecto(base,
+                        "INSERT INTO T_Tetos VALUES (1, 'Anterior izquierdo'), (2, 'Anterior derecho'), "
+                        "(3, 'Posterior izquierdo'), (4, 'Posterior derecho')");
+    EjecutarDirecto(base, "COMMIT");
     cierre.reset();
     PonerEnSuSitio(temporal.Nombre(), fichero);
 }

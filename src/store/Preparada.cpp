@@ -115,6 +115,11 @@ void LanzarError(sqlite3* base, int codigo, std::string_view sentencia) {
     std::abort(); // not reached: lanzar always throws
 }
 
+void EjecutarDirecto(sqlite3* base, const std::string& sql) {
+    if (const int codigo = sqlite3_exec(base, sql.c_str(), nullptr, nullptr, nullptr); codigo != SQLITE_OK)
+        LanzarError(base, codigo, sql);
+}
+
 void Enlazar(sqlite3_stmt* s, int lugar, const Valor& v) {
     struct Visita {
         sqlite3_stmt* s;

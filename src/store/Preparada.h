@@ -38,6 +38,9 @@ private:
 // Turns SQLite's result code into our error. `sentencia` goes with it.
 [[noreturn]] void LanzarError(sqlite3* base, int codigo, std::string_view sentencia);
 
+// Runs a statement of our own in SQLite's own words. Throws ErrorAlmacen.
+void EjecutarDirecto(sqlite3* base, const std::string& sql);
+
 void Enlazar(sqlite3_stmt* s, int lugar, const Valor& v);
 
 } // namespace pastorix
