@@ -8,9 +8,11 @@ namespace pastorix {
 enum class ClaseCampo {
     Codigo, // digits; the record's key as the user sees it
     Texto,
-    Fecha,   // digits and "/"
-    Decimal, // digits and one comma
-    Numero,  // digits
+    Fecha,    // digits and "/"
+    Decimal,  // digits and one comma
+    ConSigno, // the same, and a minus sign in front
+    Numero,   // digits
+    Memo,     // text of several lines
 };
 
 // One field of a sheet. The table of a sheet's fields drives its layout, captions, input limits, key filters, reading and writing;
@@ -24,6 +26,9 @@ struct CampoFicha {
     int fila, columnaRejilla;         // place in the sheet's grid of fields, which is also the tab order
     int ancho = 1;                    // grid columns that it spans
     const char* nombreAccesible = ""; // where there is no caption
+    int hoja = 0;                     // which of the sheet's grids it stands in, for sheets with tabs
+    bool vaciaSinFecha =
+        false; // a date field: what is no date empties the column instead of leaving it as it was
 };
 
 // A sheet as data.

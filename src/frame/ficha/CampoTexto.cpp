@@ -10,15 +10,16 @@ int ComaUnica(const QString& texto, int tecla) {
 }
 
 QString Filtrado(const QString& texto, ClaseCampo clase) {
-    if (clase == ClaseCampo::Texto)
+    if (clase == ClaseCampo::Texto || clase == ClaseCampo::Memo)
         return texto;
+    const bool decimal = clase == ClaseCampo::Decimal || clase == ClaseCampo::ConSigno;
     QString salida;
     for (const QChar c : texto) {
         const bool digito = c >= QLatin1Char('0') && c <= QLatin1Char('9');
         const bool barra = clase == ClaseCampo::Fecha && c == QLatin1Char('/');
-        const bool coma =
-            clase == ClaseCampo::Decimal && c == QLatin1Char(',') && ComaUnica(salida, ',') != 0;
-        if (digito || barra || coma)
+        const bool coma = decimal && c == QLatin1Char(',') && ComaUnica(salida, ',') != 0;
+        const bool signo = clase == ClaseCampo::ConSigno && c == QLatin1Char('-') && salida.isEmpty();
+        if (digito || barra || coma || signo)
             salida += c;
     }
     return salida;
@@ -54,6 +55,14 @@ CampoTexto::CampoTexto(ClaseCampo clase, int anchura, QWidget* padre)
         setValidator(new Tamiz(clase, this));
     if (anchura > 0)
         setMaxLength(anchura);
+}
+
+void CampoTexto::Mostrar(const QString& texto) {
+    const auto* tamiz = validator();
+    setValidator(nullptr);
+    setText(texto);
+    setValidator(tamiz);
+    setCursorPosition(0); // of a long text its beginning shows
 }
 
 void CampoTexto::focusInEvent(QFocusEvent* evento) {

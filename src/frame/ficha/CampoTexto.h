@@ -18,6 +18,8 @@ class CampoTexto : public QLineEdit {
 public:
     CampoTexto(ClaseCampo clase, int anchura, QWidget* padre = nullptr);
     ClaseCampo Clase() const { return m_clase; }
+    // Shows a stored text as it stands, also one that could not be typed here ("1E-07", a text in a date column).
+    void Mostrar(const QString& texto);
 
 protected:
     void focusInEvent(QFocusEvent* evento) override;

@@ -53,19 +53,22 @@ void Ficha::ConectarBarra() {
     (*m_barra)[BarraFicha::Cerrar]->setFocusPolicy(Qt::StrongFocus);
 }
 
-QWidget* Ficha::CrearRejilla(QWidget* padre) {
+QWidget* Ficha::CrearRejilla(QWidget* padre, int hoja) {
     auto* caja = new QWidget(padre);
     m_rejilla = new QGridLayout(caja);
     m_rejilla->setHorizontalSpacing(12);
     const int anchuraMinima = fontMetrics().averageCharWidth() * 26;
     QWidget* anterior = nullptr;
     for (const auto& c : m_definicion.campos) {
+        if (c.hoja != hoja)
+            continue;
         auto* campo = CrearCampo(c, caja);
         auto* rotulo = new QLabel(QString::fromUtf8(c.rotulo), caja);
         rotulo->setObjectName(QStringLiteral("ET_Estandar(%1)").arg(c.indice));
         rotulo->setBuddy(campo);
         const int columna = c.columnaRejilla * 2;
-        m_rejilla->addWidget(rotulo, c.fila, columna, Qt::AlignRight | Qt::AlignVCenter);
+        const auto altura = c.clase == ClaseCampo::Memo ? Qt::AlignTop : Qt::AlignVCenter;
+        m_rejilla->addWidget(rotulo, c.fila, columna, Qt::AlignRight | altura);
         m_rejilla->addWidget(campo, c.fila, columna + 1, 1, c.ancho * 2 - 1);
         m_rejilla->setColumnMinimumWidth(columna + 1, anchuraMinima);
         m_rejilla->setColumnStretch(columna + 1, 1);
@@ -76,7 +79,30 @@ QWidget* Ficha::CrearRejilla(QWidget* padre) {
     return caja;
 }
 
-CampoTexto* Ficha::CrearCampo(const CampoFicha& c, QWidget* padre) {
+QWidget* Ficha::CrearCampo(const CampoFicha& c, QWidget* padre) {
+    QWidget* campo = nullptr;
+    if (c.clase == ClaseCampo::Memo)
+        campo = m_memos[c.indice] = CrearMemo(padre);
+    else
+        campo = m_campos[c.indice] = CrearLinea(c, padre);
+    campo->setObjectName(QStringLiteral("%1(%2)").arg(QString::fromUtf8(m_definicion.arreglo)).arg(c.indice));
+    const auto nombre =
+        QString::fromUtf8(*c.nombreAccesible ? c.nombreAccesible : c.rotulo).remove(QLatin1Char('&'));
+    campo->setAccessibleName(nombre);
+    campo->installEventFilter(this);
+    return campo;
+}
+
+CampoMemo* Ficha::CrearMemo(QWidget* padre) {
+    auto* memo = new CampoMemo(padre);
+    connect(memo, &QPlainTextEdit::modificationChanged, this, [this](bool cambiado) {
+        if (cambiado)
+            EntrarEnModificar();
+    });
+    return memo;
+}
+
+CampoTexto* Ficha::CrearLinea(const CampoFicha& c, QWidget* padre) {
     int anchura = c.clase == ClaseCampo::Codigo ? kCifrasDeCodigo : c.anchura;
     if (anchura == 0 && c.columna) {
         const auto* tabla = CatalogoCanonico(ClaseDeBase::Principal).Buscar(m_definicion.tabla);
@@ -86,21 +112,15 @@ CampoTexto* Ficha::CrearCampo(const CampoFicha& c, QWidget* padre) {
     if (anchura == 0 && c.clase == ClaseCampo::Fecha)
         anchura = 10;
     auto* campo = new CampoTexto(c.clase, anchura, padre);
-    campo->setObjectName(QStringLiteral("%1(%2)").arg(QString::fromUtf8(m_definicion.arreglo)).arg(c.indice));
-    const auto nombre =
-        QString::fromUtf8(*c.nombreAccesible ? c.nombreAccesible : c.rotulo).remove(QLatin1Char('&'));
-    campo->setAccessibleName(nombre);
     if (c.clase == ClaseCampo::Fecha)
         campo->setPlaceholderText(QStringLiteral("dd/mm/aa"));
     // Short fields look short: what fits can be seen before it is typed.
     if (anchura > 0 && anchura <= 15)
         campo->setMaximumWidth(campo->fontMetrics().horizontalAdvance(QLatin1Char('0')) * (anchura + 3));
-    campo->installEventFilter(this);
     if (c.indice == 0)
         connect(campo, &QLineEdit::editingFinished, this, [this] { CodigoDejado(); });
     else
         connect(campo, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
-    m_campos[c.indice] = campo;
     return campo;
 }
 
@@ -117,18 +137,19 @@ void Ficha::PonerIconoBusDato(int icono, int indiceCampo) {
     connect(boton, &QToolButton::clicked, this, [this, icono] { BuscarDato(icono); });
     // The field shares its cell with the icon.
     auto* campo = m_campos.at(indiceCampo);
+    auto* rejilla = static_cast<QGridLayout*>(campo->parentWidget()->layout());
     int fila = 0;
     int columna = 0;
     int altura = 0;
     int anchura = 0;
-    m_rejilla->getItemPosition(m_rejilla->indexOf(campo), &fila, &columna, &altura, &anchura);
-    m_rejilla->removeWidget(campo);
+    rejilla->getItemPosition(rejilla->indexOf(campo), &fila, &columna, &altura, &anchura);
+    rejilla->removeWidget(campo);
     auto* juntos = new QHBoxLayout;
     juntos->setSpacing(2);
     juntos->addWidget(campo);
     juntos->addWidget(boton);
     juntos->addStretch();
-    m_rejilla->addLayout(juntos, fila, columna, altura, anchura);
+    rejilla->addLayout(juntos, fila, columna, altura, anchura);
     setTabOrder(campo, boton);
     m_iconos[icono] = boton;
 }
@@ -160,13 +181,20 @@ bool Ficha::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() == QEvent::KeyPress) {
         const auto& tecla = static_cast<QKeyEvent&>(*evento);
         const bool esCodigo = objeto == m_campos.at(0);
-        if (tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter) {
+        const bool intro = tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
+        if (const auto* memo = qobject_cast<QPlainTextEdit*>(objeto)) {
+            if (!memo->isReadOnly() && (intro || EsDeEscritura(tecla)))
+                EntrarEnModificar(); // Enter is a line break there
+            return QDialog::eventFilter(objeto, evento);
+        }
+        if (intro) {
             if (esCodigo)
                 CodigoDejado();
             focusNextChild();
             return true;
         }
-        if (!esCodigo && qobject_cast<QLineEdit*>(objeto) && EsDeEscritura(tecla))
+        const auto* linea = qobject_cast<QLineEdit*>(objeto);
+        if (!esCodigo && linea && !linea->isReadOnly() && EsDeEscritura(tecla))
             EntrarEnModificar();
     }
     return QDialog::eventFilter(objeto, evento);
@@ -175,6 +203,8 @@ bool Ficha::eventFilter(QObject* objeto, QEvent* evento) {
 void Ficha::LimpiarCampos() {
     for (const auto& [indice, campo] : m_campos)
         campo->clear();
+    for (const auto& [indice, memo] : m_memos)
+        memo->Poner({});
     LimpiarPropios();
 }
 
@@ -183,8 +213,24 @@ void Ficha::CodigoDejado() {
     if (Editando() || CodigoTecleado().isEmpty())
         return;
     const double codigo = CodigoTecleado().toDouble();
-    if (codigo != m_clave)
+    if (codigo == m_clave)
+        return;
+    if (PermiteDejar())
         CargarFicha(codigo);
+    else
+        ReponerCodigo();
+}
+
+std::string Ficha::TextoStd(int indice) const {
+    const auto memo = m_memos.find(indice);
+    return memo != m_memos.end() ? memo->second->Texto() : Campo(indice).text().toStdString();
+}
+
+void Ficha::Poner(int indice, const std::string& texto) {
+    if (const auto memo = m_memos.find(indice); memo != m_memos.end())
+        memo->second->Poner(texto);
+    else
+        Campo(indice).Mostrar(QString::fromStdString(texto));
 }
 
 void Ficha::ReponerCodigo() {
@@ -197,7 +243,7 @@ bool Ficha::CargarFicha(double clave) {
         if (rs.Eof()) {
             const auto texto =
                 QStringLiteral("No Encuentro el Codigo: ") + QString::fromStdString(TextoNumero(clave));
-            ReponerCodigo(); // before the box: it takes the focus from the field
+            NoEncontrado(clave); // before the box: it takes the focus from the field
             Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención..."), texto);
             return false;
         }
@@ -214,6 +260,10 @@ bool Ficha::CargarFicha(double clave) {
         MostrarError(e);
         return false;
     }
+}
+
+void Ficha::NoEncontrado(double) {
+    ReponerCodigo();
 }
 
 void Ficha::AbrirCon(double clave) {
@@ -233,6 +283,8 @@ void Ficha::Cancelar() {
 void Ficha::reject() {
     if (Editando() && !Preguntar(this, QStringLiteral("Atención"),
                                  QStringLiteral("Hay cambios sin guardar. ¿Desea cerrar y perderlos?")))
+        return;
+    if (!PermiteDejar())
         return;
     QDialog::reject();
 }

@@ -3,6 +3,7 @@
 #include "frame/Sesion.h"
 #include "frame/ficha/BarraFicha.h"
 #include "frame/ficha/CampoFicha.h"
+#include "frame/ficha/CampoMemo.h"
 #include "frame/ficha/CampoTexto.h"
 
 #include <QDialog>
@@ -41,36 +42,45 @@ public:
 
 protected:
     // Hooks, in the order in which they come into play.
-    virtual bool PermiteAñadir() { return true; }    // a limit of the sheet; false after its own box
-    virtual void LimpiarPropios() {}                 // controls beyond the table of fields
-    virtual void MostrarPropios(Recordset&) {}       // the same, when a record is read
-    virtual bool Comprobar() { return true; }        // further checks, each with its box and focus
-    virtual void EscribirPropios(Recordset&) {}      // columns beyond the table of fields, before Update
+    virtual bool PermiteDejar() {
+        return true;
+    } // before another record comes or the sheet goes; false to stay
+    virtual bool PermiteAñadir() { return true; } // a limit of the sheet; false after its own box
+    virtual std::string CodigoPropuesto();      // for the record to be added; by default the last one plus 1
+    virtual void AlAñadir();                    // where the typing begins; by default in field 1
+    virtual void LimpiarPropios() {}            // controls beyond the table of fields
+    virtual void MostrarPropios(Recordset&) {}  // the same, when a record is read
+    virtual bool ComprobarMinimos();            // the code and the mandatory field
+    virtual bool Comprobar() { return true; }   // further checks, each with its box and focus
+    virtual void EscribirPropios(Recordset&) {} // columns beyond the table of fields, before Update
     virtual void EscribirHijos(double /*codigo*/) {} // child tables, after Update
     virtual void DespuesDeGuardar(double clave);     // buttons, or load the record again
     virtual QString PreguntaEliminar() const { return QStringLiteral("Desea Eliminar ? "); }
     virtual void Borrar(double clave); // the row; with the cascade of the sheet
     virtual void DespuesDeBorrar() {}
+    virtual void NoEncontrado(double clave);  // the code asked for has no record; before the box
     virtual void BuscarDato(int /*icono*/) {} // a search icon was pressed
 
     // For the sheet's constructor.
-    QWidget* CrearRejilla(QWidget* padre);              // fields and captions at the places of the table
-    QGridLayout* Rejilla() const { return m_rejilla; }  // for controls between them
-    void PonerIconoBusDato(int icono, int indiceCampo); // the search icon beside a field
+    QWidget* CrearRejilla(QWidget* padre, int hoja = 0); // its fields and captions at the places of the table
+    QGridLayout* Rejilla() const { return m_rejilla; }   // of the one made last, for controls between them
+    void PonerIconoBusDato(int icono, int indiceCampo);  // the search icon beside a field
     BarraFicha& Barra() { return *m_barra; }
     void TerminarConstruccion(QWidget* ultimo); // focus on the code; the buttons come after the last control
     void Vigilar(QWidget* control);             // a change in it begins a modification
 
     // For its hooks.
     CampoTexto& Campo(int indice) const { return *m_campos.at(indice); }
-    QString Texto(int indice) const { return Campo(indice).text(); }
-    std::string TextoStd(int indice) const { return Texto(indice).toStdString(); }
-    void Poner(int indice, const std::string& texto) { Campo(indice).setText(QString::fromStdString(texto)); }
+    CampoMemo& Memo(int indice) const { return *m_memos.at(indice); }
+    QString Texto(int indice) const { return QString::fromStdString(TextoStd(indice)); }
+    std::string TextoStd(int indice) const;
+    void Poner(int indice, const std::string& texto);
     QString CodigoTecleado() const { return Texto(0); }
     Conexion& Base() const { return m_sesion.conexion; }
     Sesion& LaSesion() const { return m_sesion; }
     bool Editando() const;
     void EntrarEnModificar();                           // as typing does
+    void ReponerCodigo();                               // the current key back into the code field
     bool Rechazar(const QString& texto, QWidget* foco); // exclamation box "Atención"; always false
     void LimpiarCampos();
 
@@ -78,10 +88,10 @@ protected:
 
 private:
     void ConectarBarra();
-    CampoTexto* CrearCampo(const CampoFicha& campo, QWidget* padre);
+    QWidget* CrearCampo(const CampoFicha& campo, QWidget* padre);
+    CampoTexto* CrearLinea(const CampoFicha& campo, QWidget* padre);
+    CampoMemo* CrearMemo(QWidget* padre);
     void CodigoDejado();
-    bool ComprobarMinimos();
-    void ReponerCodigo();
     bool Escribir(double codigo); // false when the code is taken
     void EscribirCampos(Recordset& rs);
     std::string SentenciaDeClave(double clave) const;
@@ -92,6 +102,7 @@ private:
     BarraFicha* m_barra;
     QGridLayout* m_rejilla = nullptr;
     std::map<int, CampoTexto*> m_campos;
+    std::map<int, CampoMemo*> m_memos;
     std::map<int, QToolButton*> m_iconos;
     double m_clave = 0;
     int m_accion = 0;

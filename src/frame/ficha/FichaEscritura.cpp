@@ -14,21 +14,29 @@ std::string Ficha::SentenciaDeClave(double clave) const {
            " = " + NumeroSql(clave);
 }
 
+std::string Ficha::CodigoPropuesto() {
+    const std::string clave = m_definicion.columnaClave;
+    return TextoNumero(
+        SiguienteId(Base(), "SELECT " + clave + " FROM " + m_definicion.tabla + " ORDER BY " + clave));
+}
+
+void Ficha::AlAñadir() {
+    if (m_campos.contains(1))
+        Campo(1).setFocus();
+}
+
 void Ficha::Añadir() {
     try {
-        if (!PermiteAñadir())
+        if (!PermiteDejar() || !PermiteAñadir())
             return;
-        const std::string clave = m_definicion.columnaClave;
-        const double propuesto =
-            SiguienteId(Base(), "SELECT " + clave + " FROM " + m_definicion.tabla + " ORDER BY " + clave);
+        const auto propuesto = CodigoPropuesto();
         m_accion = 1;
         m_barra->EstadoBotones(1);
         LimpiarCampos();
         if (m_definicion.indiceFechaAlta >= 0)
             Poner(m_definicion.indiceFechaAlta, FormatoFecha(Hoy(), m_definicion.mascaraFechaAlta));
-        Poner(0, TextoNumero(propuesto));
-        if (m_campos.contains(1))
-            Campo(1).setFocus();
+        Poner(0, propuesto);
+        AlAñadir();
     } catch (const std::exception& e) {
         MostrarError(e);
     }
@@ -104,12 +112,16 @@ void Ficha::EscribirCampos(Recordset& rs) {
         if (!c.columna || c.clase == ClaseCampo::Codigo)
             continue;
         const auto texto = TextoStd(c.indice);
-        if (c.clase == ClaseCampo::Fecha) {
-            if (EsFechaValida(texto))
-                rs[c.columna] = texto;
-        } else {
+        const bool esFecha = c.clase == ClaseCampo::Fecha;
+        const bool esNumero = c.clase == ClaseCampo::Decimal || c.clase == ClaseCampo::ConSigno ||
+                              c.clase == ClaseCampo::Numero;
+        // A number or date that reads as it was shown stays as it is: the sheet shows no more than 15 digits and two of the year.
+        if ((esFecha || esNumero) && !texto.empty() && texto == rs[c.columna].Texto())
+            continue;
+        if (texto.empty() ? !esFecha : !esFecha || EsFechaValida(texto))
             rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
-        }
+        else if (c.vaciaSinFecha)
+            rs[c.columna] = Valor();
     }
 }
 

@@ -1,0 +1,406 @@
+#include "frame/ficha/LineasEditables.h"
+
+#include "frame/Iconos.h"
+#include "frame/Mensajes.h"
+#include "frame/calendario/Calendario.h"
+#include "frame/ficha/CampoTexto.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace pastorix {
+
+// A text box or a combo, with the column that it enters.
+struct LineasEditables::Entrada {
+    std::size_t columna;
+    CampoTexto* texto = nullptr;
+    QComboBox* combo = nullptr;
+
+    QWidget* Control() const { return texto ? static_cast<QWidget*>(texto) : combo; }
+    QString Leer() const { return texto ? texto->text() : combo->currentText(); }
+    void Poner(const QString& valor) {
+        if (texto) {
+            texto->Mostrar(valor);
+            return;
+        }
+        int i = combo->findText(valor, Qt::MatchExactly);
+        if (i <
+            0) { // a stored value outside the list can be kept, and is offered as long as its line is here
+            combo->addItem(valor);
+            i = combo->count() - 1;
+        }
+        combo->setCurrentIndex(i);
+    }
+    void Listar(const QStringList& valores) {
+        combo->clear();
+        combo->addItem(QString());
+        combo->addItems(valores);
+    }
+};
+
+LineasEditables::LineasEditables(const DefinicionLineas& definicion, QWidget* padre)
+    : QWidget(padre)
+    , m_definicion(definicion)
+    , m_rejilla(new QTableWidget(0, static_cast<int>(definicion.columnas.size()), this)) {
+    auto* todo = new QVBoxLayout(this);
+    todo->setContentsMargins(0, 0, 0, 0);
+    todo->addWidget(m_rejilla, 1);
+    CrearRejilla();
+    CrearFranja();
+    setFocusProxy(m_rejilla);
+    Pintar();
+    Rotular();
+}
+
+LineasEditables::~LineasEditables() = default;
+
+void LineasEditables::CrearRejilla() {
+    QStringList titulos;
+    for (const auto& c : m_definicion.columnas)
+        titulos << QString::fromUtf8(c.titulo);
+    m_rejilla->setObjectName(QString::fromUtf8(m_definicion.rejilla));
+    m_rejilla->setAccessibleName(QString::fromUtf8(m_definicion.nombre));
+    m_rejilla->setHorizontalHeaderLabels(titulos);
+    const auto& metrica = m_rejilla->fontMetrics();
+    for (int i = 0; i < m_rejilla->columnCount(); ++i) {
+        const auto& c = m_definicion.columnas[static_cast<std::size_t>(i)];
+        m_rejilla->setColumnWidth(i, std::max(metrica.averageCharWidth() * (c.caracteres + 2),
+                                              metrica.horizontalAdvance(titulos[i]) + 16));
+    }
+    m_rejilla->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_rejilla->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_rejilla->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_rejilla->setAlternatingRowColors(true);
+    m_rejilla->setTabKeyNavigation(false);
+    m_rejilla->verticalHeader()->hide();
+    m_rejilla->verticalHeader()->setDefaultSectionSize(metrica.lineSpacing() + 8);
+    m_rejilla->installEventFilter(this);
+    connect(m_rejilla, &QTableWidget::currentCellChanged, this, [this](int fila, int, int antes, int) {
+        if (fila != antes)
+            Elegir(fila);
+    });
+    connect(m_rejilla, &QTableWidget::cellClicked, this, [this](int fila, int) { Elegir(fila); });
+    connect(m_rejilla, &QTableWidget::cellDoubleClicked, this,
+            [this](int, int) { TeclaDeRejilla(Qt::Key_Return); });
+}
+
+void LineasEditables::CrearFranja() {
+    auto* franja = new QHBoxLayout;
+    const auto boton = [&](const char* icono, const QString& texto, void (LineasEditables::*orden)()) {
+        auto* b = new QToolButton(this);
+        b->setIcon(Icono(icono));
+        b->setToolTip(texto);
+        b->setAccessibleName(texto);
+        b->setAutoRaise(true);
+        b->setVisible(m_definicion.conAltas);
+        connect(b, &QToolButton::clicked, this, [this, orden] { (this->*orden)(); });
+        return b;
+    };
+    for (std::size_t i = 0; i < m_definicion.columnas.size(); ++i) {
+        const auto& c = m_definicion.columnas[i];
+        if (!c.control)
+            continue;
+        auto entrada = std::make_unique<Entrada>();
+        entrada->columna = i;
+        if (c.esLista || !c.lista.empty()) {
+            entrada->combo = new QComboBox(this);
+            QStringList valores;
+            for (const char* v : c.lista)
+                valores << QString::fromUtf8(v);
+            entrada->Listar(valores);
+            entrada->combo->setMinimumContentsLength(c.caracteres);
+        } else {
+            const bool año = static_cast<int>(i) == m_definicion.columnaAño;
+            const int anchura = año ? 4 : c.clase == ClaseCampo::Fecha ? 10 : 0;
+            entrada->texto = new CampoTexto(c.clase, anchura, this);
+            if (c.clase == ClaseCampo::Fecha)
+                entrada->texto->setPlaceholderText(QStringLiteral("dd/mm/aa"));
+            entrada->texto->setMinimumWidth(fontMetrics().averageCharWidth() * (c.caracteres + 3));
+            if (c.clase != ClaseCampo::Texto)
+                entrada->texto->setMaximumWidth(fontMetrics().averageCharWidth() * (c.caracteres + 8));
+        }
+        auto* control = entrada->Control();
+        control->setObjectName(QString::fromUtf8(c.control));
+        control->setAccessibleName(QString::fromUtf8(c.titulo));
+        control->installEventFilter(this);
+        auto* rotulo = new QLabel(QString::fromUtf8(c.titulo), this);
+        rotulo->setBuddy(control);
+        auto* pareja = new QVBoxLayout;
+        pareja->setSpacing(1);
+        pareja->addWidget(rotulo);
+        pareja->addWidget(control);
+        franja->addLayout(pareja);
+        m_entradas.push_back(std::move(entrada));
+    }
+    franja->addStretch();
+    m_estado = new QLabel(this);
+    m_estado->setEnabled(false);
+    franja->addWidget(m_estado, 0, Qt::AlignBottom);
+    m_nueva = boton("anadir", QStringLiteral("Línea nueva (Insert)"), &LineasEditables::Nueva);
+    m_quitar = boton("eliminar", QStringLiteral("Eliminar línea (Supr)"), &LineasEditables::Quitar);
+    franja->addWidget(m_nueva, 0, Qt::AlignBottom);
+    franja->addWidget(m_quitar, 0, Qt::AlignBottom);
+    static_cast<QVBoxLayout*>(layout())->addLayout(franja);
+}
+
+void LineasEditables::Mostrar(std::vector<Linea> lineas) {
+    m_lineas = std::move(lineas);
+    m_fila = -1;
+    Pintar();
+    LimpiarEntradas();
+}
+
+void LineasEditables::FijarLista(std::size_t columna, const QStringList& valores) {
+    for (const auto& e : m_entradas)
+        if (e->columna == columna && e->combo) {
+            const auto antes = e->Leer();
+            e->Listar(valores);
+            e->Poner(antes);
+        }
+}
+
+void LineasEditables::Permitir(bool si) {
+    for (const auto& e : m_entradas)
+        e->Control()->setEnabled(si);
+    m_nueva->setEnabled(si);
+    m_quitar->setEnabled(si);
+}
+
+void LineasEditables::Pintar() {
+    const QSignalBlocker silencio(m_rejilla);
+    m_rejilla->setRowCount(
+        std::max(1, static_cast<int>(m_lineas.size()))); // without data one empty line stays
+    for (int f = 0; f < m_rejilla->rowCount(); ++f)
+        PintarFila(f);
+    m_rejilla->setCurrentCell(0, 0); // screen readers need a current cell
+    m_rejilla->clearSelection();
+}
+
+void LineasEditables::PintarFila(int fila) {
+    const bool vacia = fila >= static_cast<int>(m_lineas.size());
+    for (int c = 0; c < m_rejilla->columnCount(); ++c) {
+        const auto columna = static_cast<std::size_t>(c);
+        auto* celda = m_rejilla->item(fila, c);
+        if (!celda)
+            m_rejilla->setItem(fila, c, celda = new QTableWidgetItem);
+        celda->setText(
+            vacia ? QString()
+                  : QString::fromStdString(m_lineas[static_cast<std::size_t>(fila)].celdas[columna]));
+        const auto clase = m_definicion.columnas[columna].clase;
+        if (clase != ClaseCampo::Texto && clase != ClaseCampo::Fecha)
+            celda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+void LineasEditables::Elegir(int fila) {
+    const bool hay = fila >= 0 && fila < static_cast<int>(m_lineas.size());
+    m_fila = hay ? fila : -1;
+    for (const auto& e : m_entradas)
+        e->Poner(hay ? QString::fromStdString(m_lineas[static_cast<std::size_t>(fila)].celdas[e->columna])
+                     : QString());
+    Rotular();
+}
+
+void LineasEditables::LimpiarEntradas() {
+    m_fila = -1;
+    for (const auto& e : m_entradas)
+        e->Poner({});
+    Rotular();
+}
+
+void LineasEditables::Rotular() {
+    if (m_fila >= 0)
+        m_estado->setText(QStringLiteral("Línea ") + AñoDe(m_lineas[static_cast<std::size_t>(m_fila)]));
+    else
+        m_estado->setText(m_definicion.conAltas ? QStringLiteral("Línea nueva") : QString());
+}
+
+QString LineasEditables::AñoDe(const Linea& linea) const {
+    if (m_definicion.columnaAño < 0)
+        return QString::number(&linea - m_lineas.data() + 1);
+    return QString::fromStdString(linea.celdas[static_cast<std::size_t>(m_definicion.columnaAño)]);
+}
+
+bool LineasEditables::EnCurso() const {
+    return std::any_of(m_entradas.begin(), m_entradas.end(), [this](const auto& e) {
+        const auto antes =
+            m_fila < 0
+                ? QString()
+                : QString::fromStdString(m_lineas[static_cast<std::size_t>(m_fila)].celdas[e->columna]);
+        return e->Leer() != antes;
+    });
+}
+
+void LineasEditables::Nueva() {
+    if (!m_definicion.conAltas || m_entradas.empty() || !m_entradas.front()->Control()->isEnabled())
+        return;
+    m_rejilla->clearSelection();
+    LimpiarEntradas();
+    m_entradas.front()->Control()->setFocus();
+}
+
+void LineasEditables::Abandonar() {
+    m_rejilla->clearSelection();
+    LimpiarEntradas();
+    m_rejilla->setFocus();
+}
+
+void LineasEditables::Quitar() {
+    const int fila = m_rejilla->currentRow();
+    if (!m_definicion.conAltas || !m_quitar->isEnabled() || fila < 0 ||
+        fila >= static_cast<int>(m_lineas.size()))
+        return;
+    const auto lugar = static_cast<std::size_t>(fila);
+    if (!Preguntar(this, QString::fromUtf8(m_definicion.tituloEliminar),
+                   QString::fromUtf8(m_definicion.eliminar) + AñoDe(m_lineas[lugar])))
+        return;
+    const auto quitada = std::move(m_lineas[lugar]);
+    m_lineas.erase(m_lineas.begin() + fila);
+    Pintar();
+    LimpiarEntradas();
+    if (alQuitar)
+        alQuitar(quitada);
+    if (alCambiar)
+        alCambiar();
+    m_rejilla->setCurrentCell(std::min(fila, m_rejilla->rowCount() - 1), 0);
+}
+
+bool LineasEditables::Valida(const Linea& linea) {
+    const auto rechazar = [this](const QString& texto) {
+        Avisar(this, TipoMensaje::Atencion, QString::fromUtf8(m_definicion.tituloAviso), texto);
+        m_entradas.front()->Control()->setFocus();
+        return false;
+    };
+    if (m_definicion.columnaAño >= 0 && m_definicion.conAltas) {
+        const auto año = static_cast<std::size_t>(m_definicion.columnaAño);
+        if (linea.celdas[año].empty())
+            return rechazar(QString::fromUtf8(m_definicion.sinAño));
+        for (std::size_t i = 0; i < m_lineas.size(); ++i)
+            if (static_cast<int>(i) != m_fila && m_lineas[i].Numero(año) == linea.Numero(año))
+                return rechazar(QString::fromUtf8(m_definicion.repetido) + AñoDe(linea) +
+                                QString::fromUtf8(m_definicion.repetidoFin));
+    }
+    return ValidaCeldas(linea) && (!comprobar || comprobar(linea));
+}
+
+// What the database would refuse is refused here, while it can be mended; a cell that nobody touched is nobody's fault.
+bool LineasEditables::ValidaCeldas(const Linea& linea) {
+    for (const auto& e : m_entradas) {
+        const auto& celda = linea.celdas[e->columna];
+        const auto clase = m_definicion.columnas[e->columna].clase;
+        if (celda.empty() || e->combo ||
+            (e->columna < linea.leidos.size() && TextoDe(linea.leidos[e->columna]) == celda))
+            continue;
+        const bool fecha = clase == ClaseCampo::Fecha;
+        double n = 0;
+        if (clase == ClaseCampo::Texto || (fecha ? EsFechaValida(celda) : NumeroDeTexto(celda, n)))
+            continue;
+        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
+               fecha ? QStringLiteral("La fecha no es correcta, dd/mm/aa")
+                     : QStringLiteral("El número no es correcto: ") + QString::fromStdString(celda));
+        e->Control()->setFocus();
+        return false;
+    }
+    return true;
+}
+
+void LineasEditables::Confirmar() {
+    if (m_fila < 0 && (!m_definicion.conAltas || (m_definicion.columnaAño < 0 && !EnCurso())))
+        return;
+    Linea linea;
+    if (m_fila >= 0)
+        linea = m_lineas[static_cast<std::size_t>(m_fila)];
+    else
+        linea.celdas.resize(m_definicion.columnas.size());
+    for (const auto& e : m_entradas)
+        linea.celdas[e->columna] = e->Leer().trimmed().toStdString();
+    if (!Valida(linea))
+        return;
+    const auto puesta = linea.celdas;
+    const bool nueva = m_fila < 0;
+    if (nueva)
+        m_lineas.push_back(std::move(linea));
+    else
+        m_lineas[static_cast<std::size_t>(m_fila)] = std::move(linea);
+    if (m_definicion.columnaAño >= 0 && m_definicion.conAltas) {
+        const auto año = static_cast<std::size_t>(m_definicion.columnaAño);
+        std::stable_sort(m_lineas.begin(), m_lineas.end(), [&](const Linea& a, const Linea& b) {
+            return m_definicion.descendente ? a.Numero(año) > b.Numero(año) : a.Numero(año) < b.Numero(año);
+        });
+    }
+    Pintar();
+    const auto it =
+        std::find_if(m_lineas.begin(), m_lineas.end(), [&](const Linea& l) { return l.celdas == puesta; });
+    const QSignalBlocker silencio(m_rejilla);
+    m_rejilla->setCurrentCell(static_cast<int>(it - m_lineas.begin()), 0);
+    m_rejilla->clearSelection();
+    LimpiarEntradas();
+    if (alCambiar)
+        alCambiar();
+    // On to the next one: a new line after a new line, the grid after a changed one.
+    (nueva ? m_entradas.front()->Control() : static_cast<QWidget*>(m_rejilla))->setFocus();
+}
+
+bool LineasEditables::TeclaDeRejilla(int tecla) {
+    switch (tecla) {
+    case Qt::Key_Insert:
+        Nueva();
+        return true;
+    case Qt::Key_Delete:
+        Quitar();
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Elegir(m_rejilla->currentRow());
+        if (!m_entradas.empty())
+            m_entradas.front()->Control()->setFocus();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
+    switch (tecla) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (objeto == m_entradas.back()->Control()) {
+            Confirmar();
+        } else {
+            const auto it = std::find_if(m_entradas.begin(), m_entradas.end(),
+                                         [&](const auto& e) { return e->Control() == objeto; });
+            (*(it + 1))->Control()->setFocus(Qt::TabFocusReason);
+        }
+        return true;
+    case Qt::Key_Escape:
+        if (m_fila < 0 && !EnCurso())
+            return false; // nothing to abandon: the sheet's own Escape
+        Abandonar();
+        return true;
+    case Qt::Key_Insert:
+        Nueva();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool LineasEditables::eventFilter(QObject* objeto, QEvent* evento) {
+    if (evento->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent&>(*evento).key();
+        if (objeto == m_rejilla ? TeclaDeRejilla(tecla) : TeclaDeEntrada(objeto, tecla))
+            return true;
+    }
+    return QWidget::eventFilter(objeto, evento);
+}
+
+} // namespace pastorix

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "frame/ficha/Lineas.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QTableWidget;
+class QToolButton;
+
+namespace pastorix {
+
+class CampoTexto;
+
+// What a table of lines says and allows. Texts go into boxes as they stand.
+struct DefinicionLineas {
+    const char* rejilla; // object name of the grid
+    const char* nombre;  // accessible name
+    std::span<const ColumnaLinea> columnas;
+    bool conAltas = true; // lines are added and removed here; otherwise only their fields are edited
+    int columnaAño =
+        0; // the column that may not be empty nor repeat, and by which lines stand in order; -1 none
+    bool descendente = false;
+    const char* sinAño = "";      // box when the year is empty
+    const char* repetido = "";    // box when another line has the year: this text, the year...
+    const char* repetidoFin = ""; // ... and this text
+    const char* tituloAviso = "Atención";
+    const char* eliminar = ""; // question before a line goes: this text and the year
+    const char* tituloEliminar = "Eliminar";
+};
+
+// A grid of lines and, below it, the strip of fields in which a line is entered: choosing a line brings it into the fields, Enter in the last one
+// puts it back (or adds it), Escape abandons it; Insert begins a new line and Delete removes one. Nothing is written to any
+// database: the owner is told through alCambiar.
+class LineasEditables : public QWidget {
+public:
+    explicit LineasEditables(const DefinicionLineas& definicion, QWidget* padre = nullptr);
+    ~LineasEditables() override;
+
+    // Shows lines; the fields are cleared.
+    void Mostrar(std::vector<Linea> lineas);
+    const std::vector<Linea>& Lineas() const { return m_lineas; }
+    // Items of the combo of a column that come from the database.
+    void FijarLista(std::size_t columna, const QStringList& valores);
+    // Nothing can be entered while no record is on the sheet.
+    void Permitir(bool si);
+
+    void Nueva();         // Insert
+    void Quitar();        // Delete
+    void Abandonar();     // Escape
+    void Confirmar();     // Enter in the last field
+    bool EnCurso() const; // something stands in the fields that is not in the grid
+
+    std::function<void()> alCambiar;             // a line was added, replaced or removed
+    std::function<void(const Linea&)> alQuitar;  // before that, for one that was removed
+    std::function<bool(const Linea&)> comprobar; // a line about to go in; false after its own box
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    struct Entrada; // one field of the strip
+    void CrearRejilla();
+    void CrearFranja();
+    void Elegir(int fila); // its values into the fields
+    void LimpiarEntradas();
+    void Pintar();
+    void PintarFila(int fila);
+    void Rotular();
+    bool Valida(const Linea& linea);
+    bool ValidaCeldas(const Linea& linea);
+    bool TeclaDeRejilla(int tecla);
+    bool TeclaDeEntrada(QObject* objeto, int tecla);
+    QString AñoDe(const Linea& linea) const;
+
+    const DefinicionLineas& m_definicion;
+    std::vector<Linea> m_lineas;
+    QTableWidget* m_rejilla;
+    std::vector<std::unique_ptr<Entrada>> m_entradas;
+    QLabel* m_estado = nullptr; // which line the fields belong to
+    QToolButton* m_nueva = nullptr;
+    QToolButton* m_quitar = nullptr;
+    int m_fila = -1; // the line in the fields; -1 a new one
+};
+
+} // namespace pastorix
