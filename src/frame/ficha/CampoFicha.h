@@ -31,6 +31,18 @@ struct CampoFicha {
         false; // a date field: what is no date empties the column instead of leaving it as it was
 };
 
+// A coded field: a combo with its list. What is stored is the text of its item; an empty first item takes a choice back.
+struct ComboFicha {
+    const char* nombre; // of the control: "CD_Raza"
+    const char* columna;
+    const char* rotulo; // caption, with mnemonic
+    std::span<const char* const> lista;
+    int fila, columnaRejilla;
+    int hoja = 0;
+    bool porTexto =
+        false; // may hold a text that is not in the list; otherwise such a text shows as no choice
+};
+
 // A sheet as data.
 struct DefinicionFicha {
     const char* titulo;
@@ -42,6 +54,7 @@ struct DefinicionFicha {
     const char* mascaraFechaAlta = "dd/mm/yy";
     const char* minimos = "";   // message when the code or a mandatory field is empty
     int indiceObligatorio = -1; // the field besides the code
+    std::span<const ComboFicha> combos{};
 };
 
 } // namespace pastorix

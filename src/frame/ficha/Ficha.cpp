@@ -1,22 +1,18 @@
 #include "frame/ficha/Ficha.h"
 
-#include "frame/Iconos.h"
 #include "frame/Mensajes.h"
-#include "store/Catalogo.h"
 #include "store/Recordset.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace pastorix {
 
 namespace {
-
-constexpr int kCifrasDeCodigo = 15; // a double holds no more of them exactly
 
 // A key that changes a text, as against one that moves about or asks for something.
 bool EsDeEscritura(const QKeyEvent& e) {
@@ -25,6 +21,14 @@ bool EsDeEscritura(const QKeyEvent& e) {
     if (e.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         return false;
     return !e.text().isEmpty() && e.text().at(0).isPrint();
+}
+
+// A value is found in the list by its text, whatever its case. Where texts outside the list are allowed it shows all the same.
+void MostrarEn(QComboBox& combo, const QString& valor) {
+    const int i = combo.findText(valor, Qt::MatchFixedString);
+    combo.setCurrentIndex(std::max(i, 0)); // the first item is the empty one
+    if (i < 0 && combo.isEditable())
+        combo.setEditText(valor);
 }
 
 } // namespace
@@ -53,107 +57,6 @@ void Ficha::ConectarBarra() {
     (*m_barra)[BarraFicha::Cerrar]->setFocusPolicy(Qt::StrongFocus);
 }
 
-QWidget* Ficha::CrearRejilla(QWidget* padre, int hoja) {
-    auto* caja = new QWidget(padre);
-    m_rejilla = new QGridLayout(caja);
-    m_rejilla->setHorizontalSpacing(12);
-    const int anchuraMinima = fontMetrics().averageCharWidth() * 26;
-    QWidget* anterior = nullptr;
-    for (const auto& c : m_definicion.campos) {
-        if (c.hoja != hoja)
-            continue;
-        auto* campo = CrearCampo(c, caja);
-        auto* rotulo = new QLabel(QString::fromUtf8(c.rotulo), caja);
-        rotulo->setObjectName(QStringLiteral("ET_Estandar(%1)").arg(c.indice));
-        rotulo->setBuddy(campo);
-        const int columna = c.columnaRejilla * 2;
-        const auto altura = c.clase == ClaseCampo::Memo ? Qt::AlignTop : Qt::AlignVCenter;
-        m_rejilla->addWidget(rotulo, c.fila, columna, Qt::AlignRight | altura);
-        m_rejilla->addWidget(campo, c.fila, columna + 1, 1, c.ancho * 2 - 1);
-        m_rejilla->setColumnMinimumWidth(columna + 1, anchuraMinima);
-        m_rejilla->setColumnStretch(columna + 1, 1);
-        if (anterior)
-            setTabOrder(anterior, campo);
-        anterior = campo;
-    }
-    return caja;
-}
-
-QWidget* Ficha::CrearCampo(const CampoFicha& c, QWidget* padre) {
-    QWidget* campo = nullptr;
-    if (c.clase == ClaseCampo::Memo)
-        campo = m_memos[c.indice] = CrearMemo(padre);
-    else
-        campo = m_campos[c.indice] = CrearLinea(c, padre);
-    campo->setObjectName(QStringLiteral("%1(%2)").arg(QString::fromUtf8(m_definicion.arreglo)).arg(c.indice));
-    const auto nombre =
-        QString::fromUtf8(*c.nombreAccesible ? c.nombreAccesible : c.rotulo).remove(QLatin1Char('&'));
-    campo->setAccessibleName(nombre);
-    campo->installEventFilter(this);
-    return campo;
-}
-
-CampoMemo* Ficha::CrearMemo(QWidget* padre) {
-    auto* memo = new CampoMemo(padre);
-    connect(memo, &QPlainTextEdit::modificationChanged, this, [this](bool cambiado) {
-        if (cambiado)
-            EntrarEnModificar();
-    });
-    return memo;
-}
-
-CampoTexto* Ficha::CrearLinea(const CampoFicha& c, QWidget* padre) {
-    int anchura = c.clase == ClaseCampo::Codigo ? kCifrasDeCodigo : c.anchura;
-    if (anchura == 0 && c.columna) {
-        const auto* tabla = CatalogoCanonico(ClaseDeBase::Principal).Buscar(m_definicion.tabla);
-        const int lugar = tabla ? tabla->Buscar(c.columna) : -1;
-        anchura = lugar < 0 ? 0 : tabla->columnas[static_cast<std::size_t>(lugar)].anchura;
-    }
-    if (anchura == 0 && c.clase == ClaseCampo::Fecha)
-        anchura = 10;
-    auto* campo = new CampoTexto(c.clase, anchura, padre);
-    if (c.clase == ClaseCampo::Fecha)
-        campo->setPlaceholderText(QStringLiteral("dd/mm/aa"));
-    // Short fields look short: what fits can be seen before it is typed.
-    if (anchura > 0 && anchura <= 15)
-        campo->setMaximumWidth(campo->fontMetrics().horizontalAdvance(QLatin1Char('0')) * (anchura + 3));
-    if (c.indice == 0)
-        connect(campo, &QLineEdit::editingFinished, this, [this] { CodigoDejado(); });
-    else
-        connect(campo, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
-    return campo;
-}
-
-void Ficha::PonerIconoBusDato(int icono, int indiceCampo) {
-    auto* boton = new QToolButton(this);
-    boton->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
-    boton->setIcon(Icono("buscar"));
-    boton->setCursor(CursorMano());
-    boton->setToolTip(QStringLiteral("Seleccionar (F3)"));
-    boton->setAccessibleName(QStringLiteral("Seleccionar"));
-    boton->setAutoRaise(true);
-    if (icono == 0)
-        boton->setShortcut(QKeySequence(Qt::Key_F3));
-    connect(boton, &QToolButton::clicked, this, [this, icono] { BuscarDato(icono); });
-    // The field shares its cell with the icon.
-    auto* campo = m_campos.at(indiceCampo);
-    auto* rejilla = static_cast<QGridLayout*>(campo->parentWidget()->layout());
-    int fila = 0;
-    int columna = 0;
-    int altura = 0;
-    int anchura = 0;
-    rejilla->getItemPosition(rejilla->indexOf(campo), &fila, &columna, &altura, &anchura);
-    rejilla->removeWidget(campo);
-    auto* juntos = new QHBoxLayout;
-    juntos->setSpacing(2);
-    juntos->addWidget(campo);
-    juntos->addWidget(boton);
-    juntos->addStretch();
-    rejilla->addLayout(juntos, fila, columna, altura, anchura);
-    setTabOrder(campo, boton);
-    m_iconos[icono] = boton;
-}
-
 void Ficha::TerminarConstruccion(QWidget* ultimo) {
     for (auto* boton : m_barra->findChildren<QPushButton*>()) {
         setTabOrder(ultimo, boton);
@@ -178,6 +81,11 @@ void Ficha::EntrarEnModificar() {
 }
 
 bool Ficha::eventFilter(QObject* objeto, QEvent* evento) {
+    // The wheel scrolls past a combo; it does not change what nobody is looking at.
+    if (evento->type() == QEvent::Wheel) {
+        if (const auto* combo = qobject_cast<QComboBox*>(objeto); combo && !combo->hasFocus())
+            return true;
+    }
     if (evento->type() == QEvent::KeyPress) {
         const auto& tecla = static_cast<QKeyEvent&>(*evento);
         const bool esCodigo = objeto == m_campos.at(0);
@@ -205,6 +113,8 @@ void Ficha::LimpiarCampos() {
         campo->clear();
     for (const auto& [indice, memo] : m_memos)
         memo->Poner({});
+    for (const auto& [nombre, combo] : m_combos)
+        MostrarEn(*combo, {});
     LimpiarPropios();
 }
 
@@ -219,6 +129,10 @@ void Ficha::CodigoDejado() {
         CargarFicha(codigo);
     else
         ReponerCodigo();
+}
+
+QComboBox& Ficha::Combo(std::string_view nombre) const {
+    return *m_combos.find(nombre)->second;
 }
 
 std::string Ficha::TextoStd(int indice) const {
@@ -254,6 +168,8 @@ bool Ficha::CargarFicha(double clave) {
         for (const auto& c : m_definicion.campos)
             if (c.columna)
                 Poner(c.indice, rs[c.columna].Texto());
+        for (const auto& c : m_definicion.combos)
+            MostrarEn(Combo(c.nombre), QString::fromStdString(rs[c.columna].Texto()));
         MostrarPropios(rs);
         return true;
     } catch (const std::exception& e) {

@@ -10,7 +10,9 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 
+class QComboBox;
 class QGridLayout;
 class QToolButton;
 
@@ -46,6 +48,7 @@ protected:
         return true;
     } // before another record comes or the sheet goes; false to stay
     virtual bool PermiteAñadir() { return true; } // a limit of the sheet; false after its own box
+    virtual bool PermiteModificar() { return true; }
     virtual std::string CodigoPropuesto();      // for the record to be added; by default the last one plus 1
     virtual void AlAñadir();                    // where the typing begins; by default in field 1
     virtual void LimpiarPropios() {}            // controls beyond the table of fields
@@ -72,6 +75,7 @@ protected:
     // For its hooks.
     CampoTexto& Campo(int indice) const { return *m_campos.at(indice); }
     CampoMemo& Memo(int indice) const { return *m_memos.at(indice); }
+    QComboBox& Combo(std::string_view nombre) const;
     QString Texto(int indice) const { return QString::fromStdString(TextoStd(indice)); }
     std::string TextoStd(int indice) const;
     void Poner(int indice, const std::string& texto);
@@ -91,6 +95,8 @@ private:
     QWidget* CrearCampo(const CampoFicha& campo, QWidget* padre);
     CampoTexto* CrearLinea(const CampoFicha& campo, QWidget* padre);
     CampoMemo* CrearMemo(QWidget* padre);
+    int AnchuraDe(const char* columna) const;
+    QComboBox* CrearCombo(const ComboFicha& combo, QWidget* padre);
     void CodigoDejado();
     bool Escribir(double codigo); // false when the code is taken
     void EscribirCampos(Recordset& rs);
@@ -103,6 +109,7 @@ private:
     QGridLayout* m_rejilla = nullptr;
     std::map<int, CampoTexto*> m_campos;
     std::map<int, CampoMemo*> m_memos;
+    std::map<std::string, QComboBox*, std::less<>> m_combos;
     std::map<int, QToolButton*> m_iconos;
     double m_clave = 0;
     int m_accion = 0;

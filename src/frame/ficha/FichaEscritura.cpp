@@ -7,6 +7,8 @@
 #include "store/Literales.h"
 #include "store/Recordset.h"
 
+#include <QComboBox>
+
 namespace pastorix {
 
 std::string Ficha::SentenciaDeClave(double clave) const {
@@ -43,6 +45,8 @@ void Ficha::Añadir() {
 }
 
 void Ficha::Modificar() {
+    if (!PermiteModificar())
+        return;
     m_accion = 2;
     m_barra->EstadoBotones(2);
     if (CodigoTecleado().toDouble() != m_clave) {
@@ -122,6 +126,10 @@ void Ficha::EscribirCampos(Recordset& rs) {
             rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
         else if (c.vaciaSinFecha)
             rs[c.columna] = Valor();
+    }
+    for (const auto& c : m_definicion.combos) {
+        const auto texto = Combo(c.nombre).currentText().toStdString();
+        rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
     }
 }
 

@@ -22,6 +22,12 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
     setAlternatingRowColors(true);
     setTabKeyNavigation(false); // Tab goes on to the next control
     verticalHeader()->hide();
+    for (int i = 0; i < columnCount(); ++i)
+        setColumnHidden(i, columnas[static_cast<std::size_t>(i)].caracteres == 0);
+    connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
+        if (alCambiarSeleccion)
+            alCambiarSeleccion();
+    });
     connect(this, &QTableWidget::currentCellChanged, this, [this](int fila, int, int antes, int) {
         if (fila >= 0 && fila != antes && alElegir)
             alElegir(fila);
@@ -33,35 +39,45 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
 }
 
 void RejillaHijos::Llenar(Recordset& rs) {
-    Vaciar();
-    const QSignalBlocker silencio(this); // filling chooses nothing
-    setRowCount(static_cast<int>(rs.Contar()));
-    int fila = 0;
-    for (rs.Primero(); !rs.Eof(); rs.Siguiente(), ++fila) {
-        auto& valores = m_valores.emplace_back();
-        for (int i = 0; i < columnCount(); ++i) {
-            valores.push_back(rs[m_columnas[static_cast<std::size_t>(i)].columna].Leer());
-            auto* celda = new QTableWidgetItem(QString::fromStdString(TextoDe(valores.back())));
-            if (std::holds_alternative<double>(valores.back()) ||
-                std::holds_alternative<std::int64_t>(valores.back()))
-                celda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            setItem(fila, i, celda);
-        }
+    std::vector<std::vector<Valor>> filas;
+    for (rs.Primero(); !rs.Eof(); rs.Siguiente()) {
+        auto& valores = filas.emplace_back();
+        for (const auto& c : m_columnas)
+            valores.push_back(rs[c.columna].Leer());
     }
-    if (fila > 0)
-        setCurrentCell(0, 0); // screen readers need a current cell
+    Llenar(std::move(filas));
+}
+
+void RejillaHijos::Llenar(std::vector<std::vector<Valor>> filas) {
+    {
+        const QSignalBlocker silencio(this); // filling chooses nothing
+        m_valores = std::move(filas);
+        setRowCount(static_cast<int>(m_valores.size()));
+        for (int f = 0; f < rowCount(); ++f)
+            for (int i = 0; i < columnCount(); ++i) {
+                const auto& valor = De(f, static_cast<std::size_t>(i));
+                auto* celda = new QTableWidgetItem(QString::fromStdString(TextoDe(valor)));
+                if (std::holds_alternative<double>(valor) || std::holds_alternative<std::int64_t>(valor))
+                    celda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                setItem(f, i, celda);
+            }
+        if (rowCount() > 0)
+            setCurrentCell(0, 0); // screen readers need a current cell
+    }
     clearSelection();
+    if (alCambiarSeleccion)
+        alCambiarSeleccion();
 }
 
 void RejillaHijos::Vaciar() {
-    const QSignalBlocker silencio(this);
-    setRowCount(0);
-    m_valores.clear();
+    Llenar(std::vector<std::vector<Valor>>());
 }
 
 void RejillaHijos::keyPressEvent(QKeyEvent* evento) {
     if ((evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) && currentRow() >= 0 && alAbrir)
         alAbrir(currentRow());
+    else if (evento->key() == Qt::Key_Delete && alEliminar)
+        alEliminar();
     else
         QTableWidget::keyPressEvent(evento);
 }

@@ -12,9 +12,9 @@ namespace pastorix {
 
 // A column of a grid of child rows.
 struct ColumnaHijos {
-    const char* columna; // field of the query
+    const char* columna; // field of the query; nullptr where the owner makes the values
     const char* titulo;
-    int caracteres; // width
+    int caracteres; // width; 0 hides the column
 };
 
 // The grid of a sheet's child rows: read-only, one row chosen at a time. A click, or moving onto it with the arrows, brings a row into the
@@ -25,6 +25,8 @@ public:
 
     // Shows the rows of the query from its first one; the recordset may be closed afterwards.
     void Llenar(Recordset& rs);
+    // The same with values that the owner made, one a column.
+    void Llenar(std::vector<std::vector<Valor>> filas);
     void Vaciar();
     int Filas() const { return rowCount(); }
     // Value of a field of a row as the query gave it.
@@ -34,6 +36,8 @@ public:
 
     std::function<void(int fila)> alElegir; // a row became the current one
     std::function<void(int fila)> alAbrir;  // a row is to be opened
+    std::function<void()> alCambiarSeleccion;
+    std::function<void()> alEliminar; // the Delete key
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;

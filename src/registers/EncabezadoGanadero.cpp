@@ -1,0 +1,77 @@
+#include "registers/EncabezadoGanadero.h"
+
+#include "frame/Iconos.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace pastorix {
+
+EncabezadoGanadero::EncabezadoGanadero(Conexion& conexion, int icono, QWidget* padre)
+    : QWidget(padre)
+    , m_c(conexion)
+    , m_icono(new QToolButton(this)) {
+    auto* fila = new QHBoxLayout(this);
+    fila->setContentsMargins(0, 0, 0, 0);
+    fila->addWidget(new QLabel(QStringLiteral("Ganadero"), this));
+    m_icono->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
+    m_icono->setIcon(pastorix::Icono("ganaderos"));
+    m_icono->setCursor(CursorMano());
+    m_icono->setToolTip(QStringLiteral("Seleccionar (F4)"));
+    m_icono->setShortcut(QKeySequence(Qt::Key_F4));
+    m_icono->setAccessibleName(QStringLiteral("Seleccionar ganadero"));
+    m_icono->setAutoRaise(true);
+    connect(m_icono, &QToolButton::clicked, this, [this] {
+        if (alBuscar)
+            alBuscar();
+    });
+    fila->addWidget(m_icono);
+    for (std::size_t i = 0; i < m_rotulos.size(); ++i) {
+        auto* rotulo = new QLabel(this);
+        rotulo->setObjectName(QStringLiteral("Et_Ganadero(%1)").arg(i));
+        rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if (i == 1) {
+            auto fuente = rotulo->font();
+            fuente.setBold(true);
+            fuente.setPointSizeF(fuente.pointSizeF() * 1.2);
+            rotulo->setFont(fuente);
+        }
+        fila->addWidget(rotulo);
+        m_rotulos[i] = rotulo;
+    }
+    fila->addStretch();
+}
+
+void EncabezadoGanadero::Poner(double idGanadero) {
+    const auto id = NumeroSql(idGanadero);
+    m_id = idGanadero;
+    std::string nombre;
+    std::string localidad;
+    Recordset rs(m_c, "Select * FROM T_Ganaderos WHERE Id_Ganadero = " + id);
+    if (!rs.Eof()) {
+        nombre = rs["Apodo"].Texto();
+        if (nombre.empty())
+            nombre = rs["Nombre"].Texto() + " " + rs["Apellidos"].Texto();
+        if (!rs["Id_Direccion"].Nulo())
+            localidad = ValorDeCampo(m_c, "Select Localidad FROM T_Direcciones WHERE Id_Direccion = " +
+                                              NumeroSql(rs["Id_Direccion"].Numero()));
+    }
+    m_rotulos[0]->setText(QString::fromStdString(TextoNumero(idGanadero)));
+    m_rotulos[1]->setText(QString::fromStdString(nombre));
+    m_rotulos[2]->setText(QString::fromStdString(localidad));
+}
+
+void EncabezadoGanadero::Limpiar() {
+    m_id.reset();
+    for (auto* rotulo : m_rotulos)
+        rotulo->clear();
+}
+
+QString EncabezadoGanadero::Codigo() const {
+    return m_rotulos[0]->text();
+}
+
+} // namespace pastorix

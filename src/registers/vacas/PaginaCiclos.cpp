@@ -1,0 +1,148 @@
+#include "registers/vacas/PaginaCiclos.h"
+
+#include "frame/Iconos.h"
+#include "frame/Mensajes.h"
+#include "frame/ficha/RejillaHijos.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace pastorix {
+
+namespace {
+
+constexpr ColumnaHijos kColumnasPartos[] = {{nullptr, "Nº de Parto", 12},
+                                            {nullptr, "Fecha de Parto", 16},
+                                            {nullptr, "Año Ref", 10},
+                                            {nullptr, "Datos Completos", 18}};
+constexpr ColumnaHijos kColumnasCubriciones[] = {{nullptr, "Id_Cubricion", 0},
+                                                 {nullptr, "Año de Referencia", 20},
+                                                 {nullptr, "Nº de Parto", 12},
+                                                 {nullptr, "Datos Completos", 18}};
+
+Valor Parto(const CicloDeVaca& c) {
+    return c.nParto ? Valor(std::int64_t{*c.nParto}) : Valor();
+}
+Valor Completo(const CicloDeVaca& c) {
+    return std::string(c.completo ? "Sí" : "No");
+}
+QString NumeroParto(const CicloDeVaca& c) {
+    return QString::fromStdString(TextoDe(Parto(c)));
+}
+
+} // namespace
+
+const DefinicionCiclos kPartosDeVaca{
+    "GridPartos",
+    "Partos",
+    "B_AñadirParto",
+    "B_EliminarPC(0)",
+    "Añadir Parto...",
+    kColumnasPartos,
+    PartosDeVaca,
+    [](const CicloDeVaca& c) {
+        return std::vector<Valor>{Parto(c), c.fechaParto, std::int64_t{c.añoRef}, Completo(c)};
+    },
+    EliminarParto,
+    [](const CicloDeVaca& c) { return QStringLiteral("Confirme eliminar el Parto Nº : ") + NumeroParto(c); }};
+
+const DefinicionCiclos kCubricionesDeVaca{
+    "GridCubriciones",
+    "Cubriciones",
+    "B_AñadirCubricion",
+    "B_EliminarPC(1)",
+    "Añadir Cubrición...",
+    kColumnasCubriciones,
+    CubricionesDeVaca,
+    [](const CicloDeVaca& c) {
+        return std::vector<Valor>{c.idCubricion, std::int64_t{c.añoRef}, Parto(c), Completo(c)};
+    },
+    EliminarCubricion,
+    [](const CicloDeVaca& c) {
+        return QStringLiteral("Confirme eliminar la Cubrición del Año de Referencia : %1 y Nº de Parto: ")
+                   .arg(c.añoRef) +
+               NumeroParto(c);
+    }};
+
+PaginaCiclos::PaginaCiclos(Conexion& c, const DefinicionCiclos& definicion, QWidget* padre)
+    : QWidget(padre)
+    , m_c(c)
+    , m_definicion(definicion)
+    , m_rejilla(new RejillaHijos(definicion.columnas, this)) {
+    m_rejilla->setObjectName(QString::fromUtf8(definicion.rejilla));
+    m_rejilla->setAccessibleName(QString::fromUtf8(definicion.nombre));
+    m_rejilla->alAbrir = [this](int fila) { Abrir(fila); };
+    m_rejilla->alCambiarSeleccion = [this] { Habilitar(); };
+    m_rejilla->alEliminar = [this] { Eliminar(); };
+    const auto boton = [this](const char* nombre, const QString& texto, const char* icono) {
+        auto* b = new QPushButton(Icono(icono), texto, this);
+        b->setObjectName(QString::fromUtf8(nombre));
+        b->setAutoDefault(false);
+        return b;
+    };
+    m_añadir = boton(definicion.botonAñadir, QString::fromUtf8(definicion.textoAñadir), "anadir");
+    m_eliminar = boton(definicion.botonEliminar, QStringLiteral("Eliminar..."), "eliminar");
+    connect(m_añadir, &QPushButton::clicked, this, [this] {
+        if (puedeOperar && !puedeOperar())
+            return;
+        m_alAñadir();
+        Mostrar(m_idVaca);
+    });
+    connect(m_eliminar, &QPushButton::clicked, this, [this] { Eliminar(); });
+    auto* botones = new QVBoxLayout;
+    botones->addWidget(m_añadir);
+    botones->addWidget(m_eliminar);
+    botones->addStretch();
+    auto* todo = new QHBoxLayout(this);
+    todo->addWidget(m_rejilla, 1);
+    todo->addLayout(botones);
+    Habilitar();
+}
+
+void PaginaCiclos::FijarOrdenes(std::function<void(const CicloDeVaca&)> abrir, std::function<void()> añadir) {
+    m_abrir = std::move(abrir);
+    m_alAñadir = std::move(añadir);
+    Habilitar();
+}
+
+void PaginaCiclos::Mostrar(double idVaca) {
+    m_idVaca = idVaca;
+    m_ciclos = idVaca == 0 ? std::vector<CicloDeVaca>() : m_definicion.leer(m_c, idVaca);
+    std::vector<std::vector<Valor>> filas;
+    for (const auto& ciclo : m_ciclos)
+        filas.push_back(m_definicion.celdas(ciclo));
+    m_rejilla->Llenar(std::move(filas));
+    Habilitar();
+}
+
+void PaginaCiclos::Habilitar() {
+    m_añadir->setEnabled(m_alAñadir && m_idVaca != 0);
+    m_eliminar->setEnabled(!m_rejilla->selectedItems().isEmpty());
+}
+
+void PaginaCiclos::Abrir(int fila) {
+    if ((puedeOperar && !puedeOperar()) || !m_abrir)
+        return;
+    m_abrir(m_ciclos[static_cast<std::size_t>(fila)]);
+    Mostrar(m_idVaca);
+}
+
+void PaginaCiclos::Eliminar() {
+    const int fila = m_rejilla->currentRow();
+    if (!m_eliminar->isEnabled() || fila < 0)
+        return;
+    const auto ciclo = m_ciclos[static_cast<std::size_t>(fila)];
+    if (!Preguntar(this, QStringLiteral("Eliminar"), m_definicion.pregunta(ciclo)))
+        return;
+    try {
+        EnGrupo(m_c, [&] { m_definicion.eliminar(m_c, ciclo); });
+    } catch (const ErrorAlmacen& e) {
+        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+    }
+    Mostrar(m_idVaca);
+    m_rejilla->setFocus();
+}
+
+} // namespace pastorix

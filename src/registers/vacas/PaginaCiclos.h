@@ -1,0 +1,63 @@
+#pragma once
+
+#include "registers/vacas/CiclosDeVaca.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <span>
+#include <vector>
+
+class QPushButton;
+
+namespace pastorix {
+
+class RejillaHijos;
+struct ColumnaHijos;
+
+// What the tabs of calvings and of matings differ in.
+struct DefinicionCiclos {
+    const char* rejilla;
+    const char* nombre; // accessible
+    const char* botonAñadir;
+    const char* botonEliminar;
+    const char* textoAñadir;
+    std::span<const ColumnaHijos> columnas;
+    std::vector<CicloDeVaca> (*leer)(Conexion&, double);
+    std::vector<Valor> (*celdas)(const CicloDeVaca&);
+    void (*eliminar)(Conexion&, const CicloDeVaca&);
+    QString (*pregunta)(const CicloDeVaca&);
+};
+
+extern const DefinicionCiclos kPartosDeVaca;
+extern const DefinicionCiclos kCubricionesDeVaca;
+
+// A tab of the cow's sheet with one of the two lists of her cycles, and the buttons that add and remove one.
+class PaginaCiclos : public QWidget {
+public:
+    PaginaCiclos(Conexion& c, const DefinicionCiclos& definicion, QWidget* padre = nullptr);
+
+    // Throws ErrorAlmacen. With 0 nothing is shown.
+    void Mostrar(double idVaca);
+    // What a double click and the button do; empty: not there yet, and the button is off.
+    void FijarOrdenes(std::function<void(const CicloDeVaca&)> abrir, std::function<void()> añadir);
+
+    std::function<bool()> puedeOperar; // false, after its own box, while the sheet is being edited
+
+private:
+    void Eliminar();
+    void Abrir(int fila);
+    void Habilitar();
+
+    Conexion& m_c;
+    const DefinicionCiclos& m_definicion;
+    RejillaHijos* m_rejilla;
+    QPushButton* m_añadir;
+    QPushButton* m_eliminar;
+    std::vector<CicloDeVaca> m_ciclos;
+    std::function<void(const CicloDeVaca&)> m_abrir;
+    std::function<void()> m_alAñadir;
+    double m_idVaca = 0;
+};
+
+} // namespace pastorix
