@@ -118,6 +118,13 @@ void Ficha::LimpiarCampos() {
     LimpiarPropios();
 }
 
+void Ficha::Vaciar() {
+    m_clave = 0;
+    m_accion = 0;
+    LimpiarCampos();
+    m_barra->EstadoBotones(0);
+}
+
 // A code typed and left, or confirmed with Enter, brings its record, unless an edit is under way.
 void Ficha::CodigoDejado() {
     if (Editando() || CodigoTecleado().isEmpty())

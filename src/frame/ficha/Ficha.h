@@ -87,6 +87,7 @@ protected:
     void ReponerCodigo();                               // the current key back into the code field
     bool Rechazar(const QString& texto, QWidget* foco); // exclamation box "Atención"; always false
     void LimpiarCampos();
+    void Vaciar(); // no record on the sheet
 
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 

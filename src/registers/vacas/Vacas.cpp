@@ -1,0 +1,271 @@
+// The cow's sheet: what it does with her record. How it is laid out stands in VacasConstruccion.cpp.
+#include "registers/vacas/Vacas.h"
+
+#include "frame/Mensajes.h"
+#include "frame/selector/Selector.h"
+#include "frame/selector/SentenciasSelector.h"
+#include "registers/Borrados.h"
+#include "registers/EncabezadoGanadero.h"
+#include "registers/sanidad/PaginaMamitis.h"
+#include "registers/vacas/CamposDeVaca.h"
+#include "registers/vacas/CodigoDeVaca.h"
+#include "registers/vacas/Crotales.h"
+#include "registers/vacas/ObsControlRebaño.h"
+#include "registers/vacas/PaginaCiclos.h"
+#include "store/Recordset.h"
+
+#include <QComboBox>
+#include <QTabWidget>
+
+namespace pastorix {
+
+using namespace campo_vaca;
+
+void Vacas::AbrirParaAñadir(double idGanadero) {
+    m_ganadero->Poner(idGanadero);
+    Añadir();
+}
+
+VacaEnMano Vacas::EnMano() const {
+    return {Clave(),
+            m_ganadero->Id().value_or(0),
+            TextoStd(NombreC),
+            TextoStd(campo_vaca::AñoRef),
+            TextoStd(FechaCompra),
+            TextoStd(FechaBaja),
+            TextoStd(FechaDesecho)};
+}
+
+// --- adding
+
+bool Vacas::PermiteAñadir() {
+    if (m_tab->currentIndex() != 0)
+        return Rechazar(
+            QStringLiteral("Debe encontrarse en la Ficha General para poder realizar esta acción"), m_tab);
+    if (!m_ganadero->Id())
+        return Rechazar(QStringLiteral("Seleccione el Ganadero al que pretende añadir una Vaca."),
+                        &Campo(Codigo));
+    return true;
+}
+
+std::string Vacas::CodigoPropuesto() {
+    return CodigoDeVaca(Base(), *m_ganadero->Id());
+}
+
+void Vacas::AlAñadir() {
+    VaciarPaginas();
+    Ficha::AlAñadir();
+}
+
+bool Vacas::PermiteModificar() {
+    return CodigoIntacto();
+}
+
+bool Vacas::CodigoIntacto() {
+    if (CodigoTecleado().toDouble() == Clave())
+        return true;
+    ReponerCodigo(); // before the box: it takes the focus from the field
+    Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
+           QStringLiteral("El Código no se puede cambiar"));
+    return false;
+}
+
+// --- showing
+
+void Vacas::LimpiarPropios() {
+    m_huella.clear();
+}
+
+void Vacas::MostrarPropios(Recordset& rs) {
+    if (rs["Id_Ganadero"].Nulo())
+        m_ganadero->Limpiar();
+    else
+        m_ganadero->Poner(rs["Id_Ganadero"].Numero());
+    Poner(FechaBaja, rs["FechaBaja"].Texto());
+    Poner(campo_vaca::AñoRef, rs["FechaBaja"].Nulo() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
+    MostrarPaginas();
+    m_huella = Huella();
+}
+
+void Vacas::MostrarPaginas() {
+    const VacaEnHoja vaca{Clave(), m_ganadero->Id().value_or(0)};
+    m_partos->Mostrar(vaca.idVaca);
+    m_cubriciones->Mostrar(vaca.idVaca);
+    m_mamitis->Mostrar(vaca);
+    for (auto* pagina : m_sanidad)
+        if (m_mostrada == vaca.idVaca)
+            pagina->Refrescar(); // what was typed there waits for the tab's own save
+        else
+            pagina->Mostrar(vaca);
+    m_mostrada = vaca.idVaca;
+}
+
+void Vacas::VaciarPaginas() {
+    m_partos->Mostrar(0);
+    m_cubriciones->Mostrar(0);
+    m_mamitis->Mostrar({});
+    for (auto* pagina : m_sanidad)
+        pagina->Mostrar({});
+    m_mostrada = 0;
+}
+
+void Vacas::VaciarTodo() {
+    Vaciar();
+    VaciarPaginas();
+}
+
+void Vacas::NoEncontrado(double clave) {
+    if (clave != 0)
+        Poner(Codigo, {});
+}
+
+bool Vacas::PermiteDejar() {
+    for (const auto* pagina : m_sanidad)
+        if (pagina->Pendiente() &&
+            !Preguntar(this, QStringLiteral("Atención"),
+                       QStringLiteral("Hay cambios sin guardar en la pestaña %1. ¿Desea perderlos?")
+                           .arg(pagina->Titulo())))
+            return false;
+    return true;
+}
+
+void Vacas::AlCambiarDePestaña(int) {
+    if (Clave() != 0 && Accion() != 1)
+        try {
+            m_partos->Mostrar(Clave());
+            m_cubriciones->Mostrar(Clave());
+            for (auto* pagina : m_sanidad)
+                pagina->Refrescar();
+        } catch (const ErrorAlmacen& e) {
+            Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+        }
+}
+
+// --- saving
+
+bool Vacas::ComprobarMinimos() {
+    if (CodigoTecleado().trimmed().isEmpty() || Texto(Nombre).trimmed().isEmpty() || !m_ganadero->Id())
+        return Rechazar(QString::fromUtf8(kFichaDeVaca.minimos), &Campo(Codigo));
+    if (CodigoTecleado().toDouble() == 0)
+        return Rechazar(QStringLiteral("El Código de la Vaca no puede ser '0'"), &Campo(Codigo));
+    return true;
+}
+
+bool Vacas::Comprobar() {
+    const auto crotal = TextoStd(Crotal);
+    if (Texto(Crotal).size() >= kCrotalMinimo) {
+        QString lista;
+        for (const auto& otro : CrotalesCoincidentes(Base(), crotal, CodigoTecleado().toDouble()))
+            lista += QLatin1Char('\n') + QString::fromStdString(otro);
+        if (!lista.isEmpty())
+            return Rechazar(
+                QStringLiteral("EL se han encontrado crotales coincidentes: \n") + lista +
+                    QStringLiteral("\n\nDebe cambiarlo por uno que no existe, puede incluir algún "
+                                   "dígito más para diferenciarlo."),
+                &Campo(Crotal));
+    }
+    return Accion() != 2 || CodigoIntacto();
+}
+
+void Vacas::EscribirPropios(Recordset& rs) {
+    rs["Id_Ganadero"] = *m_ganadero->Id();
+    // Two columns for one date: reports tell the live cows from the others by either.
+    rs["FechaBaja"] = rs["FechaDesecho"].Leer();
+}
+
+void Vacas::EscribirHijos(double codigo) {
+    m_mamitis->EscribirHijos(codigo);
+}
+
+void Vacas::DespuesDeGuardar(double clave) {
+    CargarFicha(clave);
+}
+
+// --- removing
+
+QString Vacas::PreguntaEliminar() const {
+    return QStringLiteral("Eliminar Vaca: ") + Texto(Nombre);
+}
+
+void Vacas::Borrar(double clave) {
+    if (clave != 0 && m_ganadero->Id())
+        BorrarVaca(Base(), clave, *m_ganadero->Id());
+}
+
+void Vacas::DespuesDeBorrar() {
+    VaciarPaginas();
+    Barra().EstadoBotones(0);
+    Campo(Codigo).setFocus();
+}
+
+// --- derived values and other windows
+
+void Vacas::ComponerNombre() {
+    if (Editando())
+        Poner(NombreC,
+              NombreCompuestoDeVaca(TextoStd(Nombre), Combo("CD_Cularidad").currentText().toStdString()));
+}
+
+void Vacas::AbrirObservaciones() {
+    bool numerico = false;
+    const double codigo = CodigoTecleado().toDouble(&numerico);
+    if (numerico)
+        ObsControlRebaño(Base(), codigo, this).exec();
+}
+
+void Vacas::BuscarDato(int icono) {
+    switch (icono) {
+    case 0:
+        return ElegirVaca();
+    case 1:
+        return ElegirGanadero();
+    case 2:
+        return ElegirPadre();
+    default:
+        return ElegirMadre();
+    }
+}
+
+void Vacas::ElegirVaca() {
+    if (Editando())
+        return;
+    const auto elegida =
+        Selector::Elegir(Base(), TipoSelector::Vacas, SentenciaVacas(m_ganadero->Id()).Completa(), this);
+    if (elegida && elegida->clave != 0 && PermiteDejar())
+        CargarFicha(elegida->clave);
+}
+
+// While a cow is edited the farmer chosen becomes hers; otherwise the sheet is emptied, ready for a cow of his.
+void Vacas::ElegirGanadero() {
+    const auto elegido = Selector::Elegir(Base(), TipoSelector::GanaderosParaVacas, {}, this);
+    if (!elegido || elegido->clave == 0 || (!Editando() && !PermiteDejar()))
+        return;
+    if (!Editando())
+        VaciarTodo();
+    m_ganadero->Poner(elegido->clave);
+    Campo(Editando() ? Nombre : Codigo).setFocus();
+}
+
+void Vacas::ElegirPadre() {
+    const auto elegido =
+        Selector::Elegir(Base(), TipoSelector::PadresParaVacas, m_ganadero->Codigo().toStdString(), this);
+    if (!elegido || elegido->clave == 0)
+        return;
+    EntrarEnModificar();
+    Poner(NombrePadre, TextoDe(elegido->De("SementalC")));
+    Poner(NombrePadre + 1, TextoDe(elegido->De("RegGen")));
+    Poner(NombrePadre + 2, TextoDe(elegido->De("RegSan")));
+}
+
+void Vacas::ElegirMadre() {
+    const auto elegida = Selector::Elegir(Base(), TipoSelector::MadresParaVacas,
+                                          SentenciaVacas(m_ganadero->Id()).Completa(), this);
+    if (!elegida || elegida->clave == 0)
+        return;
+    EntrarEnModificar();
+    Poner(NombreMadre, elegida->texto);
+    Poner(NombreMadre + 1, TextoDe(elegida->De("RegGenealogico")));
+    Poner(NombreMadre + 2, TextoDe(elegida->De("RegSaneam")));
+}
+
+} // namespace pastorix

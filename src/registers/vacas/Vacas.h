@@ -1,0 +1,87 @@
+#pragma once
+
+#include "frame/ficha/Ficha.h"
+#include "registers/vacas/VacaEnMano.h"
+
+#include <array>
+
+class QLabel;
+class QTabWidget;
+class QVBoxLayout;
+
+namespace pastorix {
+
+class EncabezadoGanadero;
+class PaginaCiclos;
+class PaginaMamitis;
+class PaginaSanidad;
+
+// The sheet of cows: identity, cycles, health and removal. Farmer, code, name and tag stand above the tabs and stay in sight on all of them.
+class Vacas : public Ficha {
+public:
+    Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre = nullptr);
+
+    // Opens with a new cow of that farmer begun.
+    void AbrirParaAñadir(double idGanadero);
+    // The cow as other sheets see her while this one is open.
+    VacaEnMano EnMano() const;
+
+protected:
+    bool PermiteDejar() override;
+    bool PermiteAñadir() override;
+    bool PermiteModificar() override;
+    std::string CodigoPropuesto() override;
+    void AlAñadir() override;
+    void LimpiarPropios() override;
+    void MostrarPropios(Recordset& rs) override;
+    void NoEncontrado(double clave) override;
+    bool ComprobarMinimos() override;
+    bool Comprobar() override;
+    void EscribirPropios(Recordset& rs) override;
+    void EscribirHijos(double codigo) override;
+    void DespuesDeGuardar(double clave) override;
+    QString PreguntaEliminar() const override;
+    void Borrar(double clave) override;
+    void DespuesDeBorrar() override;
+    void BuscarDato(int icono) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void Construir();
+    QWidget* CrearCabecera();
+    QWidget* CrearGeneral();
+    QWidget* CrearDesecho();
+    QWidget* CrearPatologia();
+    void ConectarCiclos(OrdenesDeVaca ordenes);
+    void ConectarTeclas();
+    void AlCambiarDePestaña(int indice);
+    void MostrarPaginas();
+    void VaciarPaginas();
+    void VaciarTodo();
+    bool CodigoIntacto(); // false after its box, and the loaded code is back
+
+    void ElegirGanadero();
+    void ElegirVaca();
+    void ElegirPadre();
+    void ElegirMadre();
+    void ComponerNombre();
+    void AbrirObservaciones();
+
+    // Ear tag as a way to a cow.
+    void BuscarPorCrotal();
+    void Hojear(int paso);
+    void IrAVaca(double idVaca);
+    bool SoloElCrotalCambio() const;
+    QString Huella() const; // what stands in the fields, but for the tag
+
+    QTabWidget* m_tab;
+    EncabezadoGanadero* m_ganadero = nullptr;
+    PaginaCiclos* m_partos = nullptr;
+    PaginaCiclos* m_cubriciones = nullptr;
+    PaginaMamitis* m_mamitis = nullptr;
+    std::array<PaginaSanidad*, 3> m_sanidad{}; // C.C., IBR/BVD, Neospora: each saves itself
+    double m_mostrada = 0;                     // the cow that they show
+    QString m_huella;                          // as it was when the cow was read
+};
+
+} // namespace pastorix

@@ -1,0 +1,136 @@
+// The cow's sheet: its layout, and what its controls are bound to.
+#include "registers/EncabezadoGanadero.h"
+#include "registers/sanidad/PaginaCC.h"
+#include "registers/sanidad/PaginaIBR.h"
+#include "registers/sanidad/PaginaMamitis.h"
+#include "registers/sanidad/PaginaNeospora.h"
+#include "registers/vacas/CamposDeVaca.h"
+#include "registers/vacas/PaginaCiclos.h"
+#include "registers/vacas/Vacas.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace pastorix {
+
+using namespace campo_vaca;
+
+Vacas::Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre)
+    : Ficha(sesion, kFichaDeVaca, padre)
+    , m_tab(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("Vacas"));
+    m_tab->setObjectName(QStringLiteral("TabVacas"));
+    Barra()[BarraFicha::Eliminar]->setObjectName(QStringLiteral("B_Borrar"));
+    Construir();
+    ConectarCiclos(std::move(ordenes));
+    ConectarTeclas();
+    VaciarPaginas();
+    TerminarConstruccion(m_tab);
+}
+
+void Vacas::Construir() {
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(CrearCabecera());
+    todo->addWidget(m_tab, 1);
+    todo->addWidget(&Barra());
+    m_partos = new PaginaCiclos(Base(), kPartosDeVaca, m_tab);
+    m_cubriciones = new PaginaCiclos(Base(), kCubricionesDeVaca, m_tab);
+    m_mamitis = new PaginaMamitis(Base(), m_tab);
+    m_mamitis->PonerCuartosPerdidos(CrearRejilla(m_mamitis, hoja_vaca::Mamitis));
+    m_mamitis->puedeTocar = [this] { return Clave() != 0 || Editando(); };
+    m_mamitis->alTocar = [this] { EntrarEnModificar(); };
+    m_sanidad = {new PaginaCC(Base(), m_tab), new PaginaIBR(Base(), m_tab),
+                 new PaginaNeospora(Base(), m_tab)};
+    m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
+    m_tab->addTab(m_partos, QStringLiteral(" Partos "));
+    m_tab->addTab(m_cubriciones, QStringLiteral(" Cubriciones "));
+    m_tab->addTab(m_mamitis, QStringLiteral(" Mamitis "));
+    m_tab->addTab(m_sanidad[0], QStringLiteral(" C.C. "));
+    m_tab->addTab(CrearDesecho(), QStringLiteral(" Desecho "));
+    m_tab->addTab(CrearPatologia(), QStringLiteral(" Patología "));
+    m_tab->addTab(m_sanidad[1], QStringLiteral(" IBR/BVD "));
+    m_tab->addTab(m_sanidad[2], QStringLiteral(" Neospora "));
+    connect(m_tab, &QTabWidget::currentChanged, this, [this](int i) { AlCambiarDePestaña(i); });
+}
+
+QWidget* Vacas::CrearCabecera() {
+    auto* cabecera = new QWidget(this);
+    auto* todo = new QVBoxLayout(cabecera);
+    todo->setContentsMargins(0, 0, 0, 0);
+    m_ganadero = new EncabezadoGanadero(Base(), 1, cabecera);
+    m_ganadero->alBuscar = [this] { BuscarDato(1); };
+    auto* teclas = new QLabel(QStringLiteral("CTRL + E para Controles de Rebaño"), m_ganadero);
+    teclas->setEnabled(false);
+    m_ganadero->layout()->addWidget(teclas);
+    todo->addWidget(m_ganadero);
+    todo->addWidget(CrearRejilla(cabecera, hoja_vaca::Cabecera));
+    PonerIconoBusDato(0, Codigo);
+    Campo(FechaBaja).setReadOnly(true);
+    Campo(FechaBaja).setFocusPolicy(Qt::NoFocus);
+    Campo(FechaBaja).setPlaceholderText({});
+    Campo(Crotal).setToolTip(QStringLiteral(
+        "Intro busca el crotal; las flechas recorren los que acaban en las mismas cuatro cifras"));
+    return cabecera;
+}
+
+QWidget* Vacas::CrearGeneral() {
+    auto* general = new QWidget(m_tab);
+    auto* todo = new QVBoxLayout(general);
+    todo->addWidget(CrearRejilla(general, hoja_vaca::General));
+    PonerIconoBusDato(2, NombrePadre);
+    PonerIconoBusDato(3, NombreMadre);
+    todo->addStretch();
+    connect(&Combo("CD_Cularidad"), &QComboBox::activated, this, [this] { ComponerNombre(); });
+    connect(&Campo(Nombre), &QLineEdit::editingFinished, this, [this] { ComponerNombre(); });
+    return general;
+}
+
+QWidget* Vacas::CrearDesecho() {
+    auto* desecho = CrearRejilla(m_tab, hoja_vaca::Desecho);
+    Campo(campo_vaca::AñoRef).setReadOnly(true);
+    Campo(campo_vaca::AñoRef).setFocusPolicy(Qt::NoFocus);
+    return desecho;
+}
+
+QWidget* Vacas::CrearPatologia() {
+    return CrearRejilla(m_tab, hoja_vaca::Patologia);
+}
+
+void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
+    const auto conCiclo = [this](auto orden) -> std::function<void(const CicloDeVaca&)> {
+        if (!orden)
+            return {};
+        return [this, orden](const CicloDeVaca& ciclo) { orden(this, EnMano(), ciclo); };
+    };
+    const auto conVaca = [this](auto orden) -> std::function<void()> {
+        if (!orden)
+            return {};
+        return [this, orden] { orden(this, EnMano()); };
+    };
+    m_partos->FijarOrdenes(conCiclo(ordenes.abrirParto), conVaca(ordenes.añadirParto));
+    m_cubriciones->FijarOrdenes(conCiclo(ordenes.abrirCubricion), conVaca(ordenes.añadirCubricion));
+    for (auto* pagina : {m_partos, m_cubriciones})
+        pagina->puedeOperar = [this] {
+            return !Editando() ||
+                   Rechazar(QStringLiteral("Debe Guardar los cambios antes de efectuar esta operación"),
+                            m_tab);
+        };
+}
+
+void Vacas::ConectarTeclas() {
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
+            [this] { AbrirObservaciones(); });
+    for (int i = 0; i < m_tab->count(); ++i) {
+        const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
+        connect(new QShortcut(tecla, this), &QShortcut::activated, this,
+                [this, i] { m_tab->setCurrentIndex(i); });
+        m_tab->setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
+    }
+}
+
+} // namespace pastorix

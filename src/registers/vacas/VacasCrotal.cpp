@@ -1,0 +1,76 @@
+// The cow's sheet: the ear tag as a way to a cow. Enter looks a whole tag up, up and down go through the cows whose tags end alike. Typing a
+// tag begins a modification like any typing; as long as nothing else was touched it may still be meant as a search.
+#include "registers/vacas/Vacas.h"
+
+#include "frame/Mensajes.h"
+#include "registers/sanidad/PaginaMamitis.h"
+#include "registers/vacas/CamposDeVaca.h"
+#include "registers/vacas/Crotales.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+
+namespace pastorix {
+
+using namespace campo_vaca;
+
+QString Vacas::Huella() const {
+    QStringList todo;
+    for (const auto& c : kFichaDeVaca.campos)
+        if (c.indice != Crotal && c.columna)
+            todo << Texto(c.indice);
+    for (const auto& c : kFichaDeVaca.combos)
+        todo << Combo(c.nombre).currentText();
+    return todo.join(QChar(0x1f));
+}
+
+bool Vacas::SoloElCrotalCambio() const {
+    return Accion() == 2 && Huella() == m_huella && !m_mamitis->Pendiente();
+}
+
+void Vacas::IrAVaca(double idVaca) {
+    const bool abandonar = Editando() && !SoloElCrotalCambio();
+    if (abandonar && !Preguntar(this, QStringLiteral("Atención"),
+                                QStringLiteral("Hay cambios sin guardar. ¿Desea perderlos?")))
+        return;
+    if (idVaca != Clave() && !PermiteDejar())
+        return;
+    if (CargarFicha(idVaca))
+        Campo(Crotal).selectAll();
+}
+
+void Vacas::BuscarPorCrotal() {
+    if (Texto(Crotal).isEmpty())
+        return;
+    if (const auto vaca = VacaDeCrotal(Base(), TextoStd(Crotal)))
+        IrAVaca(*vaca);
+    else
+        Avisar(this, TipoMensaje::Informacion, QStringLiteral("Información"),
+               QStringLiteral("Crotal no encontrado"));
+}
+
+void Vacas::Hojear(int paso) {
+    if (Texto(Crotal).size() < kCrotalMinimo)
+        return;
+    if (const auto vaca = VecinaPorCrotal(Base(), TextoStd(Crotal), Clave(), paso))
+        IrAVaca(*vaca);
+}
+
+bool Vacas::eventFilter(QObject* objeto, QEvent* evento) {
+    // A cow that is being added has a new tag, which is nobody's yet.
+    if (evento->type() == QEvent::KeyPress && objeto == &Campo(Crotal) && Accion() != 1) {
+        const int tecla = static_cast<QKeyEvent&>(*evento).key();
+        const bool intro = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+        if (intro || tecla == Qt::Key_Up || tecla == Qt::Key_Down) {
+            try {
+                intro ? BuscarPorCrotal() : Hojear(tecla == Qt::Key_Up ? -1 : 1);
+            } catch (const ErrorAlmacen& e) {
+                Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+            }
+            return true;
+        }
+    }
+    return Ficha::eventFilter(objeto, evento);
+}
+
+} // namespace pastorix
