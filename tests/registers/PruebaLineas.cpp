@@ -140,6 +140,7 @@ private Q_SLOTS:
         rs.Delete();
         Recordset otro(b.c, "SELECT * FROM T_AlimentacionInvernal");
         otro.AddNew();
+        otro["Id_Ganadero"] = 1.0;
         EscribirLinea(otro, l.Lineas()[0], kColumnas);
         otro.Update();
         Recordset vuelto(b.c, "SELECT * FROM T_AlimentacionInvernal");
