@@ -157,8 +157,8 @@ bool Ganaderos::PermiteDejar() {
     if (pendientes.isEmpty())
         return true;
     if (!Preguntar(this, QStringLiteral("Atención"),
-                   QStringLiteral("Hay cambios sin guardar en ") + pendientes.join(QStringLiteral(", ")) +
-                       QStringLiteral(". ¿Desea perderlos?")))
+                   QStringLiteral("Hay cambios sin guardar en «") + pendientes.join(QStringLiteral("», «")) +
+                       QStringLiteral("». ¿Desea perderlos?")))
         return false;
     m_datos.Cancelar();
     return true;

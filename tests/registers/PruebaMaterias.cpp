@@ -228,7 +228,7 @@ private Q_SLOTS:
             p.cajas.Responder(si);
             QTest::keyClick(CampoDe(*p.ficha, 0), Qt::Key_Return);
             QCOMPARE(p.Caja(),
-                     QStringLiteral("Hay cambios sin guardar en Abon. y Superf.. ¿Desea perderlos?"));
+                     QStringLiteral("Hay cambios sin guardar en «Abon. y Superf.». ¿Desea perderlos?"));
             QCOMPARE(p.ficha->Clave(), si ? 14.0 : 12.0);
         }
         QVERIFY(nota().find("zz") == std::string::npos);
@@ -252,8 +252,9 @@ private Q_SLOTS:
         QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2019|1/1/21||/2020|1/1/20||/2021|1/1/21||"));
         p.cajas.Responder(false);
         p.ficha->close();
-        QCOMPARE(p.Caja(),
-                 QStringLiteral("Hay cambios sin guardar en Inicio Periodo Reproductivo. ¿Desea perderlos?"));
+        QCOMPARE(
+            p.Caja(),
+            QStringLiteral("Hay cambios sin guardar en «Inicio Periodo Reproductivo». ¿Desea perderlos?"));
         p.Romper("DROP INDEX roto");
         p.De<QPushButton>("B_GuardarIPR")->click();
         QCOMPARE(p.Texto("SELECT AñoNatural, IPRPrimNov, Blanco FROM T_IPR ORDER BY AñoNatural"),
