@@ -1,7 +1,7 @@
 #include "PuestoDeFichas.h"
 #include "prueba.h"
 
-#include "frame/calendario/Numeros.h"
+#include "frame/calendario/ErrorDeEjecucion.h"
 #include "registers/vacas/CodigoDeVaca.h"
 #include "registers/vacas/Crotales.h"
 #include "registers/vacas/ObsControlRebaño.h"
@@ -95,6 +95,15 @@ private Q_SLOTS:
         Cuadra p;
         Vacas f(p.sesion, {});
         Mostrar(f);
+        QVERIFY2(CampoDe(f, 0)->hasFocus(), qPrintable(QApplication::focusWidget()->objectName()));
+        QStringList orden; // reading order: what stands above the tabs, the tab in view, the buttons
+        for (int i = 0; i < 40; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            orden << QApplication::focusWidget()->objectName();
+        }
+        QCOMPARE(orden.mid(0, 7).join(QLatin1Char(' ')), QStringLiteral("IconoBusDato(0) CT_Estandar(1) CT_Estandar(7) qt_tabwidget_tabbar CT_Estandar(8) CT_Estandar(20) CT_Estandar(34)"));
+        QVERIFY(orden.indexOf(QStringLiteral("B_Añadir")) > orden.indexOf(QStringLiteral("CT_Estandar(19)")));
+        CampoDe(f, 0)->setFocus();
         QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHILMNOPRSTUZ"));
         BotonDe(f, "B_Añadir")->click();
         QCOMPARE(p.Caja(), QStringLiteral("Seleccione el Ganadero al que pretende añadir una Vaca."));
@@ -291,15 +300,22 @@ private Q_SLOTS:
         Teclear(f, 0, "1200001");
         Pulsar(CampoDe(f, 0), Qt::Key_Return);
         const auto anotar = [&](const char* nota, int chequeo) {
-            QTimer::singleShot(0, &f, [&f, nota, chequeo] {
+            QTimer reloj; // the window comes up in a loop of its own
+            QObject::connect(&reloj, &QTimer::timeout, &f, [&] {
                 auto* d = f.findChild<QDialog*>(QStringLiteral("ObsControlRebaño"));
-                d->findChild<QPlainTextEdit*>()->setPlainText(QString::fromUtf8(nota));
-                d->findChild<QPlainTextEdit*>()->document()->setModified(true);
+                if (!d)
+                    return;
+                reloj.stop();
+                d->findChild<QPlainTextEdit*>()->selectAll();
+                d->findChild<QPlainTextEdit*>()->insertPlainText(QString::fromUtf8(nota));
                 d->findChild<QComboBox*>()->setCurrentIndex(chequeo);
                 BotonDe(*d, "B_Aceptar")->click();
                 if (d->isVisible())
                     BotonDe(*d, "B_Cancelar")->click();
             });
+            reloj.start(1);
+            f.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&f));
             QTest::keyClick(&f, Qt::Key_E, Qt::ControlModifier);
         };
         const auto guardado = [&] {

@@ -1,6 +1,6 @@
 #include "registers/vacas/CodigoDeVaca.h"
 
-#include "frame/calendario/Numeros.h"
+#include "frame/calendario/ErrorDeEjecucion.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
 

@@ -30,7 +30,12 @@ Vacas::Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre)
     ConectarCiclos(std::move(ordenes));
     ConectarTeclas();
     VaciarPaginas();
-    TerminarConstruccion(m_tab);
+    setTabOrder(&Campo(Crotal), m_tab);
+    QWidget* ultimo = m_tab;
+    for (auto* w = m_tab->nextInFocusChain(); w != m_tab; w = w->nextInFocusChain())
+        if (m_tab->isAncestorOf(w))
+            ultimo = w;
+    TerminarConstruccion(ultimo);
 }
 
 void Vacas::Construir() {
