@@ -138,15 +138,16 @@ private Q_SLOTS:
         };
         valores(2022, 3, 2.25);
         valores(2022, 3, 9.0); // repeated: the first one shows
+        valores(2023, {}, 1.5);
         valores(2019, 1, 3.0); // its mating record is gone
         auto datos = LeerAsunto(p.sesion.conexion, kCondicionCorporal, kVaca.idVaca);
         QCOMPARE(Celdas(datos.ciclos),
-                 std::string("2023|4||||||||/2023|||||||||/2022|3|04/01/22|2,25|||05/06/22|||"));
+                 std::string("2023|4||||||||/2023|||1,5||||||/2022|3|04/01/22|2,25|||05/06/22|||"));
         QCOMPARE(Celdas(LeerAsunto(p.sesion.conexion, kIBRBVD, kVaca.idVaca).ciclos),
                  std::string("2023|4||||/2023|||||/2022|3|04/01/22|02/05/22||"));
         GuardarAsunto(p.sesion.conexion, kCondicionCorporal, kVaca, datos);
         QCOMPARE(p.Texto("SELECT Id_Ganadero, AñoRef, NumParto, CCParto, MobReservas FROM T_CCVacas"),
-                 std::string("12|2023|4|-|-/12|2023|-|-|-/12|2022|3|2,25|-"));
+                 std::string("12|2023|4|-|-/12|2023|-|1,5|-/12|2022|3|2,25|-"));
     }
 
     // One table, the observation, the other table; what fails leaves what was done before it.

@@ -12,12 +12,14 @@ namespace pastorix {
 
 namespace {
 
-using Ciclo = std::pair<double, double>; // reference year and parity
+// Reference year and parity. A mating record may have no parity; what was stored for it has none either.
+using Ciclo = std::pair<std::optional<double>, std::optional<double>>;
 
-std::optional<Ciclo> CicloDe(Recordset& rs, const char* año, const char* parto) {
-    if (rs[año].Nulo() || rs[parto].Nulo())
-        return std::nullopt; // belongs to no mating record
-    return Ciclo{rs[año].Numero(), rs[parto].Numero()};
+Ciclo CicloDe(Recordset& rs, const char* año, const char* parto) {
+    const auto numero = [&](const char* campo) {
+        return rs[campo].Nulo() ? std::nullopt : std::optional(rs[campo].Numero());
+    };
+    return {numero(año), numero(parto)};
 }
 
 // What each cycle shows of another table: the first row that the order gives for it.
@@ -31,8 +33,7 @@ std::map<Ciclo, std::string> DatosDeCiclos(Conexion& c, DatoDeCiclo dato, const 
                  Cursor::Estatico, Bloqueo::SoloLectura);
     std::map<Ciclo, std::string> datos;
     for (; !rs.Eof(); rs.Siguiente())
-        if (const auto ciclo = CicloDe(rs, "Año_Ref", "N_Parto"))
-            datos.emplace(*ciclo, rs[campo].Texto());
+        datos.emplace(CicloDe(rs, "Año_Ref", "N_Parto"), rs[campo].Texto());
     return datos;
 }
 
@@ -44,9 +45,9 @@ std::map<Ciclo, std::vector<Valor>> ValoresDeCiclos(Conexion& c, const TablaDeCi
     std::map<Ciclo, std::vector<Valor>> todos;
     for (; !rs.Eof(); rs.Siguiente()) {
         const auto ciclo = CicloDe(rs, "AñoRef", "NumParto");
-        if (!ciclo || todos.contains(*ciclo))
+        if (todos.contains(ciclo))
             continue;
-        auto& valores = todos[*ciclo];
+        auto& valores = todos[ciclo];
         for (const auto& columna : tabla.columnas)
             valores.push_back(columna.columna ? rs[columna.columna].Leer() : Valor());
     }
@@ -65,17 +66,15 @@ std::vector<Linea> LeerCiclos(Conexion& c, const TablaDeCiclo& tabla, const std:
         auto& linea = lineas.emplace_back();
         linea.leidos.resize(tabla.columnas.size());
         const auto ciclo = CicloDe(rs, "Año_Ref", "N_Parto");
-        if (ciclo)
-            if (const auto it = valores.find(*ciclo); it != valores.end())
-                linea.leidos = it->second;
+        if (const auto it = valores.find(ciclo); it != valores.end())
+            linea.leidos = it->second;
         linea.leidos[0] = rs["Año_Ref"].Leer();
         linea.leidos[1] = rs["N_Parto"].Leer();
         for (const auto& valor : linea.leidos)
             linea.celdas.push_back(TextoDe(valor));
         linea.celdas[2] = rs["Fecha_Parto"].Texto();
-        if (ciclo)
-            if (const auto it = datos.find(*ciclo); it != datos.end())
-                linea.celdas[tabla.columnaDato] = it->second;
+        if (const auto it = datos.find(ciclo); it != datos.end())
+            linea.celdas[tabla.columnaDato] = it->second;
     }
     return lineas;
 }
