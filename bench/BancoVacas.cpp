@@ -45,7 +45,8 @@ struct Cuadra {
             }
             for (const char* tabla : {"T_CCVacas", "T_R_IBRBVD", "T_R_NEOSPIROSIS"}) {
                 Recordset rs(c, std::string("SELECT * FROM ") + tabla);
-                for (Recordset cub(c, "SELECT Id_Vaca, Año_Ref, N_Parto FROM T_Cubriciones"); !cub.Eof(); cub.Siguiente()) {
+                for (Recordset cub(c, "SELECT Id_Vaca, Año_Ref, N_Parto FROM T_Cubriciones"); !cub.Eof();
+                     cub.Siguiente()) {
                     rs.AddNew();
                     rs["Id_Ganadero"] = 12.0;
                     rs["Id_Vaca"] = cub[0].Leer();
@@ -96,14 +97,17 @@ void CargarVacaDirecto(benchmark::State& estado) {
     double vaca = kUna;
     for (auto _ : estado) {
         vaca = vaca == kUna ? kOtra : kUna;
-        for (const char* sql : {"SELECT * FROM T_Vacas WHERE Id_Vaca = ?", "SELECT * FROM T_Ganaderos WHERE Id_Ganadero = 12 AND ?",
-                                "SELECT * FROM T_Cubriciones WHERE Id_Vaca = ? ORDER BY Año_Ref DESC, N_Parto DESC",
-                                "SELECT * FROM T_Partos WHERE Id_Vaca = ? ORDER BY N_Parto DESC",
-                                "SELECT * FROM T_Servicios WHERE Id_Vaca = ? ORDER BY N_Servicio DESC",
-                                "SELECT * FROM T_Mamitis WHERE Id_Vaca = ?", "SELECT * FROM T_MAMIVACU WHERE Id_Vaca = ?",
-                                "SELECT * FROM T_CCVacas WHERE Id_Vaca = ?", "SELECT * FROM T_CCNATVACAS WHERE Id_Vaca = ?",
-                                "SELECT * FROM T_IBRBVD WHERE Id_Vaca = ?", "SELECT * FROM T_R_IBRBVD WHERE Id_Vaca = ?",
-                                "SELECT * FROM T_NEOSPIROSIS WHERE Id_Vaca = ?", "SELECT * FROM T_R_NEOSPIROSIS WHERE Id_Vaca = ?"}) {
+        for (const char* sql :
+             {"SELECT * FROM T_Vacas WHERE Id_Vaca = ?",
+              "SELECT * FROM T_Ganaderos WHERE Id_Ganadero = 12 AND ?",
+              "SELECT * FROM T_Cubriciones WHERE Id_Vaca = ? ORDER BY Año_Ref DESC, N_Parto DESC",
+              "SELECT * FROM T_Partos WHERE Id_Vaca = ? ORDER BY N_Parto DESC",
+              "SELECT * FROM T_Servicios WHERE Id_Vaca = ? ORDER BY N_Servicio DESC",
+              "SELECT * FROM T_Mamitis WHERE Id_Vaca = ?", "SELECT * FROM T_MAMIVACU WHERE Id_Vaca = ?",
+              "SELECT * FROM T_CCVacas WHERE Id_Vaca = ?", "SELECT * FROM T_CCNATVACAS WHERE Id_Vaca = ?",
+              "SELECT * FROM T_IBRBVD WHERE Id_Vaca = ?", "SELECT * FROM T_R_IBRBVD WHERE Id_Vaca = ?",
+              "SELECT * FROM T_NEOSPIROSIS WHERE Id_Vaca = ?",
+              "SELECT * FROM T_R_NEOSPIROSIS WHERE Id_Vaca = ?"}) {
             sqlite3_stmt* p = nullptr;
             if (sqlite3_prepare_v2(s, sql, -1, &p, nullptr) != SQLITE_OK) {
                 estado.SkipWithError(sqlite3_errmsg(s));

@@ -101,7 +101,9 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             orden << QApplication::focusWidget()->objectName();
         }
-        QCOMPARE(orden.mid(0, 7).join(QLatin1Char(' ')), QStringLiteral("IconoBusDato(0) CT_Estandar(1) CT_Estandar(7) qt_tabwidget_tabbar CT_Estandar(8) CT_Estandar(20) CT_Estandar(34)"));
+        QCOMPARE(orden.mid(0, 7).join(QLatin1Char(' ')),
+                 QStringLiteral("IconoBusDato(0) CT_Estandar(1) CT_Estandar(7) qt_tabwidget_tabbar "
+                                "CT_Estandar(8) CT_Estandar(20) CT_Estandar(34)"));
         QVERIFY(orden.indexOf(QStringLiteral("B_Añadir")) > orden.indexOf(QStringLiteral("CT_Estandar(19)")));
         CampoDe(f, 0)->setFocus();
         QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHILMNOPRSTUZ"));

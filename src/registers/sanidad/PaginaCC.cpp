@@ -1,0 +1,33 @@
+#include "registers/sanidad/PaginaCC.h"
+
+#include "registers/sanidad/AsuntosSanidad.h"
+
+namespace pastorix {
+
+namespace {
+
+const DefinicionLineas kNaturales{"GridCC_Nat",
+                                  "Condición corporal por año natural",
+                                  kCondicionCorporal.natural.columnas,
+                                  true,
+                                  0,
+                                  true,
+                                  "Debe incluir un año natural",
+                                  "El año: ",
+                                  " ya está incluido en la lista",
+                                  "Atención!!!",
+                                  "Eliminar el Año Natural: ",
+                                  "Confirme"};
+
+const DefinicionLineas kCiclos{"GridCC", "Condición corporal por cubrición",
+                               kCondicionCorporal.ciclo.columnas, false};
+
+const DefinicionPagina kPagina{"C.C.", kCondicionCorporal, kNaturales,    kCiclos,        "",     3, 8,
+                               false,  "CT_ObsCC",         "B_GuardarCC", "B_CancelarCC", nullptr};
+
+} // namespace
+
+PaginaCC::PaginaCC(Conexion& base, QWidget* padre)
+    : PaginaAsunto(base, kPagina, padre) {}
+
+} // namespace pastorix

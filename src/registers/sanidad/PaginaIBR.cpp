@@ -1,0 +1,34 @@
+#include "registers/sanidad/PaginaIBR.h"
+
+#include "registers/sanidad/AsuntosSanidad.h"
+
+namespace pastorix {
+
+namespace {
+
+const DefinicionLineas kNaturales{"GridIBR",
+                                  "IBR y BVD por año natural",
+                                  kIBRBVD.natural.columnas,
+                                  true,
+                                  0,
+                                  true,
+                                  "Debe incluir un año natural",
+                                  "El año: ",
+                                  " ya está incluido en la lista",
+                                  "Atención!!!",
+                                  "Eliminar Año Natural: ",
+                                  "Confirme"};
+
+const DefinicionLineas kCiclos{"GridIBR_R", "IBR y BVD por cubrición", kIBRBVD.ciclo.columnas, false};
+
+constexpr std::size_t kVacunas[] = {1, 4};
+
+const DefinicionPagina kPagina{"IBR/BVD",   kIBRBVD,        kNaturales,      kCiclos,    "",      7, 5, true,
+                               "CT_ObsIBR", "B_GuardarIBR", "B_CancelarIBR", "IBR, BVD", kVacunas};
+
+} // namespace
+
+PaginaIBR::PaginaIBR(Conexion& base, QWidget* padre)
+    : PaginaAsunto(base, kPagina, padre) {}
+
+} // namespace pastorix

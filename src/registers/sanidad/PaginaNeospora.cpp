@@ -1,0 +1,34 @@
+#include "registers/sanidad/PaginaNeospora.h"
+
+#include "registers/sanidad/AsuntosSanidad.h"
+
+namespace pastorix {
+
+namespace {
+
+const DefinicionLineas kNaturales{"Grid_Lep",
+                                  "Neospora por año natural",
+                                  kNeospora.natural.columnas,
+                                  true,
+                                  0,
+                                  true,
+                                  "Debe incluir un año natural",
+                                  "El año: ",
+                                  " ya está incluido en la lista",
+                                  "Atención!!!",
+                                  "Eliminar el Año Natural: ",
+                                  "Confirme"};
+
+const DefinicionLineas kCiclos{"Grid_Lep_R", "Neospora por cubrición", kNeospora.ciclo.columnas, false};
+
+constexpr std::size_t kVacunas[] = {1};
+
+const DefinicionPagina kPagina{"Neospora", kNeospora,   kNaturales, kCiclos,  "Leptospirosis", 1,       1,
+                               true,       "Ct_ObsLep", "B_GLep",   "B_CLep", "NEOSPORA",      kVacunas};
+
+} // namespace
+
+PaginaNeospora::PaginaNeospora(Conexion& base, QWidget* padre)
+    : PaginaAsunto(base, kPagina, padre) {}
+
+} // namespace pastorix

@@ -1,0 +1,33 @@
+#include "registers/sanidad/PaginaSanidad.h"
+
+#include "frame/Mensajes.h"
+
+namespace pastorix {
+
+PaginaSanidad::PaginaSanidad(Conexion& base, QWidget* padre)
+    : QWidget(padre)
+    , m_base(base) {}
+
+void PaginaSanidad::Refrescar() {
+    if (!Pendiente())
+        Mostrar(m_vaca);
+}
+
+bool PaginaSanidad::Intentar(const std::function<void()>& accion) {
+    try {
+        EnGrupo(m_base, accion);
+        return true;
+    } catch (const std::exception& e) {
+        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+        return false;
+    }
+}
+
+QStringList ComoItems(const std::vector<std::string>& lista) {
+    QStringList items;
+    for (const auto& texto : lista)
+        items << QString::fromStdString(texto);
+    return items;
+}
+
+} // namespace pastorix
