@@ -69,12 +69,12 @@ void Intro(QWidget& pagina, const char* nombre) {
     Control(pagina, nombre)->setFocus();
     QTest::keyClick(Control(pagina, nombre), Qt::Key_Return);
 }
-void Linea_(QWidget& pagina, const char* grid, int fila) {
+void ElegirLinea(QWidget& pagina, const char* grid, int fila) {
     Grid(pagina, grid)->setCurrentCell(fila, 1);
     Q_EMIT Grid(pagina, grid)->cellClicked(fila, 1);
 }
 void Borrar(QWidget& pagina, const char* grid, int fila) {
-    Linea_(pagina, grid, fila);
+    ElegirLinea(pagina, grid, fila);
     Grid(pagina, grid)->setFocus();
     QTest::keyClick(Grid(pagina, grid), Qt::Key_Delete);
 }
@@ -100,7 +100,7 @@ private Q_SLOTS:
         pagina.Mostrar(kVaca);
         QVERIFY(!BotonDe(pagina, "B_GuardarCC")->isEnabled() && !pagina.Pendiente());
         QVERIFY(!Control(pagina, "Ct_CC(0)")->isEnabled()); // until a line is chosen
-        Linea_(pagina, "GridCC", 1);
+        ElegirLinea(pagina, "GridCC", 1);
         QCOMPARE(pagina.findChild<QComboBox*>(QStringLiteral("Cd_CC"))->currentText(),
                  QStringLiteral("Poca"));
         Entrar(pagina, "Ct_CC(0)", "2,25x");
@@ -119,14 +119,14 @@ private Q_SLOTS:
         QCOMPARE(Grid(pagina, "GridCC_Nat")->item(0, 0)->text(), QStringLiteral("2025"));
         QCOMPARE(Grid(pagina, "GridCC")->item(1, 3)->text(), QString());
 
-        Linea_(pagina, "GridCC", 1);
+        ElegirLinea(pagina, "GridCC", 1);
         Entrar(pagina, "Ct_CC(0)", "3"); // not put into the list yet: the save does
         BotonDe(pagina, "B_GuardarCC")->click();
         QCOMPARE(
             g.Texto("SELECT Id_Ganadero, AñoRef, CCParto, MobReservas, CCnov FROM T_CCVacas ORDER BY AñoRef"),
             std::string("12|2022|3|Poca|-/12|2023|-|-|-"));
         QVERIFY(!BotonDe(pagina, "B_GuardarCC")->isEnabled());
-        Linea_(pagina, "GridCC", 0); // and is no choice for another line
+        ElegirLinea(pagina, "GridCC", 0); // and is no choice for another line
         QCOMPARE(pagina.findChild<QComboBox*>(QStringLiteral("Cd_CC"))->findText(QStringLiteral("Poca")), -1);
         QCOMPARE(Mnemonicos(pagina), QString()); // the letters are the sheet's
     }
@@ -228,7 +228,7 @@ private Q_SLOTS:
         Mostrar(pagina);
         pagina.Mostrar(kVaca);
         const auto* vibr = pagina.findChild<QComboBox*>(QStringLiteral("Cd_VIBR"));
-        Linea_(pagina, "GridIBR", 0);
+        ElegirLinea(pagina, "GridIBR", 0);
         QCOMPARE(vibr->itemText(1) + vibr->itemText(2),
                  QStringLiteral("09/05/2604/03/26")); // in the farm's order
         Entrar(pagina, "Cd_VIBR", "04/03/26");
@@ -251,7 +251,7 @@ private Q_SLOTS:
         pagina.Mostrar(kVaca);
         Entrar(pagina, "Ct_Lep", "2026");
         Intro(pagina, "Cd_LepBp");
-        Linea_(pagina, "Grid_Lep_R", 0);
+        ElegirLinea(pagina, "Grid_Lep_R", 0);
         Entrar(pagina, "CT_LEPR", "ConvSp");
         Intro(pagina, "CT_LEPR");
         Anotar(pagina, "Ct_ObsLep", "d'aldea");
@@ -303,7 +303,7 @@ private Q_SLOTS:
         Teclear(pagina, 30, "D'un golpe");
         QTest::keyClick(CampoDe(pagina, 30), Qt::Key_Tab);
         QVERIFY(campo->hasFocus());
-        Linea_(pagina, "GridMamitis", 0);
+        ElegirLinea(pagina, "GridMamitis", 0);
         Entrar(pagina, "Ct_CP(0)", "Sí");
         QTest::keyClick(Control(pagina, "Ct_CP(0)"), Qt::Key_Return);
         Entrar(pagina, "Ct_CP(1)", "1");
@@ -320,6 +320,10 @@ private Q_SLOTS:
         pagina.Mostrar(kVaca);
         QVERIFY(!pagina.Pendiente());
         QVERIFY(qobject_cast<QAbstractButton*>(Control(pagina, "ImgNulo(4)"))->isChecked());
+        ElegirLinea(pagina, "GridMamitis", 0);
+        Entrar(pagina, "Ct_CP(1)", "2"); // not put into the list yet: the save does
+        pagina.EscribirHijos(kVaca.idVaca);
+        QCOMPARE(g.Texto("SELECT CuartosPerdidos FROM T_Partos"), std::string("2/2"));
     }
 };
 
