@@ -160,15 +160,20 @@ void LineasEditables::CrearFranja() {
     franja->addStretch();
     m_estado = new QLabel(this);
     m_estado->setEnabled(false);
-    franja->addWidget(m_estado, 0, Qt::AlignBottom);
     const bool altas = m_definicion.conAltas;
     m_poner =
         boton("aceptar", QStringLiteral("Poner en la lista (Intro)"), true, &LineasEditables::Confirmar);
     m_nueva = boton("anadir", QStringLiteral("Línea nueva (Insert)"), altas, &LineasEditables::Nueva);
     m_quitar = boton("eliminar", QStringLiteral("Eliminar línea (Supr)"), altas, &LineasEditables::Quitar);
-    franja->addWidget(m_poner, 0, Qt::AlignBottom);
-    franja->addWidget(m_nueva, 0, Qt::AlignBottom);
-    franja->addWidget(m_quitar, 0, Qt::AlignBottom);
+    auto* botones = new QHBoxLayout;
+    botones->setSpacing(2);
+    for (auto* b : {m_poner, m_nueva, m_quitar})
+        botones->addWidget(b);
+    auto* mandos = new QVBoxLayout; // as high as a field with its caption
+    mandos->setSpacing(1);
+    mandos->addWidget(m_estado, 0, Qt::AlignRight);
+    mandos->addLayout(botones);
+    franja->addLayout(mandos);
     static_cast<QVBoxLayout*>(layout())->addLayout(franja);
 }
 

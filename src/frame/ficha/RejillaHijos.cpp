@@ -22,6 +22,7 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
     setAlternatingRowColors(true);
     setTabKeyNavigation(false); // Tab goes on to the next control
     verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 8);
     for (int i = 0; i < columnCount(); ++i)
         setColumnHidden(i, columnas[static_cast<std::size_t>(i)].caracteres == 0);
     connect(this, &QTableWidget::itemSelectionChanged, this, [this] {

@@ -74,6 +74,8 @@ bool Vacas::CodigoIntacto() {
 
 void Vacas::LimpiarPropios() {
     m_huella.clear();
+    if (Clave() == 0)
+        VaciarPaginas(); // what was typed there for a cow that is not to be
 }
 
 void Vacas::MostrarPropios(Recordset& rs) {

@@ -36,6 +36,7 @@ Vacas::Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre)
         if (m_tab->isAncestorOf(w))
             ultimo = w;
     TerminarConstruccion(ultimo);
+    resize(1180, 620); // of 1280 x 720 it leaves the frame its menu
 }
 
 void Vacas::Construir() {
