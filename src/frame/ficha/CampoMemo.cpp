@@ -1,5 +1,7 @@
 #include "frame/ficha/CampoMemo.h"
 
+#include <QSignalBlocker>
+
 namespace pastorix {
 
 CampoMemo::CampoMemo(QWidget* padre)
@@ -8,6 +10,7 @@ CampoMemo::CampoMemo(QWidget* padre)
 }
 
 void CampoMemo::Poner(const std::string& texto) {
+    const QSignalBlocker silencio(this); // a text that is shown is no change of it
     m_original = texto;
     setPlainText(QString::fromStdString(texto));
     document()->setModified(false);

@@ -128,7 +128,10 @@ void Ficha::EscribirCampos(Recordset& rs) {
             rs[c.columna] = Valor();
     }
     for (const auto& c : m_definicion.combos) {
-        const auto texto = Combo(c.nombre).currentText().toStdString();
+        const auto& combo = Combo(c.nombre);
+        if (!combo.isEditable() && combo.currentIndex() == combo.property(kAlLeer).toInt())
+            continue;
+        const auto texto = combo.currentText().toStdString();
         rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
     }
 }
