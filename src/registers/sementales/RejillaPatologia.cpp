@@ -85,6 +85,8 @@ RejillaPatologia::RejillaPatologia(const DefinicionPatologia& definicion, QWidge
         const auto& c = definicion.columnas[i];
         titulos << QString::fromUtf8(c.titulo);
         setColumnWidth(static_cast<int>(i), fontMetrics().averageCharWidth() * (c.caracteres + 2));
+        if (c.clase == ClaseCampo::Texto)
+            horizontalHeader()->setSectionResizeMode(static_cast<int>(i), QHeaderView::Stretch);
         for (const char* valor : c.lista)
             m_listas[i] << QString::fromUtf8(valor);
     }
@@ -94,6 +96,7 @@ RejillaPatologia::RejillaPatologia(const DefinicionPatologia& definicion, QWidge
     setSelectionMode(SingleSelection);
     setAlternatingRowColors(true);
     setTabKeyNavigation(false); // from a cell that is not being edited, Tab leaves the grid
+    horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 10);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(QComboBox().sizeHint().height());
     connect(this, &QTableWidget::cellClicked, this,

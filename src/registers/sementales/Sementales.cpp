@@ -28,6 +28,7 @@ Sementales::Sementales(Sesion& sesion, QWidget* padre)
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
     m_tab->addTab(CrearPatologias(), QStringLiteral(" Patologías "));
     m_tab->addTab(CrearBaja(), QStringLiteral(" Baja "));
+    ConectarTeclas();
     OrdenarTabulador();
     Conectar();
     MostrarGanadero({});

@@ -47,6 +47,7 @@ private:
     QWidget* CrearPatologias();
     QWidget* CrearBaja();
     QWidget* CrearObservaciones(QWidget* padre);
+    void ConectarTeclas();
     void OrdenarTabulador();
     void Conectar();
 

@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -23,6 +24,7 @@ QLabel* Seccion(const char* texto, QWidget* padre) {
     auto fuente = rotulo->font();
     fuente.setBold(true);
     rotulo->setFont(fuente);
+    rotulo->setContentsMargins(0, 6, 0, 0);
     return rotulo;
 }
 
@@ -86,6 +88,7 @@ QWidget* Sementales::CrearObservaciones(QWidget* padre) {
     Rejilla()->addWidget(rotulo, 0, 0, 1, 2);
     Rejilla()->addWidget(&Memo(kObsPatologia), 1, 0, 1, 2);
     auto* botones = new QHBoxLayout;
+    botones->setSpacing(6);
     botones->addStretch();
     std::size_t i = 0;
     for (const auto& [nombre, texto, orden] :
@@ -108,6 +111,7 @@ QWidget* Sementales::CrearBaja() {
     auto* caja = CrearRejilla(baja, 3);
     caja->setMaximumWidth(fontMetrics().averageCharWidth() * 110);
     todo->addWidget(caja);
+    Combo("CD_CBaja").setMaximumWidth(fontMetrics().averageCharWidth() * 34);
     auto* rotulo = new QLabel(QStringLiteral("Otra Causa"), caja);
     m_otraCausa = new CampoTexto(ClaseCampo::Texto, 255, caja);
     m_otraCausa->setObjectName(QStringLiteral("CtextoBaja"));
@@ -119,6 +123,16 @@ QWidget* Sementales::CrearBaja() {
     connect(m_otraCausa, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
     todo->addStretch();
     return baja;
+}
+
+// Ctrl and the tab's number bring it up.
+void Sementales::ConectarTeclas() {
+    for (int i = 0; i < m_tab->count(); ++i) {
+        const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
+        connect(new QShortcut(tecla, this), &QShortcut::activated, this,
+                [this, i] { m_tab->setCurrentIndex(i); });
+        m_tab->setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
+    }
 }
 
 // Reading order, whatever order the controls were made in.
