@@ -16,15 +16,15 @@ namespace pastorix {
 
 Ciclo::Ciclo(QWidget* padre, const QString& texto)
     : QDialog(padre, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    , m_rotulo(new QLabel(texto, this))
     , m_porcentaje(new QLabel(this))
     , m_barra(new QProgressBar(this)) {
     setObjectName(QStringLiteral("Ciclo"));
     setWindowTitle(QStringLiteral("Pastorix"));
     setWindowModality(Qt::ApplicationModal);
 
-    auto* rotulo = new QLabel(texto, this);
-    rotulo->setObjectName(QStringLiteral("Ct_Estandar"));
-    rotulo->setTextFormat(Qt::PlainText);
+    m_rotulo->setObjectName(QStringLiteral("Ct_Estandar"));
+    m_rotulo->setTextFormat(Qt::PlainText);
     m_barra->setObjectName(QStringLiteral("PBar"));
     m_barra->setRange(0, 100);
     m_barra->setTextVisible(false);
@@ -35,7 +35,7 @@ Ciclo::Ciclo(QWidget* padre, const QString& texto)
     auto* columna = new QVBoxLayout(this);
     columna->setContentsMargins(20, 16, 20, 16);
     columna->setSpacing(8);
-    columna->addWidget(rotulo);
+    columna->addWidget(m_rotulo);
     columna->addWidget(m_barra);
     columna->addWidget(m_porcentaje);
     setMinimumWidth(360);
@@ -52,6 +52,11 @@ void Ciclo::Avance(int hecho, int total) {
     // The work runs on this very thread: let the window be drawn, but take no input that would start something else.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     repaint();
+}
+
+void Ciclo::Rotular(const QString& texto) {
+    m_rotulo->setText(texto);
+    m_barra->setAccessibleName(texto);
 }
 
 void Ciclo::keyPressEvent(QKeyEvent* evento) {
@@ -72,6 +77,12 @@ void CicloTardio::Avance(int hecho, int total) {
     }
     if (m_ciclo)
         m_ciclo->Avance(hecho, total);
+}
+
+void CicloTardio::Rotular(const QString& texto) {
+    m_texto = texto;
+    if (m_ciclo)
+        m_ciclo->Rotular(texto);
 }
 
 FuncionAvance AvanceTardio(QWidget* padre, const QString& texto) {

@@ -22,11 +22,14 @@ public:
 
     // Takes hecho of total as whole per cent, halves to even; what rounds to 0 is shown as 1.
     void Avance(int hecho, int total);
+    // Another text; it is seen with the next Avance.
+    void Rotular(const QString& texto);
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
 
 private:
+    QLabel* m_rotulo;
     QLabel* m_porcentaje;
     QProgressBar* m_barra;
     int m_mostrado = -1;
@@ -37,6 +40,7 @@ class CicloTardio {
 public:
     CicloTardio(QWidget* padre, QString texto);
     void Avance(int hecho, int total);
+    void Rotular(const QString& texto);
 
 private:
     QWidget* m_padre;

@@ -49,6 +49,8 @@ constexpr CampoDireccion kDireccion[] = {{"Direccion", 4},  {"Complemento", 5}, 
 
 constexpr int kFechaBaja = 13;
 
+enum Tab { kTabCebo = 1, kTabIPR, kTabManejo };
+
 constexpr DefinicionFicha kDefinicion{"Ganaderos",
                                       "CT_Estandar",
                                       "T_Ganaderos",
@@ -63,6 +65,7 @@ constexpr DefinicionFicha kDefinicion{"Ganaderos",
 
 Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     : Ficha(sesion, kDefinicion, padre)
+    , m_datos(sesion.conexion)
     , m_tab(new QTabWidget(this))
     , m_encabezado(new QLabel(this)) {
     setObjectName(QStringLiteral("Ganaderos"));
@@ -81,10 +84,11 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     todo->addWidget(m_encabezado);
     todo->addWidget(m_tab);
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
-    for (const char* tab : {" Cebo ", " Inicio Periodo Reproductivo ", " Manejo "}) {
-        const int i = m_tab->addTab(new QWidget(m_tab), QString::fromUtf8(tab));
-        m_tab->setTabEnabled(i, false); // their sub-sheets are yet to come
-    }
+    m_tab->addTab(new QWidget(m_tab), QStringLiteral(" Cebo "));
+    m_tab->addTab(m_datos.CrearIPR(m_tab), QStringLiteral(" Inicio Periodo Reproductivo "));
+    m_tab->addTab(m_datos.CrearManejo(m_tab), QStringLiteral(" Manejo "));
+    m_tab->setTabEnabled(kTabCebo, false); // its list is yet to come
+    PonerPestañas();
     LlenarVeterinarios();
     RefrescarEncabezado();
     TerminarConstruccion(m_bajas[1]);
@@ -140,6 +144,26 @@ QWidget* Ganaderos::CrearGeneral() {
     return general;
 }
 
+// The farm's data are those of a farmer that is in the database: none while one is being added.
+void Ganaderos::PonerPestañas() {
+    const double ganadero = Accion() == 1 ? 0 : Clave();
+    for (const int i : {kTabIPR, kTabManejo})
+        m_tab->setTabEnabled(i, ganadero != 0);
+    m_datos.FijarGanadero(ganadero);
+}
+
+bool Ganaderos::PermiteDejar() {
+    const auto pendientes = m_datos.Pendientes();
+    if (pendientes.isEmpty())
+        return true;
+    if (!Preguntar(this, QStringLiteral("Atención"),
+                   QStringLiteral("Hay cambios sin guardar en «") + pendientes.join(QStringLiteral("», «")) +
+                       QStringLiteral("». ¿Desea perderlos?")))
+        return false;
+    m_datos.Cancelar();
+    return true;
+}
+
 void Ganaderos::LlenarVeterinarios() {
     for (Recordset rs(Base(), "Select * FROM T_Veterinarios ORDER BY NombreVet"); !rs.Eof(); rs.Siguiente()) {
         m_veterinarios->addItem(
@@ -161,6 +185,7 @@ void Ganaderos::LimpiarPropios() {
     m_motivoBaja.clear();
     for (auto* b : m_bajas)
         b->setEnabled(false);
+    PonerPestañas();
 }
 
 void Ganaderos::MostrarPropios(Recordset& rs) {
@@ -177,6 +202,7 @@ void Ganaderos::MostrarPropios(Recordset& rs) {
         m_torosComun->findText(QString::fromStdString(rs["TorosComun"].Texto()), Qt::MatchFixedString));
     LeerDireccion(Base(), rs["Id_Direccion"].Numero(), Clave(), kDireccion,
                   [this](int i, const std::string& texto) { Poner(i, texto); });
+    PonerPestañas();
 }
 
 bool Ganaderos::Comprobar() {
@@ -218,6 +244,7 @@ void Ganaderos::Borrar(double clave) {
 }
 
 void Ganaderos::DespuesDeBorrar() {
+    PonerPestañas();
     Barra().EstadoBotones(0);
 }
 
@@ -236,6 +263,8 @@ void Ganaderos::MostrarMotivoBaja() {
 }
 
 void Ganaderos::BuscarDato(int) {
+    if (!PermiteDejar())
+        return;
     if (const auto clave = ElegirGanadero(LaSesion(), this))
         CargarFicha(*clave);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/ficha/Ficha.h"
+#include "registers/explotacion/DatosExplotacion.h"
 
 #include <array>
 #include <vector>
@@ -18,6 +19,7 @@ public:
     explicit Ganaderos(Sesion& sesion, QWidget* padre = nullptr);
 
 protected:
+    bool PermiteDejar() override;
     void LimpiarPropios() override;
     void MostrarPropios(Recordset& rs) override;
     bool Comprobar() override;
@@ -31,11 +33,13 @@ protected:
 
 private:
     QWidget* CrearGeneral();
+    void PonerPestañas();
     void LlenarVeterinarios();
     void RefrescarEncabezado();
     void AbrirDarBaja();
     void MostrarMotivoBaja();
 
+    DatosExplotacion m_datos;
     QTabWidget* m_tab; // TabGanaderos
     QLabel* m_encabezado;
     QComboBox* m_veterinarios = nullptr;   // CD_Veterinarios

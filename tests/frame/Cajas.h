@@ -32,6 +32,7 @@ public:
     Cajas(const Cajas&) = delete;
     Cajas& operator=(const Cajas&) = delete;
 
+    qsizetype Cuantas() const { return m_vistas.size(); }
     void Responder(bool si) { m_respuestas << si; }
 
     // The boxes since the last look.

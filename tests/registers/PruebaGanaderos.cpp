@@ -34,7 +34,7 @@ private Q_SLOTS:
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QVERIFY(CampoDe(f, i)->hasFocus());
         }
-        QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHIJLMNOPRSTV"));
+        QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHIJLMNOPRSTUVY"));
         auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
         QCOMPARE(tab->tabText(2), QStringLiteral(" Inicio Periodo Reproductivo "));
         BotonDe(f, "B_Añadir")->click();

@@ -175,6 +175,7 @@ private Q_SLOTS:
         for (const auto& [clase, tecleado, queda] : {std::tuple{ClaseCampo::Codigo, "1a2 -3.4", "1234"},
                                                      {ClaseCampo::Fecha, "3x1/02-/01", "31/02/01"},
                                                      {ClaseCampo::Decimal, "1,2,3.4e", "1,234"},
+                                                     {ClaseCampo::ConSigno, "-1,5-,", "-1,5"},
                                                      {ClaseCampo::Numero, "-1,2", "12"},
                                                      {ClaseCampo::Texto, "a'ñ 1", "a'ñ 1"}}) {
             CampoTexto campo(clase, 40);
@@ -185,6 +186,12 @@ private Q_SLOTS:
             campo.paste();
             QCOMPARE(campo.text(), QString::fromUtf8(queda));
         }
+        CampoTexto campo(ClaseCampo::ConSigno, 40);
+        QGuiApplication::clipboard()->setText(QStringLiteral("-1.5"));
+        campo.paste();
+        QCOMPARE(campo.text(), QStringLiteral("-1,5"));
+        campo.Mostrar(QStringLiteral("1E-07")); // stored by something else: shown as it is
+        QCOMPARE(campo.text(), QStringLiteral("1E-07"));
     }
 };
 

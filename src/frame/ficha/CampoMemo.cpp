@@ -10,7 +10,7 @@ CampoMemo::CampoMemo(QWidget* padre)
 }
 
 void CampoMemo::Poner(const std::string& texto) {
-    const QSignalBlocker silencio(this); // a text that is shown is no change of it
+    const QSignalBlocker silencio(this); // nobody typed it
     m_original = texto;
     setPlainText(QString::fromStdString(texto));
     document()->setModified(false);

@@ -34,6 +34,10 @@ public:
         : QValidator(padre)
         , m_clase(clase) {}
     State validate(QString& texto, int& posicion) const override {
+        // A typed point is dropped like any other key; in a number that came by pasting it is the decimal one.
+        const bool tecleado = posicion > 0 && texto.at(posicion - 1) == QLatin1Char('.');
+        if (!tecleado && texto.count(QLatin1Char('.')) == 1 && !texto.contains(QLatin1Char(',')))
+            texto.replace(QLatin1Char('.'), QLatin1Char(','));
         const auto limpio = Filtrado(texto, m_clase);
         if (limpio != texto) {
             posicion = static_cast<int>(Filtrado(texto.left(posicion), m_clase).size());

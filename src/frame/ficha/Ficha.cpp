@@ -23,17 +23,12 @@ bool EsDeEscritura(const QKeyEvent& e) {
     return !e.text().isEmpty() && e.text().at(0).isPrint();
 }
 
-// A value is found in the list by its text, whatever its case. Where texts outside the list are allowed it shows all the same; elsewhere
-// nothing is chosen, the value stands greyed, and goes back as it was unless something is chosen.
+// A value is found in the list by its text, whatever its case. Where texts outside the list are allowed it shows all the same.
 void MostrarEn(QComboBox& combo, const QString& valor) {
     const int i = combo.findText(valor, Qt::MatchFixedString);
-    const bool ajeno = i < 0 && !combo.isEditable() && !valor.isEmpty();
-    if (!combo.isEditable())
-        combo.setPlaceholderText(ajeno ? valor : QString());
-    combo.setCurrentIndex(ajeno ? -1 : std::max(i, 0)); // the first item is the empty one
+    combo.setCurrentIndex(std::max(i, 0)); // the first item is the empty one
     if (i < 0 && combo.isEditable())
         combo.setEditText(valor);
-    combo.setProperty(Ficha::kAlLeer, combo.currentIndex());
 }
 
 } // namespace

@@ -40,8 +40,6 @@ public:
     void Guardar();
     void Cancelar();
 
-    static constexpr const char* kAlLeer = "alLeer"; // property of a combo: the item that its record chose
-
     void reject() override; // Escape, Cerrar, the window's cross: not over changes that nobody has saved
 
 protected:

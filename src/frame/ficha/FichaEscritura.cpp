@@ -128,10 +128,7 @@ void Ficha::EscribirCampos(Recordset& rs) {
             rs[c.columna] = Valor();
     }
     for (const auto& c : m_definicion.combos) {
-        const auto& combo = Combo(c.nombre);
-        if (!combo.isEditable() && combo.currentIndex() == combo.property(kAlLeer).toInt())
-            continue;
-        const auto texto = combo.currentText().toStdString();
+        const auto texto = Combo(c.nombre).currentText().toStdString();
         rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
     }
 }

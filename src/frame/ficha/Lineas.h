@@ -20,6 +20,7 @@ struct ColumnaLinea {
     std::span<const char* const>
         lista{};          // values of its combo; a column without them and with esLista gets them later
     bool esLista = false; // a combo; otherwise a text box
+    int maximo = 0;       // most characters that its text box takes; 0 no limit
 };
 
 // A line as it stands in the grid. What was read is kept beside what is shown: a cell that reads as it did goes back as it was, with the

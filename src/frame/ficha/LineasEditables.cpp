@@ -24,6 +24,7 @@ struct LineasEditables::Entrada {
     std::size_t columna;
     CampoTexto* texto = nullptr;
     QComboBox* combo = nullptr;
+    int propios = 0; // items of the combo's own list
 
     QWidget* Control() const { return texto ? static_cast<QWidget*>(texto) : combo; }
     QString Leer() const { return texto ? texto->text() : combo->currentText(); }
@@ -32,6 +33,8 @@ struct LineasEditables::Entrada {
             texto->Mostrar(valor);
             return;
         }
+        while (combo->count() > propios) // what another line brought along
+            combo->removeItem(propios);
         int i = combo->findText(valor, Qt::MatchExactly);
         if (i <
             0) { // a stored value outside the list can be kept, and is offered as long as its line is here
@@ -44,6 +47,7 @@ struct LineasEditables::Entrada {
         combo->clear();
         combo->addItem(QString());
         combo->addItems(valores);
+        propios = combo->count();
     }
 };
 
@@ -73,7 +77,7 @@ void LineasEditables::CrearRejilla() {
     const auto& metrica = m_rejilla->fontMetrics();
     for (int i = 0; i < m_rejilla->columnCount(); ++i) {
         const auto& c = m_definicion.columnas[static_cast<std::size_t>(i)];
-        m_rejilla->setColumnWidth(i, std::max(metrica.averageCharWidth() * (c.caracteres + 2),
+        m_rejilla->setColumnWidth(i, std::max(metrica.averageCharWidth() * (c.caracteres + 2) + 8,
                                               metrica.horizontalAdvance(titulos[i]) + 16));
     }
     m_rejilla->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -81,6 +85,7 @@ void LineasEditables::CrearRejilla() {
     m_rejilla->setSelectionMode(QAbstractItemView::SingleSelection);
     m_rejilla->setAlternatingRowColors(true);
     m_rejilla->setTabKeyNavigation(false);
+    m_rejilla->horizontalHeader()->setHighlightSections(false); // bold headings would not fit
     m_rejilla->verticalHeader()->hide();
     m_rejilla->verticalHeader()->setDefaultSectionSize(metrica.lineSpacing() + 8);
     m_rejilla->installEventFilter(this);
@@ -95,13 +100,14 @@ void LineasEditables::CrearRejilla() {
 
 void LineasEditables::CrearFranja() {
     auto* franja = new QHBoxLayout;
-    const auto boton = [&](const char* icono, const QString& texto, void (LineasEditables::*orden)()) {
+    const auto boton = [&](const char* icono, const QString& texto, bool visible,
+                           void (LineasEditables::*orden)()) {
         auto* b = new QToolButton(this);
         b->setIcon(Icono(icono));
         b->setToolTip(texto);
         b->setAccessibleName(texto);
         b->setAutoRaise(true);
-        b->setVisible(m_definicion.conAltas);
+        b->setVisible(visible);
         connect(b, &QToolButton::clicked, this, [this, orden] { (this->*orden)(); });
         return b;
     };
@@ -117,16 +123,26 @@ void LineasEditables::CrearFranja() {
             for (const char* v : c.lista)
                 valores << QString::fromUtf8(v);
             entrada->Listar(valores);
-            entrada->combo->setMinimumContentsLength(c.caracteres);
+            entrada->combo->setMinimumContentsLength(c.caracteres - 1);
         } else {
             const bool año = static_cast<int>(i) == m_definicion.columnaAño;
-            const int anchura = año ? 4 : c.clase == ClaseCampo::Fecha ? 10 : 0;
+            const int anchura = año ? 4 : c.clase == ClaseCampo::Fecha ? 10 : c.maximo;
             entrada->texto = new CampoTexto(c.clase, anchura, this);
             if (c.clase == ClaseCampo::Fecha)
                 entrada->texto->setPlaceholderText(QStringLiteral("dd/mm/aa"));
             entrada->texto->setMinimumWidth(fontMetrics().averageCharWidth() * (c.caracteres + 3));
             if (c.clase != ClaseCampo::Texto)
                 entrada->texto->setMaximumWidth(fontMetrics().averageCharWidth() * (c.caracteres + 8));
+        }
+        const auto tecleado = [this] {
+            if (alTeclear)
+                alTeclear();
+        };
+        if (entrada->combo) {
+            entrada->combo->setFocusPolicy(Qt::StrongFocus); // not by the wheel
+            connect(entrada->combo, &QComboBox::activated, this, tecleado);
+        } else {
+            connect(entrada->texto, &QLineEdit::textEdited, this, tecleado);
         }
         auto* control = entrada->Control();
         control->setObjectName(QString::fromUtf8(c.control));
@@ -145,8 +161,12 @@ void LineasEditables::CrearFranja() {
     m_estado = new QLabel(this);
     m_estado->setEnabled(false);
     franja->addWidget(m_estado, 0, Qt::AlignBottom);
-    m_nueva = boton("anadir", QStringLiteral("Línea nueva (Insert)"), &LineasEditables::Nueva);
-    m_quitar = boton("eliminar", QStringLiteral("Eliminar línea (Supr)"), &LineasEditables::Quitar);
+    const bool altas = m_definicion.conAltas;
+    m_poner =
+        boton("aceptar", QStringLiteral("Poner en la lista (Intro)"), true, &LineasEditables::Confirmar);
+    m_nueva = boton("anadir", QStringLiteral("Línea nueva (Insert)"), altas, &LineasEditables::Nueva);
+    m_quitar = boton("eliminar", QStringLiteral("Eliminar línea (Supr)"), altas, &LineasEditables::Quitar);
+    franja->addWidget(m_poner, 0, Qt::AlignBottom);
     franja->addWidget(m_nueva, 0, Qt::AlignBottom);
     franja->addWidget(m_quitar, 0, Qt::AlignBottom);
     static_cast<QVBoxLayout*>(layout())->addLayout(franja);
@@ -169,10 +189,18 @@ void LineasEditables::FijarLista(std::size_t columna, const QStringList& valores
 }
 
 void LineasEditables::Permitir(bool si) {
+    m_permitido = si;
+    Habilitar();
+}
+
+// Where no lines are added the fields wait for one to be chosen.
+void LineasEditables::Habilitar() {
+    const bool campos = m_permitido && (m_definicion.conAltas || m_fila >= 0);
     for (const auto& e : m_entradas)
-        e->Control()->setEnabled(si);
-    m_nueva->setEnabled(si);
-    m_quitar->setEnabled(si);
+        e->Control()->setEnabled(campos);
+    m_poner->setEnabled(campos);
+    m_nueva->setEnabled(m_permitido);
+    m_quitar->setEnabled(m_permitido);
 }
 
 void LineasEditables::Pintar() {
@@ -218,6 +246,7 @@ void LineasEditables::LimpiarEntradas() {
 }
 
 void LineasEditables::Rotular() {
+    Habilitar();
     if (m_fila >= 0)
         m_estado->setText(QStringLiteral("Línea ") + AñoDe(m_lineas[static_cast<std::size_t>(m_fila)]));
     else
@@ -284,7 +313,10 @@ bool LineasEditables::Valida(const Linea& linea) {
         const auto año = static_cast<std::size_t>(m_definicion.columnaAño);
         if (linea.celdas[año].empty())
             return rechazar(QString::fromUtf8(m_definicion.sinAño));
-        for (std::size_t i = 0; i < m_lineas.size(); ++i)
+        // Two lines of one year may have come from elsewhere; as long as their years are left alone they can be edited.
+        const bool mismo =
+            m_fila >= 0 && m_lineas[static_cast<std::size_t>(m_fila)].celdas[año] == linea.celdas[año];
+        for (std::size_t i = 0; !mismo && i < m_lineas.size(); ++i)
             if (static_cast<int>(i) != m_fila && m_lineas[i].Numero(año) == linea.Numero(año))
                 return rechazar(QString::fromUtf8(m_definicion.repetido) + AñoDe(linea) +
                                 QString::fromUtf8(m_definicion.repetidoFin));
@@ -395,6 +427,10 @@ bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
 }
 
 bool LineasEditables::eventFilter(QObject* objeto, QEvent* evento) {
+    // The wheel scrolls past a combo; it does not change what nobody is looking at.
+    if (evento->type() == QEvent::Wheel)
+        if (const auto* combo = qobject_cast<QComboBox*>(objeto); combo && !combo->hasFocus())
+            return true;
     if (evento->type() == QEvent::KeyPress) {
         const int tecla = static_cast<QKeyEvent&>(*evento).key();
         if (objeto == m_rejilla ? TeclaDeRejilla(tecla) : TeclaDeEntrada(objeto, tecla))

@@ -57,6 +57,7 @@ public:
     bool EnCurso() const; // something stands in the fields that is not in the grid
 
     std::function<void()> alCambiar;             // a line was added, replaced or removed
+    std::function<void()> alTeclear;             // something was typed or chosen in the fields
     std::function<void(const Linea&)> alQuitar;  // before that, for one that was removed
     std::function<bool(const Linea&)> comprobar; // a line about to go in; false after its own box
 
@@ -72,6 +73,7 @@ private:
     void Pintar();
     void PintarFila(int fila);
     void Rotular();
+    void Habilitar();
     bool Valida(const Linea& linea);
     bool ValidaCeldas(const Linea& linea);
     bool TeclaDeRejilla(int tecla);
@@ -85,6 +87,8 @@ private:
     QLabel* m_estado = nullptr; // which line the fields belong to
     QToolButton* m_nueva = nullptr;
     QToolButton* m_quitar = nullptr;
+    QToolButton* m_poner = nullptr;
+    bool m_permitido = true;
     int m_fila = -1; // the line in the fields; -1 a new one
 };
 

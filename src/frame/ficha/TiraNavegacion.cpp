@@ -26,6 +26,7 @@ int TiraNavegacion::Añadir(const char* icono, const QString& rotulo, QWidget* s
     auto* boton = new QToolButton(this);
     boton->setObjectName(QStringLiteral("IconoNav(%1)").arg(indice));
     boton->setIcon(Icono(icono));
+    boton->setIconSize(QSize(28, 28));
     boton->setText(rotulo);
     boton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     boton->setCheckable(true);

@@ -15,9 +15,9 @@ namespace pastorix {
 // Lines belong to a saved bull; without one there is nothing to write them for.
 void Sementales::PermitirSanidad(bool si) {
     for (auto* rejilla : m_rejillas) {
-        rejilla->setEnabled(si);
         if (!si)
-            rejilla->Mostrar({});
+            rejilla->Mostrar({}); // first: what stands in an open editor goes to no other lines
+        rejilla->setEnabled(si);
     }
     for (auto* boton : m_botonesPato)
         boton->setEnabled(si);

@@ -1,0 +1,101 @@
+#include "registers/explotacion/Materia.h"
+
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+#include <algorithm>
+
+namespace pastorix {
+
+namespace {
+
+std::string SentenciaDeNota(const DefinicionMateria& m, double idGanadero) {
+    return std::string("Select ") + m.columnaNota +
+           " FROM T_Ganaderos WHERE Id_Ganadero = " + NumeroSql(idGanadero);
+}
+
+// Columns that neither the grid nor the save itself fills: they belong to other sheets, or to the file alone.
+std::vector<std::string> ColumnasSinLugar(const Recordset& rs, const DefinicionMateria& m) {
+    std::vector<std::string> otras;
+    for (int i = 0; i < rs.Campos(); ++i) {
+        const auto nombre = rs.NombreCampo(i);
+        const bool enRejilla = std::any_of(m.lineas.columnas.begin(), m.lineas.columnas.end(),
+                                           [&](const auto& c) { return c.columna && nombre == c.columna; });
+        if (!enRejilla && nombre != "Id_Ganadero" && (!m.columnaNumero || nombre != m.columnaNumero))
+            otras.push_back(nombre);
+    }
+    return otras;
+}
+
+bool MismoAño(const DefinicionMateria& m, const Linea& a, const Linea& b) {
+    if (m.lineas.columnaAño < 0)
+        return false;
+    const auto año = static_cast<std::size_t>(m.lineas.columnaAño);
+    return !a.celdas[año].empty() && a.Numero(año) == b.Numero(año);
+}
+
+void EscribirFilas(Conexion& c, const DefinicionMateria& m, double idGanadero, std::span<const Linea> lineas,
+                   std::span<const Linea> ocultas) {
+    Recordset rs(c, std::string("SELECT * FROM ") + m.tabla);
+    int numero = 0;
+    const auto escribir = [&](const Linea& linea) {
+        rs.AddNew();
+        rs["Id_Ganadero"] = idGanadero;
+        if (m.columnaNumero)
+            rs[m.columnaNumero] = ++numero;
+        EscribirLinea(rs, linea, m.lineas.columnas);
+        rs.Update();
+    };
+    // Hidden rows first: should a line be refused, they at least are back, for nobody could type them again.
+    for (const auto& oculta : ocultas)
+        if (std::none_of(lineas.begin(), lineas.end(),
+                         [&](const Linea& l) { return MismoAño(m, oculta, l); }))
+            escribir(oculta);
+    for (const auto& linea : lineas)
+        escribir(linea);
+}
+
+} // namespace
+
+DatosMateria LeerMateria(Conexion& c, const DefinicionMateria& m, double idGanadero) {
+    DatosMateria datos;
+    EnGrupo(c, [&] {
+        Recordset rs(c,
+                     std::string("Select * FROM ") + m.tabla +
+                         " WHERE Id_Ganadero = " + NumeroSql(idGanadero) + " ORDER BY " + m.orden,
+                     Cursor::Keyset, Bloqueo::SoloLectura);
+        const auto nombres = ColumnasSinLugar(rs, m);
+        std::vector<const char*> otras;
+        for (const auto& nombre : nombres)
+            otras.push_back(nombre.c_str());
+        datos.lineas = LeerLineas(rs, m.lineas.columnas, otras);
+        if (m.columnaNota)
+            datos.nota = ValorDeCampo(c, SentenciaDeNota(m, idGanadero));
+    });
+    if (m.lineas.columnaAño >= 0) {
+        const auto año = static_cast<std::size_t>(m.lineas.columnaAño);
+        const auto primera = std::stable_partition(datos.lineas.begin(), datos.lineas.end(),
+                                                   [&](const Linea& l) { return l.celdas[año].empty(); });
+        datos.ocultas.assign(std::make_move_iterator(datos.lineas.begin()), std::make_move_iterator(primera));
+        datos.lineas.erase(datos.lineas.begin(), primera);
+    }
+    return datos;
+}
+
+void GuardarMateria(Conexion& c, const DefinicionMateria& m, double idGanadero, std::span<const Linea> lineas,
+                    std::span<const Linea> ocultas, const std::string& nota) {
+    EnGrupo(c, [&] {
+        c.Execute(std::string("Delete FROM ") + m.tabla + " WHERE Id_Ganadero = " + NumeroSql(idGanadero));
+        if (!lineas.empty() || !ocultas.empty())
+            EscribirFilas(c, m, idGanadero, lineas, ocultas);
+        if (!m.columnaNota)
+            return;
+        Recordset rs(c, SentenciaDeNota(m, idGanadero));
+        if (rs.Eof() || rs[0].Texto() == nota)
+            return;
+        rs[0] = nota.empty() ? Valor() : Valor(nota);
+        rs.Update();
+    });
+}
+
+} // namespace pastorix

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "registers/explotacion/Materia.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QPushButton;
+
+namespace pastorix {
+
+class CampoMemo;
+
+// One subject on screen: its grid with the strip of fields below, the note of the whole farm, and the buttons that save and cancel. A line
+// is saved the moment it goes into the grid or leaves it, and the note goes with it. The rows are read when the page comes up.
+class PaginaMateria : public QWidget {
+public:
+    PaginaMateria(Conexion& base, const DefinicionMateria& materia, QWidget* padre = nullptr);
+
+    // Whose rows to show; 0 nobody's. What was typed for the same farmer and not saved stays.
+    void FijarGanadero(double idGanadero);
+    bool Pendiente() const; // typed and not in the database
+    const DefinicionMateria& Materia() const { return m_materia; }
+
+    void Guardar();  // the line in progress too, as Enter in its last field would
+    void Cancelar(); // rows and note as they are in the database
+
+protected:
+    virtual DatosMateria Leer();
+    void showEvent(QShowEvent* evento) override;
+
+    Conexion& Base() const { return m_base; }
+    double Ganadero() const { return m_ganadero; }
+    LineasEditables& Rejilla() const { return *m_lineas; }
+    bool Leida() const { return m_leida; }
+    void Cargar();
+
+private:
+    void CrearNota();
+    void PonerAnchuras();
+    void VigilarEntradas();
+    void Mostrar(DatosMateria datos);
+    void GuardarTodo();
+    void EstadoBotones();
+    std::string Nota() const;
+    void Avisar(const std::exception& error);
+
+    Conexion& m_base;
+    const DefinicionMateria& m_materia;
+    LineasEditables* m_lineas;
+    CampoMemo* m_nota = nullptr;
+    QPushButton* m_guardar = nullptr;
+    QPushButton* m_cancelar = nullptr;
+    std::vector<Linea> m_ocultas;
+    double m_ganadero = 0;
+    bool m_leida = false;      // the grid holds this farmer's rows; without that nothing may be written
+    bool m_porGuardar = false; // the last save failed half way
+};
+
+} // namespace pastorix

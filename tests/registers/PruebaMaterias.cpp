@@ -1,0 +1,329 @@
+#include "PuestoDeFichas.h"
+#include "prueba.h"
+
+#include "registers/Ganaderos.h"
+#include "registers/explotacion/Materia.h"
+
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include <initializer_list>
+
+using namespace pastorix;
+using namespace prueba;
+
+namespace {
+
+constexpr auto kIPR = "SELECT AñoNatural, IPRPrimNov, IPRInvNov, PartosAgrup FROM T_IPR ORDER BY AñoNatural";
+
+// Farmers 12 and 14 in the database, 12 on the sheet.
+struct Explotacion : PuestoDeFichas {
+    std::unique_ptr<Ganaderos> ficha;
+
+    Explotacion() {
+        Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
+        for (const double id : {12.0, 14.0})
+            Poner("T_Ganaderos", {{"Id_Ganadero", id}, {"Nombre", "Nora"}, {"Id_Veterinario", 2.0}});
+    }
+    void Abrir(int tab, int hoja = 0) {
+        ficha = std::make_unique<Ganaderos>(sesion);
+        Mostrar(*ficha);
+        ficha->CargarFicha(12);
+        Ir(tab, hoja);
+    }
+    void Ir(int tab, int hoja = 0) {
+        De<QTabWidget>("TabGanaderos")->setCurrentIndex(tab);
+        De<QAbstractButton>(qPrintable(QStringLiteral("IconoNav(%1)").arg(hoja)))->click();
+    }
+    template <typename T>
+    T* De(const char* nombre) {
+        return ficha->findChild<T*>(QString::fromUtf8(nombre));
+    }
+    bool Activo(const char* boton) { return De<QPushButton>(boton)->isEnabled(); }
+    // Into the fields from the one with the focus on, each left with Enter.
+    void Linea(std::initializer_list<const char*> textos) {
+        for (const char* texto : textos) {
+            auto* foco = QApplication::focusWidget();
+            if (auto* combo = qobject_cast<QComboBox*>(foco))
+                combo->setCurrentIndex(combo->findText(QString::fromUtf8(texto)));
+            else if (auto* campo = qobject_cast<QLineEdit*>(foco))
+                TeclearEn(*campo, texto);
+            QTest::keyClick(foco, Qt::Key_Return);
+        }
+    }
+    QString Celdas(const char* rejilla) {
+        const auto* t = De<QTableWidget>(rejilla);
+        QStringList filas;
+        for (int f = 0; f < t->rowCount(); ++f) {
+            QStringList celdas;
+            for (int c = 0; c < t->columnCount(); ++c)
+                celdas << t->item(f, c)->text();
+            filas << celdas.join(QLatin1Char('|'));
+        }
+        return filas.join(QLatin1Char('/'));
+    }
+    void Romper(const char* sql) {
+        QCOMPARE(sqlite3_exec(sesion.conexion.Manejador(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    }
+};
+
+} // namespace
+
+class PruebaMaterias : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ConElTeclado() {
+        Explotacion p;
+        p.Abrir(2);
+        auto* rejilla = p.De<QTableWidget>("GridIPR");
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("|||"));
+        rejilla->setFocus();
+        QTest::keyClick(rejilla, Qt::Key_Insert);
+        QVERIFY(p.De<QLineEdit>("Ct_IPR(0)")->hasFocus());
+        p.Linea({"2024", "1/4/2x4", "", "InvOtoño"}); // the letter is dropped
+        QCOMPARE(p.Texto(kIPR), std::string("2024|1/4/24|-|InvOtoño"));
+        p.Linea({"2023", "", "2/5/23", ""});
+        QCOMPARE(p.Texto(kIPR), std::string("2023|-|2/5/23|-/2024|1/4/24|-|InvOtoño"));
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2023||2/5/23|/2024|1/4/24||InvOtoño"));
+
+        const auto antes = p.Texto(kIPR);
+        p.Linea({"2024", "", "", "No"});
+        auto caja = p.cajas.Vistas();
+        QCOMPARE(caja.size(), 1);
+        QCOMPARE(caja[0].titulo + caja[0].texto,
+                 QStringLiteral("AtenciónYa existe una línea para el año natural 2024"));
+        QVERIFY(p.De<QLineEdit>("Ct_IPR(0)")->hasFocus());
+        p.De<QLineEdit>("Ct_IPR(0)")->clear();
+        p.Linea({"", "", "", "No"});
+        QCOMPARE(p.Caja(), QStringLiteral("Debe indicar el año natual"));
+        QVERIFY(p.Activo("B_GuardarIPR"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!p.Activo("B_GuardarIPR") && p.ficha->isVisible());
+        QCOMPARE(p.De<QComboBox>("CD_IPRpa")->currentText(), QString());
+        QCOMPARE(p.Texto(kIPR), antes);
+
+        rejilla->setCurrentCell(1, 0); // over the line of 2024
+        QCOMPARE(p.De<QComboBox>("CD_IPRpa")->currentText(), QStringLiteral("InvOtoño"));
+        QTest::keyClick(rejilla, Qt::Key_Return);
+        p.Linea({"2025", "1/4/25", "", "No"});
+        QCOMPARE(p.Texto(kIPR), std::string("2023|-|2/5/23|-/2025|1/4/25|-|No"));
+
+        for (const bool si : {false, true, true}) {
+            rejilla->setCurrentCell(0, 0);
+            const auto año = rejilla->item(0, 0)->text();
+            p.cajas.Responder(si);
+            QTest::keyClick(rejilla, Qt::Key_Delete);
+            caja = p.cajas.Vistas();
+            QCOMPARE(caja[0].titulo + caja[0].texto, QStringLiteral("EliminarEliminar la línea para ") + año);
+        }
+        QCOMPARE(p.Texto(kIPR), std::string());
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("|||")); // one empty line stays
+        QTest::keyClick(rejilla, Qt::Key_Delete);             // and asks nothing
+        QTest::keyClick(rejilla, Qt::Key_Insert);
+        p.Linea({"2020", "", "", ""});
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2020|||"));
+    }
+
+    // What a subject reads and nobody touches is written back as it was, with whatever has no place in the grid.
+    void IdaYVuelta_data() {
+        QTest::addColumn<const DefinicionMateria*>("materia");
+        QTest::addColumn<QString>("filas"); // columns behind Id_Ganadero
+        QTest::newRow("IPR") << &kMateriaIPR << "-|1/1/20|-|-|-|-|-|-|suelto;2024|1/4|x|Otro|a|b|c|d|libre";
+        QTest::newRow("AI") << &kMateriaAlimentacion << "2023|31/02/23|-|-|Rara|-;2024|01/12/23|-|Bueno|-|-";
+        QTest::newRow("Vacu") << &kMateriaVacunaciones << "2024|a|-|d'e|ñ";
+        QTest::newRow("FVacu") << &kMateriaFechasVacu << "1|-|02/03/24|-|-;2|05/06/24|-|-|-";
+        QTest::newRow("As") << &kMateriaSuperficie << "2024|33,123456789|-1,5|0|-|2|3|Bueno";
+        QTest::newRow("SP") << &kMateriaSistema << "2024|SE;2025|-";
+        QTest::newRow("PC") << &kMateriaPastos << "2024|Sí|Con Toros|Buena|01/05/24|-|12,5|No|Buena|Sí";
+    }
+    void IdaYVuelta() {
+        QFETCH(const DefinicionMateria*, materia);
+        QFETCH(QString, filas);
+        PuestoDeFichas p;
+        auto& c = p.sesion.conexion;
+        p.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Nombre", "Nora"}});
+        {
+            Recordset rs(c, std::string("SELECT * FROM ") + materia->tabla);
+            for (const double ganadero : {12.0, 14.0})
+                for (const auto& fila : filas.split(QLatin1Char(';'))) {
+                    rs.AddNew();
+                    rs[0] = ganadero;
+                    int i = 1;
+                    for (const auto& valor : fila.split(QLatin1Char('|')))
+                        rs[i++] = valor == QLatin1String("-") ? Valor() : Valor(valor.toStdString());
+                    rs.Update();
+                }
+        }
+        const auto sql =
+            std::string("SELECT * FROM ") + materia->tabla + " ORDER BY Id_Ganadero, " + materia->orden;
+        const auto antes = p.Texto(sql);
+        QCOMPARE(QString::fromStdString(antes).count(QLatin1String("12|")),
+                 filas.count(QLatin1Char(';')) + 1);
+        const auto datos = LeerMateria(c, *materia, 12);
+        GuardarMateria(c, *materia, 12, datos.lineas, datos.ocultas, "nota");
+        QCOMPARE(p.Texto(sql), antes);
+        if (materia->columnaNota)
+            QCOMPARE(LeerMateria(c, *materia, 12).nota, std::string("nota"));
+    }
+
+    // The strips are numbered in the order of the columns, lists included; of the dates the first one is 0.
+    void Controles() {
+        Explotacion p;
+        p.Abrir(3, 1);
+        for (const char* campo : {"Ct_IPR(2)", "Ct_AI(2)", "Ct_As(6)", "Ct_Pc(4)", "Ct_Pc(6)", "Ct_Vacu(4)",
+                                  "Ct_TipoSP(1)", "Ct_FVacu(0)", "Ct_FVacu(3)"})
+            QVERIFY2(p.De<QLineEdit>(campo), campo);
+        for (const char* lista :
+             {"CD_IPRpa", "Cd_AI(3)", "Cd_AI(5)", "Cd_As(7)", "Cd_PC(1)", "Cd_PC(3)", "Cd_PC(7)", "Cd_PC(9)"})
+            QVERIFY2(p.De<QComboBox>(lista), lista);
+        // a text longer than its column cannot be typed: the save, which deletes first, would fail on it
+        auto* campo = p.De<QLineEdit>("Ct_Vacu(1)");
+        TeclearEn(*campo, std::string(60, 'x').c_str());
+        QCOMPARE(campo->text().size(), 50);
+    }
+
+    void Nota() {
+        Explotacion p;
+        p.Abrir(3, 2);
+        const auto nota = [&p] {
+            return p.Texto("SELECT ObsAbonoSuperficie FROM T_Ganaderos WHERE Id_Ganadero = 12");
+        };
+        auto* memo = p.De<QPlainTextEdit>("Ct_ObsAs");
+        QVERIFY(!p.Activo("B_GuardarObsAs") && !p.Activo("B_CancelarObsAs"));
+        memo->setFocus();
+        QTest::keyClicks(memo, QStringLiteral("cal"));
+        QVERIFY(p.Activo("B_GuardarObsAs") && p.Activo("B_CancelarObsAs"));
+        p.De<QPushButton>("B_CancelarObsAs")->click();
+        QCOMPARE(memo->toPlainText() + QString::fromStdString(nota()), QStringLiteral("-"));
+        QTest::keyClicks(memo, QStringLiteral("cal"));
+        p.De<QPushButton>("B_GuardarObsAs")->click();
+        QCOMPARE(nota(), std::string("cal"));
+        QVERIFY(!p.Activo("B_GuardarObsAs"));
+        QTest::keyClicks(memo, QStringLiteral("2"));
+        p.De<QLineEdit>("Ct_As(0)")->setFocus();
+        p.Linea({"2024", "1,5", "", "", "", "", "", ""}); // the note travels with the lines
+        QVERIFY(nota().find('2') != std::string::npos && !p.Activo("B_GuardarObsAs"));
+        QCOMPARE(p.Texto("SELECT AñoNatural, HasNoCom, HasPropias FROM T_AbonadoSuperficie"),
+                 std::string("2024|1,5|-"));
+
+        // a line in progress goes in with the button as with Enter
+        TeclearEn(*p.De<QLineEdit>("Ct_As(0)"), "2025");
+        p.De<QPushButton>("B_GuardarObsAs")->click();
+        QCOMPARE(p.Texto("SELECT AñoNatural FROM T_AbonadoSuperficie"), std::string("2024/2025"));
+
+        // not saved: kept while the first tab is saved or cancelled, asked for before another farmer comes
+        memo->setFocus();
+        QTest::keyClicks(memo, QStringLiteral("zz"));
+        p.Ir(0);
+        Teclear(*p.ficha, 3, "Gil");
+        BotonDe(*p.ficha, "B_Guardar")->click();
+        Teclear(*p.ficha, 3, "X");
+        BotonDe(*p.ficha, "B_Cancelar")->click();
+        QVERIFY(memo->toPlainText().contains(QLatin1String("zz")) && p.Activo("B_GuardarObsAs"));
+        for (const bool si : {false, true}) {
+            Teclear(*p.ficha, 0, "14");
+            p.cajas.Responder(si);
+            QTest::keyClick(CampoDe(*p.ficha, 0), Qt::Key_Return);
+            QCOMPARE(p.Caja(),
+                     QStringLiteral("Hay cambios sin guardar en «Abon. y Superf.». ¿Desea perderlos?"));
+            QCOMPARE(p.ficha->Clave(), si ? 14.0 : 12.0);
+        }
+        QVERIFY(nota().find("zz") == std::string::npos);
+        p.Ir(3, 2);
+        QCOMPARE(memo->toPlainText(), QString());
+        QCOMPARE(p.Celdas("GridMAS"), QStringLiteral("|||||||"));
+    }
+
+    // The rows are gone before they are written anew: what failed has to be saved again, and the grid still has all of it.
+    void GuardadoRoto() {
+        Explotacion p;
+        for (const auto& [año, fecha] : {std::pair{2020, "1/1/20"}, {2021, "1/1/21"}})
+            p.Poner("T_IPR",
+                    {{"Id_Ganadero", 12.0}, {"AñoNatural", año}, {"IPRPrimNov", fecha}, {"Blanco", "b"}});
+        p.Abrir(2);
+        p.Romper("CREATE UNIQUE INDEX roto ON T_IPR (IPRPrimNov)");
+        p.De<QLineEdit>("Ct_IPR(0)")->setFocus();
+        p.Linea({"2019", "1/1/21", "", ""});
+        QCOMPARE(p.cajas.Vistas().size(), 1);
+        QCOMPARE(p.Texto("SELECT AñoNatural FROM T_IPR"), std::string("2019/2020"));
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2019|1/1/21||/2020|1/1/20||/2021|1/1/21||"));
+        p.cajas.Responder(false);
+        p.ficha->close();
+        QCOMPARE(
+            p.Caja(),
+            QStringLiteral("Hay cambios sin guardar en «Inicio Periodo Reproductivo». ¿Desea perderlos?"));
+        p.Romper("DROP INDEX roto");
+        p.De<QPushButton>("B_GuardarIPR")->click();
+        QCOMPARE(p.Texto("SELECT AñoNatural, IPRPrimNov, Blanco FROM T_IPR ORDER BY AñoNatural"),
+                 std::string("2019|1/1/21|-/2020|1/1/20|b/2021|1/1/21|b"));
+        QVERIFY(!p.Activo("B_GuardarIPR"));
+    }
+
+    // Rows that could not be read are not written over.
+    void LecturaRota() {
+        Explotacion p;
+        p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", 2020}});
+        p.Romper("ALTER TABLE T_IPR RENAME TO Otra");
+        p.Abrir(2);
+        QCOMPARE(p.cajas.Vistas().size(), 1);
+        p.Romper("ALTER TABLE Otra RENAME TO T_IPR");
+        QVERIFY(!p.De<QLineEdit>("Ct_IPR(0)")->isEnabled());
+        QTest::keyClick(p.De<QTableWidget>("GridIPR"), Qt::Key_Insert);
+        QCOMPARE(p.Texto(kIPR), std::string("2020|-|-|-"));
+    }
+
+    void FechasDeVacunacion() {
+        Explotacion p;
+        p.Abrir(3, 1);
+        const auto filas = [&p] {
+            return p.Texto("SELECT Ln, IBR, BVD, MAMITIS, NEOSPORA FROM T_FechasVacu ORDER BY Ln");
+        };
+        p.De<QLineEdit>("Ct_FVacu(0)")->setFocus();
+        p.Linea({"", "", "", ""}); // nothing is no line
+        QCOMPARE(filas(), std::string());
+        p.De<QLineEdit>("Ct_FVacu(0)")->setFocus();
+        p.Linea({"5/6/24", "", "", ""});
+        p.Linea({"", "31/2/24", "", ""});
+        QCOMPARE(p.Caja(), QStringLiteral("La fecha no es correcta, dd/mm/aa"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        p.De<QLineEdit>("Ct_FVacu(0)")->setFocus();
+        p.Linea({"", "1/2/23", "", ""}); // in the order of entry, not of dates
+        p.Linea({"", "", "", "7/8/25"});
+        QCOMPARE(filas(), std::string("1|05/06/24|-|-|-/2|-|01/02/23|-|-/3|-|-|-|07/08/25"));
+        auto* rejilla = p.De<QTableWidget>("GridFVacu");
+        rejilla->setCurrentCell(1, 0);
+        p.cajas.Responder(true);
+        QTest::keyClick(rejilla, Qt::Key_Delete);
+        QCOMPARE(p.Caja(), QStringLiteral("Eliminar la línea para 2"));
+        QCOMPARE(filas(), std::string("1|05/06/24|-|-|-/2|-|-|-|07/08/25"));
+    }
+
+    void TabsConGanadero() {
+        Explotacion p;
+        p.ficha = std::make_unique<Ganaderos>(p.sesion);
+        Mostrar(*p.ficha);
+        auto* tab = p.De<QTabWidget>("TabGanaderos");
+        const auto activas = [tab] { return tab->isTabEnabled(2) && tab->isTabEnabled(3); };
+        const auto ninguna = [tab] { return !tab->isTabEnabled(2) && !tab->isTabEnabled(3); };
+        QVERIFY(ninguna());
+        p.ficha->CargarFicha(12);
+        QVERIFY(activas());
+        BotonDe(*p.ficha, "B_Añadir")->click();
+        QVERIFY(ninguna());
+        BotonDe(*p.ficha, "B_Cancelar")->click();
+        QVERIFY(activas());
+        Teclear(*p.ficha, 3, "Gil");
+        QVERIFY(activas()); // modifying
+        BotonDe(*p.ficha, "B_Guardar")->click();
+        p.cajas.Responder(true);
+        BotonDe(*p.ficha, "B_Borrar")->click();
+        QCOMPARE(p.cajas.Vistas().size(), 1);
+        QVERIFY(ninguna());
+    }
+};
+
+PRUEBA(PruebaMaterias)
+#include "PruebaMaterias.moc"
