@@ -4,6 +4,7 @@
 #include "frame/Principal.h"
 #include "registers/Ganaderos.h"
 #include "registers/Veterinarios.h"
+#include "registers/sementales/Sementales.h"
 #include "registers/vacas/Vacas.h"
 #include "reports/ListadoMaestro.h"
 #include "reports/Lst_IndicesTecnicos.h"
@@ -44,6 +45,7 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     formulario("Mnu_Ganaderos", [&] { return new Ganaderos(sesion, &principal); });
     // The sheets of her cycles are not there yet.
     formulario("Mnu_Vacas", [&] { return new Vacas(sesion, {}, &principal); });
+    formulario("Mnu_Sementales", [&] { return new Sementales(sesion, &principal); });
     formulario("Mnu_IndicesTecnicos", [&] { return new Lst_IndicesTecnicos(sesion, informe, &principal); });
 }
 

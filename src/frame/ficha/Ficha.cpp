@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QToolButton>
 
 #include <algorithm>
@@ -190,8 +191,8 @@ void Ficha::NoEncontrado(double) {
 }
 
 void Ficha::AbrirCon(double clave) {
-    for (const auto& [icono, boton] : m_iconos)
-        boton->hide();
+    for (auto* boton : findChildren<QToolButton*>(QRegularExpression(QStringLiteral("^IconoBusDato"))))
+        boton->hide(); // and its key with it
     CargarFicha(clave);
 }
 

@@ -111,7 +111,6 @@ private:
     std::map<int, CampoTexto*> m_campos;
     std::map<int, CampoMemo*> m_memos;
     std::map<std::string, QComboBox*, std::less<>> m_combos;
-    std::map<int, QToolButton*> m_iconos;
     double m_clave = 0;
     int m_accion = 0;
 };

@@ -126,7 +126,7 @@ void Ficha::PonerIconoBusDato(int icono, int indiceCampo) {
     boton->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
     boton->setIcon(Icono("buscar"));
     boton->setCursor(CursorMano());
-    boton->setToolTip(QStringLiteral("Seleccionar (F3)"));
+    boton->setToolTip(icono == 0 ? QStringLiteral("Seleccionar (F3)") : QStringLiteral("Seleccionar"));
     boton->setAccessibleName(QStringLiteral("Seleccionar"));
     boton->setAutoRaise(true);
     if (icono == 0)
@@ -145,10 +145,10 @@ void Ficha::PonerIconoBusDato(int icono, int indiceCampo) {
     juntos->setSpacing(2);
     juntos->addWidget(campo);
     juntos->addWidget(boton);
-    juntos->addStretch();
+    if (campo->maximumWidth() < QWIDGETSIZE_MAX)
+        juntos->addStretch(); // a long field takes the room itself
     rejilla->addLayout(juntos, fila, columna, altura, anchura);
     setTabOrder(campo, boton);
-    m_iconos[icono] = boton;
 }
 
 } // namespace pastorix

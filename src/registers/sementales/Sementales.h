@@ -1,0 +1,87 @@
+#pragma once
+
+#include "frame/ficha/Ficha.h"
+#include "frame/ficha/Lineas.h"
+
+#include <QStringList>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+class QPushButton;
+class QTabWidget;
+
+namespace pastorix {
+
+class EncabezadoGanadero;
+class RejillaPatologia;
+
+// The sheet of bulls: identity, descent and genetic merit on its first tab, the yearly health records on the second, the removal on
+// the third; the farmer, the code and the names stand above them all.
+class Sementales : public Ficha {
+public:
+    explicit Sementales(Sesion& sesion, QWidget* padre = nullptr);
+
+protected:
+    bool PermiteDejar() override;
+    bool PermiteAñadir() override;
+    std::string CodigoPropuesto() override;
+    void AlAñadir() override;
+    void LimpiarPropios() override;
+    void MostrarPropios(Recordset& rs) override;
+    bool ComprobarMinimos() override;
+    bool Comprobar() override;
+    void EscribirPropios(Recordset& rs) override;
+    void EscribirHijos(double codigo) override;
+    void DespuesDeGuardar(double clave) override;
+    QString PreguntaEliminar() const override;
+    void Borrar(double clave) override;
+    void NoEncontrado(double clave) override;
+    void BuscarDato(int icono) override;
+
+private:
+    // SementalesPestanas.cpp: the window
+    QWidget* CrearEncabezado();
+    QWidget* CrearGeneral();
+    QWidget* CrearPatologias();
+    QWidget* CrearBaja();
+    QWidget* CrearObservaciones(QWidget* padre);
+    void ConectarTeclas();
+    void OrdenarTabulador();
+    void Conectar();
+
+    // The heading and what follows from it
+    void MostrarGanadero(std::optional<double> idGanadero);
+    void Renombrar(); // the compound name follows name and class
+    void RefrescarBaja();
+    QStringList Contenido() const; // all that can be edited but the health remarks
+    void Recargar(double clave);
+
+    // SementalesBusqueda.cpp: the five search icons
+    bool DejaCargarOtro();
+    void CargarElegido(int icono);
+    void ElegirGanaderoPropietario();
+    void ElegirPadre();
+    void ElegirMadre();
+
+    // SementalesPatologias.cpp: the health tab
+    void PermitirSanidad(bool si);
+    void MostrarSanidad();
+    void LlenarVacunas();
+    void GuardarRejilla(RejillaPatologia& rejilla);
+    void GuardarPato();
+    void CancelarPato();
+    void TerminarObservaciones(const std::string& texto);
+    void MostrarCausa(const std::exception& error);
+
+    QTabWidget* m_tab; // TabSementales
+    EncabezadoGanadero* m_ganadero = nullptr;
+    CampoTexto* m_otraCausa = nullptr; // CtextoBaja
+    std::array<RejillaPatologia*, 2> m_rejillas{};
+    std::array<QPushButton*, 2> m_botonesPato{};
+    QStringList m_contenido;     // as it was read
+    std::string m_errorDeNombre; // why the save at hand could not carry the name on
+};
+
+} // namespace pastorix

@@ -1,0 +1,94 @@
+// The health tab of the bull sheet: its grids are written line by line, apart from the sheet's own save.
+#include "frame/Mensajes.h"
+#include "registers/EncabezadoGanadero.h"
+#include "registers/sementales/DefinicionSementales.h"
+#include "registers/sementales/ReglasSemental.h"
+#include "registers/sementales/RejillaPatologia.h"
+#include "registers/sementales/Sementales.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
+
+#include <QPushButton>
+
+namespace pastorix {
+
+// Lines belong to a saved bull; without one there is nothing to write them for.
+void Sementales::PermitirSanidad(bool si) {
+    for (auto* rejilla : m_rejillas) {
+        if (!si)
+            rejilla->Mostrar({}); // first: what stands in an open editor goes to no other lines
+        rejilla->setEnabled(si);
+    }
+    for (auto* boton : m_botonesPato)
+        boton->setEnabled(si);
+}
+
+void Sementales::MostrarSanidad() {
+    for (auto* rejilla : m_rejillas)
+        rejilla->Mostrar(LeerPatologias(Base(), rejilla->Definicion(), Clave()));
+    PermitirSanidad(true);
+}
+
+void Sementales::LlenarVacunas() {
+    for (const auto& lista : ListasDeVacunas()) {
+        QStringList fechas;
+        for (const auto& fecha : FechasDeVacuna(Base(), m_ganadero->Id().value_or(0), lista.origen))
+            fechas << QString::fromStdString(fecha);
+        m_rejillas[1]->FijarLista(lista.columna, fechas);
+    }
+}
+
+void Sementales::GuardarRejilla(RejillaPatologia& rejilla) {
+    try {
+        EnGrupo(Base(), [&] { GuardarPatologias(Base(), rejilla.Definicion(), Clave(), rejilla.Lineas()); });
+    } catch (const std::exception& e) {
+        rejilla.AvisarDespues(QString::fromUtf8(e.what()), rejilla.currentRow(), rejilla.currentColumn());
+    }
+}
+
+void Sementales::MostrarCausa(const std::exception& error) {
+    Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(error.what()));
+    Memo(kObsPatologia).setFocus();
+}
+
+// A text with an apostrophe is refused here; it stays on the sheet, whose own save takes it.
+void Sementales::GuardarPato() {
+    if (Clave() == 0)
+        return;
+    const auto texto = TextoStd(kObsPatologia);
+    const auto donde = " WHERE ID_SEMENTAL = " + NumeroSql(Clave());
+    try {
+        const long filas = EnGrupo(Base(), [&] {
+            return texto.empty()
+                       ? Base().Execute("UPDATE T_Sementales SET ObsPatologia = Null" + donde)
+                       : Base().Execute("UPDATE T_Sementales SET ObsPatologia =" + TextoSql(texto) + donde);
+        });
+        if (filas == 0)
+            throw ErrorAlmacen(CodigoError::SinFilaActual,
+                               "El registro ya no existe: otro proceso lo ha borrado. Lo escrito sigue en la "
+                               "ficha.");
+        TerminarObservaciones(texto);
+    } catch (const std::exception& e) {
+        MostrarCausa(e);
+    }
+}
+
+void Sementales::CancelarPato() {
+    if (Clave() == 0)
+        return;
+    try {
+        TerminarObservaciones(ValorDeCampo(
+            Base(), "SELECT ObsPatologia FROM T_Sementales WHERE ID_Semental = " + NumeroSql(Clave())));
+    } catch (const std::exception& e) {
+        MostrarCausa(e);
+    }
+}
+
+// Ends the editing that the remarks began, unless something else is being changed.
+void Sementales::TerminarObservaciones(const std::string& texto) {
+    Poner(kObsPatologia, texto);
+    if (Editando() && Contenido() == m_contenido)
+        Recargar(Clave());
+}
+
+} // namespace pastorix

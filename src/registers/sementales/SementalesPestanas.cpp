@@ -1,0 +1,195 @@
+// The window of the bull sheet: heading and tabs.
+#include "registers/EncabezadoGanadero.h"
+#include "registers/sementales/DefinicionSementales.h"
+#include "registers/sementales/ReglasSemental.h"
+#include "registers/sementales/RejillaPatologia.h"
+#include "registers/sementales/Sementales.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace pastorix {
+
+namespace {
+
+// A line of its own that says what the fields below it are about.
+QLabel* Seccion(const char* texto, QWidget* padre) {
+    auto* rotulo = new QLabel(QString::fromUtf8(texto), padre);
+    auto fuente = rotulo->font();
+    fuente.setBold(true);
+    rotulo->setFont(fuente);
+    rotulo->setContentsMargins(0, 6, 0, 0);
+    return rotulo;
+}
+
+} // namespace
+
+QWidget* Sementales::CrearEncabezado() {
+    auto* encabezado = new QWidget(this);
+    auto* todo = new QVBoxLayout(encabezado);
+    todo->setContentsMargins(0, 0, 0, 0);
+    m_ganadero = new EncabezadoGanadero(Base(), 1, encabezado);
+    todo->addWidget(m_ganadero);
+    todo->addWidget(CrearRejilla(encabezado));
+    PonerIconoBusDato(0, 0);
+    Rejilla()->setContentsMargins(0, 0, 0, 0);
+    Rejilla()->setColumnStretch(1, 0); // the code is short
+    return encabezado;
+}
+
+QWidget* Sementales::CrearGeneral() {
+    auto* general = new QWidget(m_tab);
+    auto* todo = new QVBoxLayout(general);
+    todo->addWidget(CrearRejilla(general, 1));
+    Rejilla()->addWidget(Seccion("Genealogía", general), 3, 0, 1, 6);
+    Rejilla()->addWidget(Seccion("Valoración", general), 6, 0, 1, 6);
+    for (const auto& [icono, campo, nombre] : {std::tuple{2, 7, "Seleccionar padre"},
+                                               {3, 10, "Seleccionar madre"},
+                                               {4, 13, "Seleccionar por mérito"}}) {
+        PonerIconoBusDato(icono, campo);
+        findChild<QToolButton*>(QStringLiteral("IconoBusDato(%1)").arg(icono))
+            ->setAccessibleName(QString::fromUtf8(nombre));
+    }
+    todo->addStretch();
+    return general;
+}
+
+QWidget* Sementales::CrearPatologias() {
+    auto* patologias = new QWidget(m_tab);
+    auto* todo = new QGridLayout(patologias);
+    int fila = 0;
+    for (const auto* d : {&PatologiaSem(), &PatologiaSemR()}) {
+        auto* rejilla = new RejillaPatologia(*d, patologias);
+        rejilla->edadDe = [this](const std::string& año) { return EdadEnAño(TextoStd(kFechaNac), año); };
+        rejilla->antesDeQuitar = [this] { EntrarEnModificar(); };
+        rejilla->alCambiar = [this, rejilla] { GuardarRejilla(*rejilla); };
+        todo->addWidget(Seccion(d->nombre, patologias), fila * 2, 0);
+        todo->addWidget(rejilla, fila * 2 + 1, 0);
+        m_rejillas[static_cast<std::size_t>(fila++)] = rejilla;
+    }
+    todo->addWidget(CrearObservaciones(patologias), 0, 1, 4, 1);
+    todo->setColumnStretch(0, 5);
+    todo->setColumnStretch(1, 2);
+    return patologias;
+}
+
+QWidget* Sementales::CrearObservaciones(QWidget* padre) {
+    auto* caja = CrearRejilla(padre, 2);
+    Rejilla()->setContentsMargins(12, 0, 0, 0);
+    auto* rotulo = findChild<QLabel*>(QStringLiteral("ET_Estandar(%1)").arg(kObsPatologia));
+    for (QWidget* w : {static_cast<QWidget*>(rotulo), static_cast<QWidget*>(&Memo(kObsPatologia))})
+        Rejilla()->removeWidget(w);
+    Rejilla()->addWidget(rotulo, 0, 0, 1, 2);
+    Rejilla()->addWidget(&Memo(kObsPatologia), 1, 0, 1, 2);
+    auto* botones = new QHBoxLayout;
+    botones->setSpacing(6);
+    botones->addStretch();
+    std::size_t i = 0;
+    for (const auto& [nombre, texto, orden] :
+         {std::tuple{"B_GuardarPato", "Guardar observaciones", &Sementales::GuardarPato},
+          {"B_CancelarPato", "Cancelar", &Sementales::CancelarPato}}) {
+        auto* boton = new QPushButton(QString::fromUtf8(texto), caja);
+        boton->setObjectName(QString::fromUtf8(nombre));
+        boton->setAutoDefault(false);
+        connect(boton, &QPushButton::clicked, this, orden);
+        botones->addWidget(boton);
+        m_botonesPato[i++] = boton;
+    }
+    Rejilla()->addLayout(botones, 2, 0, 1, 2);
+    return caja;
+}
+
+QWidget* Sementales::CrearBaja() {
+    auto* baja = new QWidget(m_tab);
+    auto* todo = new QVBoxLayout(baja);
+    auto* caja = CrearRejilla(baja, 3);
+    caja->setMaximumWidth(fontMetrics().averageCharWidth() * 110);
+    todo->addWidget(caja);
+    Combo("CD_CBaja").setMaximumWidth(fontMetrics().averageCharWidth() * 34);
+    auto* rotulo = new QLabel(QStringLiteral("Otra Causa"), caja);
+    m_otraCausa = new CampoTexto(ClaseCampo::Texto, 255, caja);
+    m_otraCausa->setObjectName(QStringLiteral("CtextoBaja"));
+    m_otraCausa->setAccessibleName(rotulo->text());
+    rotulo->setBuddy(m_otraCausa);
+    Rejilla()->addWidget(rotulo, 2, 0, Qt::AlignRight | Qt::AlignVCenter);
+    Rejilla()->addWidget(m_otraCausa, 2, 1);
+    Vigilar(m_otraCausa);
+    connect(m_otraCausa, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
+    todo->addStretch();
+    return baja;
+}
+
+// Ctrl and the tab's number bring it up.
+void Sementales::ConectarTeclas() {
+    for (int i = 0; i < m_tab->count(); ++i) {
+        const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
+        connect(new QShortcut(tecla, this), &QShortcut::activated, this,
+                [this, i] { m_tab->setCurrentIndex(i); });
+        m_tab->setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
+    }
+}
+
+// Reading order, whatever order the controls were made in.
+void Sementales::OrdenarTabulador() {
+    const auto cadena = [](std::initializer_list<QWidget*> controles) {
+        QWidget* anterior = nullptr;
+        for (auto* control : controles) {
+            if (anterior)
+                setTabOrder(anterior, control);
+            anterior = control;
+        }
+    };
+    const auto icono = [this](int i) {
+        return findChild<QToolButton*>(QStringLiteral("IconoBusDato(%1)").arg(i));
+    };
+    cadena({m_ganadero->Icono(),
+            &Campo(0),
+            icono(0),
+            &Campo(1),
+            &Campo(2),
+            m_tab->tabBar(),
+            &Combo("CD_Raza"),
+            &Combo("CD_Cularidad"),
+            &Combo("ToroP"),
+            &Campo(3),
+            &Campo(4),
+            &Campo(5),
+            &Campo(kFechaNac),
+            &Campo(18),
+            &Combo("CB_Origen"),
+            &Campo(7),
+            icono(2),
+            &Campo(8),
+            &Campo(9),
+            &Campo(10),
+            icono(3),
+            &Campo(11),
+            &Campo(12),
+            &Campo(13),
+            icono(4),
+            &Campo(14),
+            &Campo(24),
+            &Campo(15),
+            &Campo(25),
+            &Campo(16),
+            &Campo(26),
+            &Campo(17),
+            &Campo(27),
+            m_rejillas[0],
+            m_rejillas[1],
+            &Memo(kObsPatologia),
+            m_botonesPato[0],
+            m_botonesPato[1],
+            &Campo(19),
+            &Combo("CD_CBaja"),
+            m_otraCausa,
+            &Memo(kObsBaja)});
+}
+
+} // namespace pastorix

@@ -1,0 +1,386 @@
+#include "PuestoDeFichas.h"
+#include "prueba.h"
+
+#include "frame/ficha/CampoMemo.h"
+#include "registers/sementales/RejillaPatologia.h"
+#include "registers/sementales/Sementales.h"
+#include "store/Literales.h"
+
+#include <QComboBox>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTimer>
+#include <QToolButton>
+
+using namespace pastorix;
+using namespace prueba;
+
+namespace {
+
+// Farmers 1 and 57, and two bulls of the latter: 57001 in use, with services, calvings and health lines, and 57002.
+struct Puesto : PuestoDeFichas {
+    std::unique_ptr<Sementales> f;
+
+    Puesto() {
+        Poner("T_Ganaderos", {{"Id_Ganadero", 1.0}, {"Nombre", "Centro"}, {"Apellidos", "de IA"}});
+        Poner("T_Ganaderos",
+              {{"Id_Ganadero", 57.0}, {"Nombre", "Ana"}, {"Apodo", "La Xuan"}, {"Id_Direccion", 7.0}});
+        Poner("T_Direcciones", {{"Id_Direccion", 7.0}, {"Id_GV", 57.0}, {"Localidad", "Llanes"}});
+        for (const double id : {57001.0, 57002.0}) {
+            Poner("T_Sementales", {{"Id_Semental", id},
+                                   {"Nombre", id == 57001 ? "Ares" : "Brío"},
+                                   {"NombreC", id == 57001 ? "Ares-C" : "Brío"},
+                                   {"Id_Ganadero", 57.0},
+                                   {"Cularidad", "G-Culón"},
+                                   {"FechaNac", F("6/8/2011")}});
+            for (const char* tabla : {"T_Servicios", "T_Partos"})
+                Poner(tabla, {{"Id_Semental", id}, {"Semental", "Viejo"}});
+            Poner("T_PatologiaSemR", {{"Id_Animal", id}, {"ANatural", 2020}, {"IBR", "Dudosa"}});
+        }
+        Poner("T_PatologiaSem", {{"Id_Animal", 57001.0}, {"ANatural", 2019}, {"IBRsp", "rara"}});
+        Poner("T_PatologiaSem", {{"Id_Animal", 57001.0}, {"ANatural", 2021}, {"BVDsp", "Negativa"}});
+        Poner("T_FechasVacu", {{"Id_Ganadero", 57.0}, {"Ln", 1}, {"IBR", F("20/4/2017")}});
+        f = std::make_unique<Sementales>(sesion);
+        Mostrar(*f);
+    }
+
+    QComboBox* Combo(const char* nombre) { return f->findChild<QComboBox*>(QString::fromUtf8(nombre)); }
+    QString Ganadero(int i) {
+        return f->findChild<QLabel*>(QStringLiteral("Et_Ganadero(%1)").arg(i))->text();
+    }
+    RejillaPatologia* Rejilla(const char* nombre) {
+        return static_cast<RejillaPatologia*>(f->findChild<QTableWidget*>(QString::fromUtf8(nombre)));
+    }
+    QString Botones() { return Encendidos(*f, "B_Borrar"); }
+    // Presses an icon and takes a row of the selector that it opens.
+    void Buscar(int icono, int fila) {
+        QTimer::singleShot(0, f.get(), [this, fila] {
+            auto* lista = QApplication::activeModalWidget()->findChild<QTableView*>();
+            lista->setCurrentIndex(lista->model()->index(fila, 0));
+            QTest::keyClick(lista, Qt::Key_Return);
+        });
+        f->findChild<QToolButton*>(QStringLiteral("IconoBusDato(%1)").arg(icono))->click();
+        Mostrar(*f); // active again after the selector
+    }
+    // Opens the cell by typing, and ends with a key.
+    void Escribir(RejillaPatologia* r, int fila, int columna, const char* texto, Qt::Key fin = Qt::Key_Tab) {
+        f->findChild<QTabWidget*>()->setCurrentIndex(1);
+        r->setFocus();
+        r->setCurrentCell(fila, columna);
+        QTest::keyClicks(r, QString::fromUtf8(texto).left(1));
+        QVERIFY(QApplication::focusWidget() != r);
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(texto).mid(1));
+        QTest::keyClick(QApplication::focusWidget(), fin);
+    }
+    QString Fila(RejillaPatologia* r, int fila) {
+        QStringList t;
+        for (int c = 0; c < r->columnCount(); ++c)
+            t << r->item(fila, c)->text();
+        return t.join(QLatin1Char('|'));
+    }
+};
+
+const char* const kCopias =
+    "SELECT T_Servicios.Semental, T_Partos.Semental FROM T_Servicios INNER JOIN T_Partos ON "
+    "T_Servicios.Id_Semental = T_Partos.Id_Semental ORDER BY T_Partos.Id_Semental";
+
+} // namespace
+
+class PruebaSementales : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Adding: the messages in their order, the proposed code, the compound name, a code that is taken.
+    void Alta() {
+        Puesto p;
+        QCOMPARE(Mnemonicos(*p.f), QStringLiteral("ABCDEFGHIJLMNOPRSTUVZ"));
+        QCOMPARE(p.Botones(), QStringLiteral("AR"));
+        BotonDe(*p.f, "B_Añadir")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("Seleccione el Ganadero al que le va añadir un Toro"));
+        QCOMPARE(p.Botones(), QStringLiteral("AR"));
+        p.Buscar(1, 1);
+        QCOMPARE(p.Ganadero(0) + p.Ganadero(1) + p.Ganadero(2), QStringLiteral("57La XuanLlanes"));
+        QCOMPARE(p.Botones(), QStringLiteral("AR")); // no bull, nothing to modify
+        BotonDe(*p.f, "B_Añadir")->click();
+        QCOMPARE(CampoDe(*p.f, 0)->text(), QStringLiteral("57003"));
+        QVERIFY(p.f->focusWidget() == CampoDe(*p.f, 0) && CampoDe(*p.f, 0)->hasSelectedText());
+        QVERIFY(!p.Rejilla("GridPatologia")->isEnabled());
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("Debe incluir como mínimo el Código y el Nombre"));
+        Teclear(*p.f, 1, "Ceo");
+        p.Combo("CD_Cularidad")->setCurrentIndex(1);
+        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Ceo-N"));
+        Teclear(*p.f, 1, "Cobalto");
+        QTest::keyClick(CampoDe(*p.f, 1), Qt::Key_Tab);
+        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Cobalto-N"));
+        Teclear(*p.f, 0, "57002");
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("Codigo no Valido, Cambielo por Otro"));
+        QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        Teclear(*p.f, 0, "57003");
+        Teclear(*p.f, 14, "-0,119");
+        Teclear(*p.f, 19, "31/2/26"); // no date
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Texto("SELECT Nombre, NombreC, Id_Ganadero, Cularidad, MG_PN, FechaAlta, FechaNac, "
+                         "FechaBaja, CBaja, "
+                         "OtraCausa, ToroP, Origen FROM T_Sementales WHERE Id_Semental = 57003"),
+                 std::string("Cobalto|Cobalto-N|57|G-Normal|-0,119|22/11/26|-|-|-|-|-|-"));
+        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+        QVERIFY(p.Rejilla("GridPatologia")->isEnabled());
+        // of farmer 1 the same class marks an insemination bull
+        p.Buscar(1, 0);
+        QCOMPARE(p.Ganadero(1), QStringLiteral("Centro de IA"));
+        QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        p.Combo("CD_Cularidad")->setCurrentIndex(3);
+        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Cobalto(IA)-C"));
+        p.Combo("CD_Cularidad")->setCurrentIndex(0);
+        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Cobalto"));
+    }
+
+    // Modifying: what reaches services and calvings, what dates and codes are kept, what an apostrophe stops.
+    void Modificacion() {
+        Puesto p;
+        p.f->CargarFicha(57001);
+        QCOMPARE(p.Ganadero(1), QStringLiteral("La Xuan"));
+        QCOMPARE(p.Combo("CD_Cularidad")->currentText(), QStringLiteral("G-Culón"));
+        Teclear(*p.f, 1, "Argos");
+        QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        QTest::keyClick(CampoDe(*p.f, 1), Qt::Key_Tab);
+        Teclear(*p.f, 0, "99");
+        Teclear(*p.f, 6, "31/2/20");
+        Teclear(*p.f, 19, "1/2/26");
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("El Código no se puede cambiar"));
+        const char* const toro =
+            "SELECT Id_Semental, NombreC, FechaNac, FechaBaja FROM T_Sementales WHERE Nombre = 'Argos'";
+        QCOMPARE(p.Texto(toro), std::string("57001|Argos-C|06/08/11|01/02/26"));
+        QCOMPARE(p.Texto(kCopias), std::string("Argos-C|Argos-C/Viejo|Viejo"));
+        Teclear(*p.f, 19, "x");
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Texto(toro), std::string("57001|Argos-C|06/08/11|-"));
+
+        Teclear(*p.f, 2, "L'Argos");
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.cajas.Vistas().size(), 1); // the store's own cause
+        QCOMPARE(p.Texto(toro), std::string("57001|L'Argos|06/08/11|-"));
+        QCOMPARE(p.Texto(kCopias), std::string("Argos-C|Argos-C/Viejo|Viejo"));
+        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+
+        // saved with the keyboard from the name itself, which is not left
+        Teclear(*p.f, 1, "Argos");
+        QTest::keyClick(p.f.get(), Qt::Key_G, Qt::AltModifier);
+        QTRY_COMPARE(p.Texto(toro), std::string("57001|Argos-C|06/08/11|-"));
+        QCOMPARE(p.Texto(kCopias), std::string("Argos-C|Argos-C/Viejo|Viejo"));
+    }
+
+    void Baja() {
+        Puesto p;
+        p.Poner("T_Sementales", {{"Id_Semental", 9.0},
+                                 {"Nombre", "X"},
+                                 {"Id_Ganadero", 57.0},
+                                 {"CBaja", "Robo"},
+                                 {"OtraCausa", "con nocturnidad"},
+                                 {"Raza", "a. valles"}});
+        p.f->CargarFicha(9);
+        auto* causa = p.Combo("CD_CBaja");
+        auto* otra = p.f->findChild<QLineEdit*>(QStringLiteral("CtextoBaja"));
+        QCOMPARE(causa->currentText(), QString()); // unknown: nothing is chosen, and nothing is stored
+        QVERIFY(!otra->isEnabled());
+        QCOMPARE(p.Combo("CD_Raza")->currentText(), QStringLiteral("A. Valles"));
+        Teclear(*p.f, 13, "B+");
+        BotonDe(*p.f, "B_Guardar")->click();
+        const char* const fila = "SELECT Raza, CBaja, OtraCausa FROM T_Sementales WHERE Id_Semental = 9";
+        QCOMPARE(p.Texto(fila), std::string("A. Valles|-|con nocturnidad"));
+        BotonDe(*p.f, "B_Modificar")->click();
+        causa->setCurrentIndex(causa->findText(QStringLiteral("Otra")));
+        QVERIFY(otra->isEnabled());
+        causa->setCurrentIndex(0); // taken back
+        QVERIFY(!otra->isEnabled());
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Texto(fila), std::string("A. Valles|-|con nocturnidad"));
+    }
+
+    void Eliminar() {
+        Puesto p;
+        p.f->CargarFicha(57001);
+        p.cajas.Responder(true);
+        BotonDe(*p.f, "B_Borrar")->click();
+        const auto cajas = p.cajas.Vistas();
+        QCOMPARE(cajas[0].titulo + cajas[0].texto,
+                 QStringLiteral("Confirme EliminarEliminar Semental: Ares"));
+        QCOMPARE(p.Texto("SELECT Id_Semental FROM T_Sementales"), std::string("57002"));
+        QCOMPARE(p.Texto("SELECT Id_Animal FROM T_PatologiaSem"), std::string());
+        QCOMPARE(p.Texto("SELECT Id_Animal FROM T_PatologiaSemR ORDER BY Id_Animal"),
+                 std::string("57001/57002"));
+        QCOMPARE(p.Texto(kCopias), std::string("Viejo|Viejo/Viejo|Viejo"));
+        QCOMPARE(CampoDe(*p.f, 1)->text() + p.Ganadero(0), QStringLiteral("57"));
+        QVERIFY(!p.Rejilla("GridPatologia")->isEnabled());
+        // a code that is not there clears the sheet, and the one before it can be looked for again
+        p.f->CargarFicha(57002);
+        Teclear(*p.f, 0, "57001");
+        QTest::keyClick(CampoDe(*p.f, 0), Qt::Key_Return);
+        QCOMPARE(p.cajas.Tomar(), QStringList{QStringLiteral("Atención...|No Encuentro el Codigo: 57001")});
+        QCOMPARE(CampoDe(*p.f, 0)->text() + CampoDe(*p.f, 1)->text(), QString());
+        QCOMPARE(p.Botones(), QStringLiteral("AR"));
+        Teclear(*p.f, 0, "57002");
+        QTest::keyClick(CampoDe(*p.f, 0), Qt::Key_Return);
+        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Brío"));
+    }
+
+    void Busquedas() {
+        Puesto p;
+        p.Poner("T_Vacas", {{"Id_Vaca", 57009.0},
+                            {"Id_Ganadero", 57.0},
+                            {"Nombre", "Mora"},
+                            {"NombreC", "Mora-A"},
+                            {"RegGenealogico", "AV1"},
+                            {"RegSaneam", "77"}});
+        p.Buscar(4, 1); // by merit, without any farmer
+        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Brío"));
+        p.Buscar(3, 0);
+        QCOMPARE(CampoDe(*p.f, 10)->text() + CampoDe(*p.f, 11)->text() + CampoDe(*p.f, 12)->text(),
+                 QStringLiteral("Mora-AAV177"));
+        QCOMPARE(p.Botones(), QStringLiteral("GC")); // choosing began a modification
+        p.Buscar(2, 0);
+        QCOMPARE(CampoDe(*p.f, 7)->text(), QStringLiteral("Ares-C"));
+        p.cajas.Responder(false); // what is being edited is not lost unasked
+        p.Buscar(0, 0);
+        QVERIFY(p.Caja().startsWith(QLatin1String("Hay cambios sin guardar")));
+        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Brío"));
+        p.cajas.Responder(true);
+        p.Buscar(0, 0);
+        p.cajas.Vistas();
+        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Ares"));
+        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+    }
+
+    void Serologias() {
+        Puesto p;
+        p.f->CargarFicha(57001);
+        auto* r = p.Rejilla("GridPatologia");
+        const char* const filas =
+            "SELECT ANatural, Edad, IBRsp, BVDsp, NeospBp FROM T_PatologiaSem ORDER BY ANatural";
+        QCOMPARE(r->rowCount(), 3); // two lines and the empty one
+        QCOMPARE(p.Fila(r, 0), QStringLiteral("2021|10|||Negativa|||"));
+        p.Escribir(r, 2, 0, "2021");
+        QCoreApplication::processEvents();
+        QCOMPARE(p.cajas.Tomar(),
+                 QStringList{QStringLiteral("Atención|Ya existe una línea para el año natural 2021")});
+        QCOMPARE(r->rowCount(), 3);
+        p.Escribir(r, 2, 0, "x20z23"); // digits only; Tab passes over the age, which is derived
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Cb_IBR(0)"));
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("d"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(p.Texto(filas), std::string("2019|8|rara|-|-/2021|10|-|Negativa|-/2023|12|Dudosa|-|-"));
+        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+        // a result waits for its year
+        p.Escribir(r, 3, 7, "p");
+        QCOMPARE(p.Texto("SELECT ANatural FROM T_PatologiaSem ORDER BY ANatural"),
+                 std::string("2019/2021/2023"));
+        p.cajas.Responder(false);
+        p.f->reject();
+        QVERIFY(p.Caja().startsWith(QStringLiteral("Hay patologías sin guardar")));
+        BotonDe(*p.f, "B_Modificar")->click();
+        BotonDe(*p.f, "B_Guardar")->click();
+        QCOMPARE(p.Fila(r, 0).left(4), QStringLiteral("2023")); // newest first again
+        Teclear(*p.f, 6, "");
+        p.Escribir(r, 3, 0, "2024");
+        QCOMPARE(p.Fila(r, 3), QStringLiteral("2024|||||||Positiva"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("1999"));
+        BotonDe(*p.f, "B_Cancelar")->click(); // what the open editor holds is of no line any more
+        // an out-of-list value is offered to be kept; the list puts in what is chosen
+        QTest::mouseClick(r->viewport(), Qt::LeftButton, {}, r->visualItemRect(r->item(3, 2)).center());
+        auto* combo = static_cast<QComboBox*>(r->indexWidget(r->currentIndex()));
+        QCOMPARE(combo->currentText(), QStringLiteral("rara"));
+        QCOMPARE(combo->itemText(3), QStringLiteral("Dudosa"));
+        QTest::keyClick(combo->view(), Qt::Key_Up);
+        QTest::keyClick(combo->view(), Qt::Key_Return);
+        QTRY_COMPARE(
+            p.Texto(filas),
+            std::string("2019|8|Dudosa|-|-/2021|10|-|Negativa|-/2023|12|Dudosa|-|-/2024|13|-|-|Positiva"));
+        // deletion begins a modification, and asks
+        for (const bool si : {false, true}) {
+            r->setFocus();
+            r->setCurrentCell(3, 0);
+            p.cajas.Responder(si);
+            QTest::keyClick(r, Qt::Key_Delete);
+            QCOMPARE(p.cajas.Tomar(), QStringList{QStringLiteral("Eliminar|Confirme Eliminar")});
+            QCOMPARE(p.Botones(), QStringLiteral("GC"));
+            QCOMPARE(r->rowCount(), si ? 4 : 5);
+        }
+        QCOMPARE(p.Texto("SELECT ANatural FROM T_PatologiaSem ORDER BY ANatural"),
+                 std::string("2021/2023/2024"));
+        r->setCurrentCell(3, 0);
+        QTest::keyClick(r, Qt::Key_Delete); // the empty line: nothing to ask
+        BotonDe(*p.f, "B_Cancelar")->click();
+    }
+
+    void VacunasYObservaciones() {
+        Puesto p;
+        p.f->CargarFicha(57001);
+        auto* r = p.Rejilla("GridPatologiaR");
+        p.Escribir(r, 0, 4, "ConvB");
+        p.Escribir(r, 0, 1, "2");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(p.Texto("SELECT ANatural, VIBR, VBVD, IBR FROM T_PatologiaSemR WHERE Id_Animal = 57001"),
+                 std::string("2020|20/04/17|-|ConvBp"));
+
+        auto* memo = p.f->findChild<QPlainTextEdit*>(QStringLiteral("CT_Estandar(21)"));
+        const char* const obs = "SELECT ObsPatologia FROM T_Sementales WHERE Id_Semental = 57001";
+        const auto escribir = [&](const char* texto) {
+            memo->setFocus();
+            memo->selectAll();
+            QTest::keyClicks(memo, QString::fromUtf8(texto));
+            QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        };
+        escribir("limpia");
+        QTest::keyClick(memo, Qt::Key_Return);
+        BotonDe(*p.f, "B_GuardarPato")->click();
+        QCOMPARE(p.Texto(obs), std::string("limpia\r\n"));
+        QCOMPARE(p.Botones(), QStringLiteral("AMER")); // nothing else was being changed
+        escribir("d'afuera");
+        BotonDe(*p.f, "B_GuardarPato")->click();
+        QVERIFY(p.cajas.Vistas().size() == 1);
+        QCOMPARE(p.Texto(obs), std::string("limpia\r\n"));
+        QCOMPARE(memo->toPlainText(), QStringLiteral("d'afuera"));
+        BotonDe(*p.f, "B_Guardar")->click(); // the sheet's own save takes it
+        QCOMPARE(p.Texto(obs), std::string("d'afuera"));
+        escribir("otra");
+        Teclear(*p.f, 13, "B");
+        BotonDe(*p.f, "B_CancelarPato")->click();
+        QCOMPARE(memo->toPlainText(), QStringLiteral("d'afuera"));
+        QCOMPARE(CampoDe(*p.f, 13)->text() + p.Botones(), QStringLiteral("BGC"));
+        memo->selectAll();
+        QTest::keyClick(memo, Qt::Key_Delete);
+        BotonDe(*p.f, "B_GuardarPato")->click();
+        QCOMPARE(p.Texto(obs), std::string("-"));
+        BotonDe(*p.f, "B_Cancelar")->click();
+    }
+
+    // Every bull of the example, saved as it was shown, is the row that it was.
+    void VuelvenIguales() {
+        PuestoDeFichas p;
+        const auto copia = p.carpeta.filePath(QStringLiteral("P.mdb"));
+        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_EJEMPLO "/BD_PradalP.mdb"), copia));
+        p.sesion.conexion.Cerrar();
+        p.sesion.conexion.AbrirFichero(copia.toStdString(), kClave);
+        const char* const todas[] = {
+            "SELECT * FROM T_Sementales ORDER BY Id_Semental",
+            "SELECT Id_Semental, FechaNac, MG_PN FROM T_Sementales ORDER BY Id_Semental"};
+        const auto antes = p.Texto(todas[0]);
+        QVERIFY(!antes.empty());
+        Sementales f(p.sesion);
+        for (Recordset rs(p.sesion.conexion, todas[1]); !rs.Eof(); rs.Siguiente()) {
+            QVERIFY(f.CargarFicha(rs["Id_Semental"].Numero()));
+            f.Modificar();
+            f.Guardar();
+        }
+        QCOMPARE(p.cajas.Vistas().size(), 0);
+        QCOMPARE(QString::fromStdString(p.Texto(todas[0])), QString::fromStdString(antes));
+    }
+};
+
+PRUEBA(PruebaSementales)
+#include "PruebaSementales.moc"

@@ -1,0 +1,120 @@
+#include "BaseDePrueba.h"
+#include "prueba.h"
+
+#include "registers/sementales/PatologiasSemental.h"
+#include "registers/sementales/ReglasSemental.h"
+
+using namespace pastorix;
+using namespace prueba;
+
+// What the bull file does to the database, without its window.
+class PruebaSementalesDatos : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Codigo_data() {
+        QTest::addColumn<double>("ganadero");
+        QTest::addColumn<QList<double>>("toros"); // his
+        QTest::addColumn<QString>("propuesto");
+        QTest::newRow("farmer 1 counts from 1") << 1.0 << QList<double>{} << "1";
+        QTest::newRow("farmer 1 goes on") << 1.0 << QList<double>{1, 36} << "37";
+        QTest::newRow("first of a farmer") << 57.0 << QList<double>{} << "57001";
+        QTest::newRow("second") << 57.0 << QList<double>{57001} << "57002";
+        QTest::newRow("long code") << 57000.0 << QList<double>{57000099} << "57000100";
+        QTest::newRow("number equal to the code") << 3040.0 << QList<double>{3039} << "3040";
+        QTest::newRow("foreign small number") << 3040.0 << QList<double>{12} << "3040013";
+        QTest::newRow("order of entry does not matter") << 57.0 << QList<double>{57009, 57002} << "57010";
+    }
+    void Codigo() {
+        QFETCH(double, ganadero);
+        QFETCH(QList<double>, toros);
+        QFETCH(QString, propuesto);
+        Base b;
+        b.Poner("T_Sementales", {{"Id_Semental", 99999999.0}, {"Id_Ganadero", 2.0}}); // another's
+        for (const double t : toros)
+            b.Poner("T_Sementales", {{"Id_Semental", t}, {"Id_Ganadero", ganadero}});
+        QCOMPARE(QString::fromStdString(CodigoDeSemental(b.c, ganadero)), propuesto);
+    }
+
+    void NombresYEdades() {
+        for (const auto& [clase, ganadero, nombre] : {std::array{"G-Culón", "1", "Ares(IA)-C"},
+                                                      {"G-Culón", "2", "Ares-C"},
+                                                      {"G-Aculonado", "11", "Ares-A"},
+                                                      {"g-normal", "1", "Ares(IA)-n"},
+                                                      {"Normal", "1", "Ares"},
+                                                      {"", "1", "Ares"},
+                                                      {"G", "2", "Ares-"}})
+            QCOMPARE(NombreCompuesto("Ares", clase, ganadero), std::string(nombre));
+        for (const auto& [nacido, año, edad] : {std::array{"31/12/11", "2017", "6"},
+                                                {"1/1/11", "2017", "6"},
+                                                {"1/1/2011", "17", "6"},
+                                                {"1/1/2011", "2011", "0"},
+                                                {"5/5/98", "2001", "3"},
+                                                {"1/1/2020", "1950", "-70"},
+                                                {"1/1/2020", "2049", "29"},
+                                                {"", "2017", ""},
+                                                {"31/2/11", "2017", ""},
+                                                {"1/1/11", "", ""}})
+            QCOMPARE(EdadEnAño(nacido, año), std::string(edad));
+    }
+
+    void NombreYBorrado() {
+        Base b;
+        for (const double id : {57001.0, 57002.0}) {
+            b.Poner("T_Sementales", {{"Id_Semental", id}, {"Id_Ganadero", 57.0}});
+            b.Poner("T_Servicios", {{"Id_Semental", id}, {"Semental", "Viejo"}});
+            b.Poner("T_Partos", {{"Id_Semental", id}, {"Semental", "Viejo"}});
+            b.Poner("T_PatologiaSem", {{"Id_Animal", id}, {"ANatural", 2020}});
+            b.Poner("T_PatologiaSemR", {{"Id_Animal", id}, {"ANatural", 2020}});
+        }
+        ExtenderNombre(b.c, "Ñeru-C", 57001);
+        const char* const copias =
+            "SELECT T_Servicios.Semental, T_Partos.Semental FROM T_Servicios INNER JOIN T_Partos ON "
+            "T_Servicios.Id_Semental = T_Partos.Id_Semental ORDER BY T_Partos.Id_Semental";
+        QCOMPARE(b.Texto(copias), std::string("Ñeru-C|Ñeru-C/Viejo|Viejo"));
+        QVERIFY_EXCEPTION_THROWN(ExtenderNombre(b.c, "L'Oteru", 57001), ErrorAlmacen);
+        QCOMPARE(b.Texto(copias), std::string("Ñeru-C|Ñeru-C/Viejo|Viejo"));
+        BorrarSemental(b.c, 57001);
+        QCOMPARE(b.Texto("SELECT Id_Semental FROM T_Sementales"), std::string("57002"));
+        QCOMPARE(b.Texto("SELECT Id_Animal FROM T_PatologiaSem"), std::string("57002"));
+        QCOMPARE(b.Texto("SELECT Id_Animal FROM T_PatologiaSemR ORDER BY Id_Animal"),
+                 std::string("57001/57002"));
+        QCOMPARE(b.Texto(copias), std::string("Ñeru-C|Ñeru-C/Viejo|Viejo"));
+    }
+
+    // Two rows of one year, a column that the grid does not know and an age that does not read as a whole number go back as they were.
+    void PatologiasVuelvenIguales() {
+        Base b;
+        b.c.Execute("ALTER TABLE T_PatologiaSemR ADD COLUMN Nota DOUBLE");
+        for (const double nota : {1.5, 2.5})
+            b.Poner("T_PatologiaSemR",
+                    {{"Id_Animal", 1.0}, {"ANatural", 2020}, {"IBR", "rara"}, {"Nota", nota}});
+        b.Poner("T_PatologiaSemR", {{"Id_Animal", 1.0}, {"ANatural", 2021}});
+        b.Poner("T_PatologiaSemR", {{"Id_Animal", 2.0}, {"ANatural", 2020}});
+        b.Poner("T_PatologiaSem", {{"Id_Animal", 1.0}, {"ANatural", 2020}, {"Edad", 1.0 / 3}});
+        for (const auto* d : {&PatologiaSem(), &PatologiaSemR()}) {
+            const auto todo = std::string("SELECT * FROM ") + d->tabla + " ORDER BY Id_Animal, ANatural DESC";
+            const auto antes = b.Texto(todo);
+            auto lineas = LeerPatologias(b.c, *d, 1);
+            lineas.emplace_back().celdas.resize(d->columnas.size()); // without a year
+            GuardarPatologias(b.c, *d, 1, lineas);
+            QCOMPARE(QString::fromStdString(b.Texto(todo)), QString::fromStdString(antes));
+        }
+        Recordset rs(b.c, "SELECT Edad FROM T_PatologiaSem");
+        QCOMPARE(rs["Edad"].Numero(), 1.0 / 3);
+    }
+
+    void Vacunas() {
+        Base b;
+        b.Poner("T_FechasVacu",
+                {{"Id_Ganadero", 57.0}, {"Ln", 2}, {"IBR", F("4/5/2021")}, {"BVD", F("1/1/2020")}});
+        b.Poner("T_FechasVacu", {{"Id_Ganadero", 57.0}, {"Ln", 1}, {"IBR", F("20/4/2017")}});
+        b.Poner("T_FechasVacu", {{"Id_Ganadero", 57.0}, {"Ln", 3}, {"IBR", F("4/5/2021")}});
+        b.Poner("T_FechasVacu", {{"Id_Ganadero", 2.0}, {"Ln", 1}, {"IBR", F("9/9/2019")}});
+        QCOMPARE(FechasDeVacuna(b.c, 57, "IBR"), (std::vector<std::string>{"20/04/17", "04/05/21"}));
+        QCOMPARE(FechasDeVacuna(b.c, 57, "NEOSPORA"), std::vector<std::string>{});
+    }
+};
+
+PRUEBA(PruebaSementalesDatos)
+#include "PruebaSementalesDatos.moc"
