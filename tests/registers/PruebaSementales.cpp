@@ -190,7 +190,7 @@ private Q_SLOTS:
         Teclear(*p.f, 13, "B+");
         BotonDe(*p.f, "B_Guardar")->click();
         const char* const fila = "SELECT Raza, CBaja, OtraCausa FROM T_Sementales WHERE Id_Semental = 9";
-        QCOMPARE(p.Texto(fila), std::string("A. Valles|-|con nocturnidad"));
+        QCOMPARE(p.Texto(fila), std::string("a. valles|-|con nocturnidad"));
         BotonDe(*p.f, "B_Modificar")->click();
         causa->setCurrentIndex(causa->findText(QStringLiteral("Otra")));
         QVERIFY(otra->isEnabled());

@@ -6,6 +6,7 @@
 #include "frame/calendario/Reloj.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
+#include "store/Textos.h"
 
 #include <QComboBox>
 
@@ -129,7 +130,8 @@ void Ficha::EscribirCampos(Recordset& rs) {
     }
     for (const auto& c : m_definicion.combos) {
         const auto texto = Combo(c.nombre).currentText().toStdString();
-        rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
+        if (texto.empty() || !IgualSinCaso(texto, rs[c.columna].Texto()))
+            rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
     }
 }
 
