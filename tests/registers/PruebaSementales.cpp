@@ -197,7 +197,7 @@ private Q_SLOTS:
         causa->setCurrentIndex(0); // taken back
         QVERIFY(!otra->isEnabled());
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Texto(fila), std::string("A. Valles|-|con nocturnidad"));
+        QCOMPARE(p.Texto(fila), std::string("a. valles|-|con nocturnidad"));
     }
 
     void Eliminar() {
