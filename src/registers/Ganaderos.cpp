@@ -3,6 +3,7 @@
 #include "frame/Ciclo.h"
 #include "frame/Mensajes.h"
 #include "frame/calendario/Calendario.h"
+#include "frame/ficha/Pestañas.h"
 #include "registers/Borrados.h"
 #include "registers/DarBaja.h"
 #include "registers/Direccion.h"
@@ -91,6 +92,7 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     PonerPestañas();
     LlenarVeterinarios();
     RefrescarEncabezado();
+    ConectarPestañas(*m_tab);
     TerminarConstruccion(m_bajas[1]);
 }
 

@@ -1,6 +1,7 @@
 #include "registers/sementales/Sementales.h"
 
 #include "frame/Mensajes.h"
+#include "frame/ficha/Pestañas.h"
 #include "registers/EncabezadoGanadero.h"
 #include "registers/sementales/DefinicionSementales.h"
 #include "registers/sementales/ReglasSemental.h"
@@ -28,7 +29,7 @@ Sementales::Sementales(Sesion& sesion, QWidget* padre)
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
     m_tab->addTab(CrearPatologias(), QStringLiteral(" Patologías "));
     m_tab->addTab(CrearBaja(), QStringLiteral(" Baja "));
-    ConectarTeclas();
+    ConectarPestañas(*m_tab);
     OrdenarTabulador();
     Conectar();
     MostrarGanadero({});

@@ -47,7 +47,6 @@ private:
     QWidget* CrearPatologias();
     QWidget* CrearBaja();
     QWidget* CrearObservaciones(QWidget* padre);
-    void ConectarTeclas();
     void OrdenarTabulador();
     void Conectar();
 

@@ -9,7 +9,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -123,16 +122,6 @@ QWidget* Sementales::CrearBaja() {
     connect(m_otraCausa, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
     todo->addStretch();
     return baja;
-}
-
-// Ctrl and the tab's number bring it up.
-void Sementales::ConectarTeclas() {
-    for (int i = 0; i < m_tab->count(); ++i) {
-        const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
-        connect(new QShortcut(tecla, this), &QShortcut::activated, this,
-                [this, i] { m_tab->setCurrentIndex(i); });
-        m_tab->setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
-    }
 }
 
 // Reading order, whatever order the controls were made in.

@@ -1,4 +1,5 @@
 // The cow's sheet: its layout, and what its controls are bound to.
+#include "frame/ficha/Pestañas.h"
 #include "registers/EncabezadoGanadero.h"
 #include "registers/sanidad/PaginaCC.h"
 #include "registers/sanidad/PaginaIBR.h"
@@ -131,12 +132,7 @@ void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
 void Vacas::ConectarTeclas() {
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
             [this] { AbrirObservaciones(); });
-    for (int i = 0; i < m_tab->count(); ++i) {
-        const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
-        connect(new QShortcut(tecla, this), &QShortcut::activated, this,
-                [this, i] { m_tab->setCurrentIndex(i); });
-        m_tab->setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
-    }
+    ConectarPestañas(*m_tab);
 }
 
 } // namespace pastorix

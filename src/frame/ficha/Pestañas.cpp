@@ -1,0 +1,35 @@
+#include "frame/ficha/Pestañas.h"
+
+#include <QShortcut>
+#include <QTabWidget>
+
+namespace pastorix {
+
+namespace {
+
+void EntrarEn(QWidget& pagina) {
+    for (auto* w = pagina.nextInFocusChain(); w != &pagina; w = w->nextInFocusChain())
+        if (pagina.isAncestorOf(w) && w->isVisible() && w->isEnabled() && (w->focusPolicy() & Qt::TabFocus))
+            return w->setFocus(Qt::TabFocusReason);
+}
+
+} // namespace
+
+void ConectarPestañas(QTabWidget& pestañas) {
+    for (int i = 0; i < pestañas.count(); ++i) {
+        const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
+        QObject::connect(new QShortcut(tecla, pestañas.window()), &QShortcut::activated, &pestañas,
+                         [&pestañas, i] {
+                             if (!pestañas.isTabEnabled(i))
+                                 return;
+                             const auto* foco = pestañas.window()->focusWidget();
+                             const bool dentro = foco && pestañas.isAncestorOf(foco);
+                             pestañas.setCurrentIndex(i);
+                             if (dentro)
+                                 EntrarEn(*pestañas.currentWidget());
+                         });
+        pestañas.setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
+    }
+}
+
+} // namespace pastorix
