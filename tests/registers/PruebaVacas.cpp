@@ -223,6 +223,24 @@ private Q_SLOTS:
         QCOMPARE(p.Texto("SELECT FechaBaja, FechaDesecho FROM T_Vacas WHERE Id_Vaca = 1200001"),
                  std::string("-|-"));
 
+        // Ctrl+S saves what the focus is in: a page by itself, or the sheet
+        const auto guardar = [&](const char* control) {
+            f.findChild<QWidget*>(QString::fromUtf8(control))->setFocus();
+            QTest::keyClick(&f, Qt::Key_S, Qt::ControlModifier);
+        };
+        const char* const observaciones = "SELECT ObsDesecho, ObsCC FROM T_Vacas WHERE Id_Vaca = 1200001";
+        auto* pestañas = f.findChild<QTabWidget*>(QStringLiteral("TabVacas"));
+        for (const auto& [pestaña, campo] : {std::pair{4, "CT_ObsCC"}, {5, "CT_Estandar(22)"}}) {
+            pestañas->setCurrentIndex(pestaña);
+            f.findChild<QPlainTextEdit*>(QString::fromUtf8(campo))->insertPlainText(QStringLiteral("nota"));
+        }
+        pestañas->setCurrentIndex(4);
+        guardar("CT_ObsCC");
+        QTRY_COMPARE(p.Texto(observaciones), std::string("-|nota"));
+        QVERIFY(BotonDe(f, "B_Guardar")->isEnabled());
+        guardar("CT_Estandar(7)");
+        QTRY_COMPARE(p.Texto(observaciones), std::string("nota|nota"));
+
         // one calving: both twins and the fattening record of this cow's calf, not that of another's
         auto* partos = f.findChild<QTableWidget*>(QStringLiteral("GridPartos"));
         f.findChild<QTabWidget*>()->setCurrentIndex(1);

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <QToolButton>
 
 #include <algorithm>
@@ -56,6 +57,9 @@ void Ficha::ConectarBarra() {
     alPulsar(BarraFicha::Cancelar, &Ficha::Cancelar);
     connect((*m_barra)[BarraFicha::Cerrar], &QPushButton::clicked, this, &QDialog::close);
     (*m_barra)[BarraFicha::Cerrar]->setFocusPolicy(Qt::StrongFocus);
+    (*m_barra)[BarraFicha::Guardar]->setToolTip(QStringLiteral("Ctrl+S"));
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this), &QShortcut::activated, this,
+            [this] { GuardarLoCercano(); });
 }
 
 void Ficha::TerminarConstruccion(QWidget* ultimo) {

@@ -14,11 +14,15 @@
 
 class QComboBox;
 class QGridLayout;
+class QPushButton;
 class QToolButton;
 
 namespace pastorix {
 
 class Recordset;
+
+// A button that saves a page by itself, apart from the sheet: Ctrl+S presses it while the focus is in the page.
+void MarcarGuardarDePagina(QPushButton& boton);
 
 // The record sheet: one row of a table, shown, added, changed, deleted. A sheet derives from it with its table of fields, and says through the
 // hooks below only where it differs. The database is written when the user saves, as one durable unit.
@@ -39,6 +43,9 @@ public:
     void Eliminar();
     void Guardar();
     void Cancelar();
+
+    // Ctrl+S: what stands around the focus is saved, by the button of its page or by the sheet's own.
+    void GuardarLoCercano();
 
     void reject() override; // Escape, Cerrar, the window's cross: not over changes that nobody has saved
 

@@ -9,8 +9,38 @@
 #include "store/Textos.h"
 
 #include <QComboBox>
+#include <QPushButton>
 
 namespace pastorix {
+
+namespace {
+
+constexpr const char* kGuardaPagina = "guardaPagina";
+
+// The button that saves what is in view inside the widget; none when there is nothing to save.
+QPushButton* GuardarDe(const QWidget& caja) {
+    for (auto* boton : caja.findChildren<QPushButton*>())
+        if (boton->property(kGuardaPagina).toBool() && boton->isVisible() && boton->isEnabled())
+            return boton;
+    return nullptr;
+}
+
+} // namespace
+
+void MarcarGuardarDePagina(QPushButton& boton) {
+    boton.setProperty(kGuardaPagina, true);
+    boton.setToolTip(QStringLiteral("Ctrl+S"));
+}
+
+void Ficha::GuardarLoCercano() {
+    for (auto* w = focusWidget(); w && w != this; w = w->parentWidget())
+        if (auto* boton = GuardarDe(*w))
+            return boton->click();
+    if (Editando())
+        (*m_barra)[BarraFicha::Guardar]->click();
+    else if (auto* boton = GuardarDe(*this))
+        boton->click();
+}
 
 std::string Ficha::SentenciaDeClave(double clave) const {
     return std::string("Select * FROM ") + m_definicion.tabla + " WHERE " + m_definicion.columnaClave +

@@ -3,6 +3,7 @@
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
 #include "frame/ficha/CampoMemo.h"
+#include "frame/ficha/Ficha.h"
 #include "store/Catalogo.h"
 
 #include <QComboBox>
@@ -45,6 +46,7 @@ void PaginaMateria::CrearNota() {
         return b;
     };
     m_guardar = boton(m_materia.botonGuardar, "guardar", QStringLiteral("Guardar"), &PaginaMateria::Guardar);
+    MarcarGuardarDePagina(*m_guardar);
     m_cancelar =
         boton(m_materia.botonCancelar, "cancelar", QStringLiteral("Cancelar"), &PaginaMateria::Cancelar);
     connect(m_nota, &QPlainTextEdit::modificationChanged, this, [this] { EstadoBotones(); });

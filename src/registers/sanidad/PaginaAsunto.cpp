@@ -3,6 +3,7 @@
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
 #include "frame/ficha/CampoMemo.h"
+#include "frame/ficha/Ficha.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -96,6 +97,7 @@ QWidget* PaginaAsunto::CrearPie() {
         return b;
     };
     m_guardar = boton(m_definicion.guardar, "Guardar ", "guardar", &PaginaAsunto::Guardar);
+    MarcarGuardarDePagina(*m_guardar);
     m_cancelar = boton(m_definicion.cancelar, "Cancelar ", "cancelar", &PaginaAsunto::Cancelar);
     return pie;
 }

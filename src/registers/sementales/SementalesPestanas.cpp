@@ -100,6 +100,7 @@ QWidget* Sementales::CrearObservaciones(QWidget* padre) {
         botones->addWidget(boton);
         m_botonesPato[i++] = boton;
     }
+    MarcarGuardarDePagina(*m_botonesPato[0]);
     Rejilla()->addLayout(botones, 2, 0, 1, 2);
     return caja;
 }
