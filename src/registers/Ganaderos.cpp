@@ -94,6 +94,7 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     RefrescarEncabezado();
     ConectarPestañas(*m_tab);
     TerminarConstruccion(m_bajas[1]);
+    resize(1040, 620); // room for the lists of the yearly data
 }
 
 QWidget* Ganaderos::CrearGeneral() {
