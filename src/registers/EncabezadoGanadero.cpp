@@ -20,8 +20,9 @@ EncabezadoGanadero::EncabezadoGanadero(Conexion& conexion, int icono, QWidget* p
     m_icono->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
     m_icono->setIcon(pastorix::Icono("ganaderos"));
     m_icono->setCursor(CursorMano());
-    m_icono->setToolTip(QStringLiteral("Seleccionar (F4)"));
+    m_icono->setToolTip(QStringLiteral("Seleccionar"));
     m_icono->setShortcut(QKeySequence(Qt::Key_F4));
+    m_icono->setAccessibleDescription(QStringLiteral("F4"));
     m_icono->setAccessibleName(QStringLiteral("Seleccionar ganadero"));
     m_icono->setAutoRaise(true);
     connect(m_icono, &QToolButton::clicked, this, [this] {
@@ -46,8 +47,8 @@ EncabezadoGanadero::EncabezadoGanadero(Conexion& conexion, int icono, QWidget* p
 }
 
 void EncabezadoGanadero::Poner(double idGanadero) {
+    Limpiar(); // should the reading fail, nobody stands there
     const auto id = NumeroSql(idGanadero);
-    m_id = idGanadero;
     std::string nombre;
     std::string localidad;
     Recordset rs(m_c, "Select * FROM T_Ganaderos WHERE Id_Ganadero = " + id);
@@ -59,6 +60,7 @@ void EncabezadoGanadero::Poner(double idGanadero) {
             localidad = ValorDeCampo(m_c, "Select Localidad FROM T_Direcciones WHERE Id_Direccion = " +
                                               NumeroSql(rs["Id_Direccion"].Numero()));
     }
+    m_id = idGanadero;
     m_rotulos[0]->setText(QString::fromStdString(TextoNumero(idGanadero)));
     m_rotulos[1]->setText(QString::fromStdString(nombre));
     m_rotulos[2]->setText(QString::fromStdString(localidad));

@@ -266,9 +266,7 @@ void Ganaderos::MostrarMotivoBaja() {
 }
 
 void Ganaderos::BuscarDato(int) {
-    if (!PermiteDejar())
-        return;
-    if (const auto clave = ElegirGanadero(LaSesion(), this))
+    if (const auto clave = ElegirGanadero(LaSesion(), this); clave && PermiteCargarOtro())
         CargarFicha(*clave);
 }
 

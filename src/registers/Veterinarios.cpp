@@ -1,6 +1,7 @@
 #include "registers/Veterinarios.h"
 
 #include "frame/Entrada.h"
+#include "frame/ficha/Aspecto.h"
 #include "registers/Direccion.h"
 #include "registers/Listas.h"
 #include "store/Recordset.h"
@@ -53,11 +54,7 @@ Veterinarios::Veterinarios(Sesion& sesion, QWidget* padre)
     setObjectName(QStringLiteral("Veterinarios"));
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(CrearRejilla(this));
-    auto* distribucion = new QLabel(QStringLiteral("Control de Distribución"), this);
-    auto negrita = distribucion->font();
-    negrita.setBold(true);
-    distribucion->setFont(negrita);
-    Rejilla()->addWidget(distribucion, 9, 0, 1, 4);
+    Rejilla()->addWidget(Titular(QStringLiteral("Control de Distribución"), this), 9, 0, 1, 4);
     PonerIconoBusDato(0, 0);
     todo->addStretch();
     todo->addWidget(&Barra());
@@ -101,7 +98,7 @@ void Veterinarios::MostrarPropios(Recordset& rs) {
 }
 
 void Veterinarios::BuscarDato(int) {
-    if (const auto clave = ElegirVeterinario(LaSesion(), this))
+    if (const auto clave = ElegirVeterinario(LaSesion(), this); clave && PermiteCargarOtro())
         CargarFicha(*clave);
 }
 

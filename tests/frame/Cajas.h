@@ -2,8 +2,11 @@
 
 #include "frame/Mensajes.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QList>
 #include <QStringList>
+#include <QTimer>
 
 namespace prueba {
 
@@ -14,6 +17,11 @@ public:
     Cajas() {
         m_anterior = pastorix::InstalarRespondedor([this](const pastorix::Mensaje& mensaje) {
             m_vistas << mensaje;
+            if (conVentana) {
+                QDialog ventana(QApplication::activeWindow());
+                QTimer::singleShot(0, &ventana, &QDialog::accept);
+                ventana.exec();
+            }
             pastorix::Respuesta respuesta;
             if (mensaje.clase == pastorix::Mensaje::Clase::Pregunta) {
                 if (m_respuestas.isEmpty())
@@ -33,6 +41,9 @@ public:
     Cajas& operator=(const Cajas&) = delete;
 
     qsizetype Cuantas() const { return m_vistas.size(); }
+    // A real window comes and goes with every box, and takes the focus along as the user's would.
+    bool conVentana = false;
+
     void Responder(bool si) { m_respuestas << si; }
 
     // The boxes since the last look.

@@ -106,6 +106,28 @@ private Q_SLOTS:
         QCOMPARE(cajas.Vistas().size(), 1);
         l.Abandonar();
 
+        // a line being written is not given up for another one unasked
+        l.findChild<QLineEdit*>(QStringLiteral("Ct(0)"))->setText(QStringLiteral("2030"));
+        cajas.Responder(true);
+        grid->setFocus();
+        grid->setCurrentCell(1, 0);
+        QCOMPARE(cajas.Vistas().size(), 1);
+        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Aceptable/2030||"));
+        cajas.Responder(true);
+        grid->setCurrentCell(2, 0);
+        tecla(Qt::Key_Delete);
+        QVERIFY(cajas.Vistas().size() == 1 && !l.EnCurso());
+        cajas.Responder(true);
+        grid->setCurrentCell(1, 0);
+        grid->setCurrentCell(0, 0);
+        tecla(Qt::Key_Delete);
+        QCOMPARE(cajas.Vistas().size(), 1);
+        QCOMPARE(l.findChild<QLineEdit*>(QStringLiteral("Ct(0)"))->text(),
+                 QString()); // not the line that came up
+        tecla(Qt::Key_Insert);
+        linea("2025", "");
+        tecla(Qt::Key_Return);
+
         cajas.Responder(false);
         cajas.Responder(true);
         for (int i = 0; i < 2; ++i) {
@@ -129,9 +151,9 @@ private Q_SLOTS:
                                            {"AlimVacas", std::string("Regular")},
                                            {"AlimPI", std::string("Bueno")}});
         LineasEditables l(kDefinicion);
-        constexpr const char* kOtras[] = {"AlimPI"};
+        const std::string otras[] = {"AlimPI"};
         Recordset rs(b.c, "Select * FROM T_AlimentacionInvernal");
-        l.Mostrar(LeerLineas(rs, kColumnas, kOtras));
+        l.Mostrar(LeerLineas(rs, kColumnas, otras));
         auto* grid = l.findChild<QTableWidget*>();
         grid->setCurrentCell(0, 0);
         grid->cellClicked(0, 0);

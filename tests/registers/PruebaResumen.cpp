@@ -145,13 +145,18 @@ private Q_SLOTS:
             TeclearEn(*tipo, t);
             QTest::keyClick(tipo, Qt::Key_Return);
         };
-        linea("2020", "nuevo"); // a kept row gives way to the line of its year
-        QCOMPARE(tipos(), std::string("2019|viejo/2020|nuevo/2024|-/2025|SE"));
-        rejilla->setCurrentCell(2, 0);
+        linea("2020", "nuevo"); // kept without a line, and so cannot be written over unseen
+        QCOMPARE(p.Caja(), QStringLiteral("Ya existe una línea para el año natural 2020"));
+        QTest::keyClick(tipo, Qt::Key_Escape);
+        linea("2021", "nuevo");
+        QVERIFY(p.Caja().startsWith(QStringLiteral("El año queda guardado, pero no se ve en la tabla")));
+        QCOMPARE(tipos(), std::string("2019|viejo/2020|otro/2021|nuevo/2024|-/2025|SE"));
+        QCOMPARE(filas(), QStringLiteral("20247/20257SE/"));
+        rejilla->setCurrentCell(1, 0);
         p.cajas.Responder(true);
         QTest::keyClick(rejilla, Qt::Key_Delete);
         QCOMPARE(p.Caja(), QStringLiteral("Eliminar la línea para 2025"));
-        QCOMPARE(tipos(), std::string("2019|viejo/2020|nuevo/2024|-"));
+        QCOMPARE(tipos(), std::string("2019|viejo/2020|otro/2021|nuevo/2024|-"));
         p.Poner("T_Sementales", {{"Id_Semental", 1203.0}, {"Id_Ganadero", 12.0}});
         p.Poner("T_Sementales", {{"Id_Semental", 1204.0}, {"Id_Ganadero", 12.0}});
         ir(0);

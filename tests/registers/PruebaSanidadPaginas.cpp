@@ -322,6 +322,7 @@ private Q_SLOTS:
         QVERIFY(qobject_cast<QAbstractButton*>(Control(pagina, "ImgNulo(4)"))->isChecked());
         ElegirLinea(pagina, "GridMamitis", 0);
         Entrar(pagina, "Ct_CP(1)", "2"); // not put into the list yet: the save does
+        QVERIFY(pagina.Recoger());
         pagina.EscribirHijos(kVaca.idVaca);
         QCOMPARE(g.Texto("SELECT CuartosPerdidos FROM T_Partos"), std::string("2/2"));
     }

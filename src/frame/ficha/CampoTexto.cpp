@@ -54,7 +54,8 @@ private:
 
 CampoTexto::CampoTexto(ClaseCampo clase, int anchura, QWidget* padre)
     : QLineEdit(padre)
-    , m_clase(clase) {
+    , m_clase(clase)
+    , m_anchura(anchura) {
     if (clase != ClaseCampo::Texto)
         setValidator(new Tamiz(clase, this));
     if (anchura > 0)
@@ -64,6 +65,8 @@ CampoTexto::CampoTexto(ClaseCampo clase, int anchura, QWidget* padre)
 void CampoTexto::Mostrar(const QString& texto) {
     const auto* tamiz = validator();
     setValidator(nullptr);
+    if (m_anchura > 0)
+        setMaxLength(std::max(m_anchura, static_cast<int>(texto.size())));
     setText(texto);
     setValidator(tamiz);
     setCursorPosition(0); // of a long text its beginning shows

@@ -18,7 +18,7 @@ class CampoTexto : public QLineEdit {
 public:
     CampoTexto(ClaseCampo clase, int anchura, QWidget* padre = nullptr);
     ClaseCampo Clase() const { return m_clase; }
-    // Shows a stored text as it stands, also one that could not be typed here ("1E-07", a text in a date column).
+    // Shows a stored text as it stands, also one that could not be typed here ("1E-07", a text in a date column, one that is too long).
     void Mostrar(const QString& texto);
 
 protected:
@@ -26,6 +26,7 @@ protected:
 
 private:
     ClaseCampo m_clase;
+    int m_anchura; // most characters that can be typed; 0 no limit
 };
 
 } // namespace pastorix

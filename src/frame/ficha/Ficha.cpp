@@ -1,8 +1,10 @@
 #include "frame/ficha/Ficha.h"
 
 #include "frame/Mensajes.h"
+#include "frame/ficha/Aspecto.h"
 #include "store/Recordset.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -80,17 +82,42 @@ bool Ficha::Editando() const {
     return (*m_barra)[BarraFicha::Guardar]->isEnabled();
 }
 
+// A change that is made already cannot be refused: what stood against it (a code typed and not entered) is told and put right.
 void Ficha::EntrarEnModificar() {
-    if ((*m_barra)[BarraFicha::Modificar]->isEnabled())
+    if (m_clave == 0 || !(*m_barra)[BarraFicha::Modificar]->isEnabled())
+        return;
+    Modificar();
+    if (!Editando())
         Modificar();
 }
 
+// Enter goes from field to field, and from the last one to the button that saves; icons, tabs and other buttons have keys of their own.
+void Ficha::PasarAlSiguiente() {
+    const auto esParada = [this](QWidget* w) {
+        return qobject_cast<QLineEdit*>(w) || qobject_cast<QComboBox*>(w) ||
+               qobject_cast<QPlainTextEdit*>(w) || qobject_cast<QAbstractItemView*>(w) ||
+               w == (*m_barra)[BarraFicha::Guardar];
+    };
+    constexpr int kMasQueControles = 200;
+    for (int i = 0; i < kMasQueControles && focusNextChild() && !esParada(focusWidget());)
+        ++i;
+}
+
+// A box or another window over the sheet is no leaving of the field.
+void Ficha::CampoDejado(QWidget& campo, Qt::FocusReason razon) {
+    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason ||
+        razon == Qt::MenuBarFocusReason)
+        return;
+    if (&campo == m_campos.at(0))
+        CodigoDejado();
+    AlDejar(campo);
+}
+
 bool Ficha::eventFilter(QObject* objeto, QEvent* evento) {
-    // The wheel scrolls past a combo; it does not change what nobody is looking at.
-    if (evento->type() == QEvent::Wheel) {
-        if (const auto* combo = qobject_cast<QComboBox*>(objeto); combo && !combo->hasFocus())
-            return true;
-    }
+    if (EsRuedaAjena(objeto, *evento))
+        return true;
+    if (evento->type() == QEvent::FocusOut && objeto->isWidgetType())
+        CampoDejado(static_cast<QWidget&>(*objeto), static_cast<QFocusEvent&>(*evento).reason());
     if (evento->type() == QEvent::KeyPress) {
         const auto& tecla = static_cast<QKeyEvent&>(*evento);
         const bool esCodigo = objeto == m_campos.at(0);
@@ -103,7 +130,7 @@ bool Ficha::eventFilter(QObject* objeto, QEvent* evento) {
         if (intro) {
             if (esCodigo)
                 CodigoDejado();
-            focusNextChild();
+            PasarAlSiguiente();
             return true;
         }
         const auto* linea = qobject_cast<QLineEdit*>(objeto);
@@ -215,6 +242,12 @@ void Ficha::reject() {
     if (!PermiteDejar())
         return;
     QDialog::reject();
+}
+
+bool Ficha::PermiteCargarOtro() {
+    return (!Editando() || Preguntar(this, QStringLiteral("Atención"),
+                                     QStringLiteral("Hay cambios sin guardar. ¿Desea perderlos?"))) &&
+           PermiteDejar();
 }
 
 bool Ficha::Rechazar(const QString& texto, QWidget* foco) {

@@ -56,13 +56,16 @@ protected:
     } // before another record comes or the sheet goes; false to stay
     virtual bool PermiteAñadir() { return true; } // a limit of the sheet; false after its own box
     virtual bool PermiteModificar() { return true; }
-    virtual std::string CodigoPropuesto();      // for the record to be added; by default the last one plus 1
-    virtual void AlAñadir();                    // where the typing begins; by default in field 1
-    virtual void LimpiarPropios() {}            // controls beyond the table of fields
-    virtual void MostrarPropios(Recordset&) {}  // the same, when a record is read
-    virtual bool ComprobarMinimos();            // the code and the mandatory field
-    virtual bool Comprobar() { return true; }   // further checks, each with its box and focus
-    virtual void EscribirPropios(Recordset&) {} // columns beyond the table of fields, before Update
+    virtual bool PermiteEliminar() { return true; }
+    virtual void AlDejar(QWidget& /*campo*/) {
+    }                                          // the focus left a field, or the sheet is saved from within it
+    virtual std::string CodigoPropuesto();     // for the record to be added; by default the last one plus 1
+    virtual void AlAñadir();                   // where the typing begins; by default in field 1
+    virtual void LimpiarPropios() {}           // controls beyond the table of fields
+    virtual void MostrarPropios(Recordset&) {} // the same, when a record is read
+    virtual bool ComprobarMinimos();           // the code and the mandatory field
+    virtual bool Comprobar() { return true; }  // further checks, each with its box and focus
+    virtual void EscribirPropios(Recordset&) {}      // columns beyond the table of fields, before Update
     virtual void EscribirHijos(double /*codigo*/) {} // child tables, after Update
     virtual void DespuesDeGuardar(double clave);     // buttons, or load the record again
     virtual QString PreguntaEliminar() const { return QStringLiteral("Desea Eliminar ? "); }
@@ -76,6 +79,7 @@ protected:
     QGridLayout* Rejilla() const { return m_rejilla; }   // of the one made last, for controls between them
     void PonerIconoBusDato(int icono, int indiceCampo);  // the search icon beside a field
     BarraFicha& Barra() { return *m_barra; }
+    int AnchuraDe(const char* columna) const;   // most characters that the column takes; 0 no limit
     void TerminarConstruccion(QWidget* ultimo); // focus on the code; the buttons come after the last control
     void Vigilar(QWidget* control);             // a change in it begins a modification
 
@@ -90,8 +94,9 @@ protected:
     Conexion& Base() const { return m_sesion.conexion; }
     Sesion& LaSesion() const { return m_sesion; }
     bool Editando() const;
-    void EntrarEnModificar();                           // as typing does
-    void ReponerCodigo();                               // the current key back into the code field
+    void EntrarEnModificar(); // as typing does
+    bool PermiteCargarOtro(); // asks before an edit or unsaved pages give way to another record
+    void ReponerCodigo();     // the current key back into the code field
     bool Rechazar(const QString& texto, QWidget* foco); // exclamation box "Atención"; always false
     void LimpiarCampos();
     void Vaciar(); // no record on the sheet
@@ -103,9 +108,10 @@ private:
     QWidget* CrearCampo(const CampoFicha& campo, QWidget* padre);
     CampoTexto* CrearLinea(const CampoFicha& campo, QWidget* padre);
     CampoMemo* CrearMemo(QWidget* padre);
-    int AnchuraDe(const char* columna) const;
     QComboBox* CrearCombo(const ComboFicha& combo, QWidget* padre);
     void CodigoDejado();
+    void CampoDejado(QWidget& campo, Qt::FocusReason razon);
+    void PasarAlSiguiente();
     bool Escribir(double codigo); // false when the code is taken
     void EscribirCampos(Recordset& rs);
     std::string SentenciaDeClave(double clave) const;

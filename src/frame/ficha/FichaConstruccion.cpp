@@ -72,7 +72,6 @@ QComboBox* Ficha::CrearCombo(const ComboFicha& c, QWidget* padre) {
     return combo;
 }
 
-// Most characters that the column takes; 0 when it has no limit.
 int Ficha::AnchuraDe(const char* columna) const {
     const auto* tabla = CatalogoCanonico(ClaseDeBase::Principal).Buscar(m_definicion.tabla);
     const int lugar = tabla ? tabla->Buscar(columna) : -1;
@@ -114,9 +113,7 @@ CampoTexto* Ficha::CrearLinea(const CampoFicha& c, QWidget* padre) {
     // Short fields look short: what fits can be seen before it is typed.
     if (anchura > 0 && anchura <= 15)
         campo->setMaximumWidth(campo->fontMetrics().horizontalAdvance(QLatin1Char('0')) * (anchura + 3));
-    if (c.indice == 0)
-        connect(campo, &QLineEdit::editingFinished, this, [this] { CodigoDejado(); });
-    else
+    if (c.indice != 0)
         connect(campo, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
     return campo;
 }
@@ -126,7 +123,7 @@ void Ficha::PonerIconoBusDato(int icono, int indiceCampo) {
     boton->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
     boton->setIcon(Icono("buscar"));
     boton->setCursor(CursorMano());
-    boton->setToolTip(icono == 0 ? QStringLiteral("Seleccionar (F3)") : QStringLiteral("Seleccionar"));
+    boton->setToolTip(QStringLiteral("Seleccionar"));
     boton->setAccessibleName(QStringLiteral("Seleccionar"));
     boton->setAutoRaise(true);
     if (icono == 0)

@@ -76,7 +76,7 @@ void Ficha::Añadir() {
 }
 
 void Ficha::Modificar() {
-    if (!PermiteModificar())
+    if (m_clave == 0 || !PermiteModificar())
         return;
     m_accion = 2;
     m_barra->EstadoBotones(2);
@@ -99,6 +99,8 @@ bool Ficha::ComprobarMinimos() {
 
 void Ficha::Guardar() {
     try {
+        if (auto* campo = focusWidget())
+            AlDejar(*campo); // by a key: the field was not left
         if (!ComprobarMinimos() || !Comprobar())
             return;
         m_barra->EstadoBotones(4);
@@ -114,11 +116,11 @@ void Ficha::Guardar() {
             Campo(0).setFocus();
             return;
         }
-        m_clave = codigo;
         m_accion = 0;
         DespuesDeGuardar(codigo);
     } catch (const std::exception& e) {
-        // What was typed stays on the sheet, and the sheet stays in its edit.
+        // What was typed stays on the sheet, and the sheet stays in its edit; of a record that was written before a child table failed
+        // it is a modification.
         MostrarError(e);
     }
 }
@@ -138,6 +140,9 @@ bool Ficha::Escribir(double codigo) {
     EscribirCampos(rs);
     EscribirPropios(rs);
     rs.Update();
+    // Should a child table fail now, the record is there: saving again modifies it.
+    m_clave = codigo;
+    m_accion = 2;
     EscribirHijos(codigo);
     return true;
 }
@@ -170,10 +175,14 @@ void Ficha::DespuesDeGuardar(double) {
 }
 
 void Ficha::Eliminar() {
+    ReponerCodigo(); // a code typed and not entered is not what is deleted
+    if (!PermiteEliminar())
+        return;
+    const double clave = m_clave;
     if (!Preguntar(this, QStringLiteral("Confirme Eliminar"), PreguntaEliminar(), TipoMensaje::Critico, true))
         return;
     try {
-        EnGrupo(Base(), [this] { Borrar(m_clave); });
+        EnGrupo(Base(), [&] { Borrar(clave); });
         LimpiarCampos();
         m_clave = 0;
         DespuesDeBorrar();

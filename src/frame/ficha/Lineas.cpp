@@ -1,5 +1,9 @@
 #include "frame/ficha/Lineas.h"
 
+#include "store/Textos.h"
+
+#include <algorithm>
+
 namespace pastorix {
 
 double Linea::Numero(std::size_t columna) const {
@@ -8,8 +12,22 @@ double Linea::Numero(std::size_t columna) const {
     return n;
 }
 
+std::vector<std::string> OtrosCampos(const Recordset& rs, std::span<const ColumnaLinea> columnas,
+                                     std::initializer_list<std::string_view> propias) {
+    std::vector<std::string> otros;
+    for (int i = 0; i < rs.Campos(); ++i) {
+        const auto campo = rs.NombreCampo(i);
+        const auto es = [&](std::string_view nombre) { return IgualSinCaso(campo, nombre); };
+        if (std::none_of(propias.begin(), propias.end(), es) &&
+            std::none_of(columnas.begin(), columnas.end(),
+                         [&](const ColumnaLinea& c) { return c.columna && es(c.columna); }))
+            otros.push_back(campo);
+    }
+    return otros;
+}
+
 std::vector<Linea> LeerLineas(Recordset& rs, std::span<const ColumnaLinea> columnas,
-                              std::span<const char* const> otras) {
+                              std::span<const std::string> otras) {
     std::vector<Linea> lineas;
     for (rs.Primero(); !rs.Eof(); rs.Siguiente()) {
         auto& linea = lineas.emplace_back();
@@ -17,21 +35,24 @@ std::vector<Linea> LeerLineas(Recordset& rs, std::span<const ColumnaLinea> colum
             linea.leidos.push_back(c.columna ? rs[c.columna].Leer() : Valor());
             linea.celdas.push_back(TextoDe(linea.leidos.back()));
         }
-        for (const char* otra : otras)
+        for (const auto& otra : otras)
             linea.otras.emplace_back(otra, rs[otra].Leer());
     }
     return lineas;
+}
+
+Valor ValorDeCelda(const Linea& linea, std::size_t columna) {
+    const auto& celda = linea.celdas[columna];
+    if (columna < linea.leidos.size() && TextoDe(linea.leidos[columna]) == celda)
+        return linea.leidos[columna];
+    return celda.empty() ? Valor() : Valor(celda);
 }
 
 void EscribirLinea(Recordset& rs, const Linea& linea, std::span<const ColumnaLinea> columnas) {
     for (std::size_t i = 0; i < columnas.size(); ++i) {
         if (!columnas[i].columna)
             continue;
-        const auto& celda = linea.celdas[i];
-        if (i < linea.leidos.size() && TextoDe(linea.leidos[i]) == celda)
-            rs[columnas[i].columna] = linea.leidos[i];
-        else
-            rs[columnas[i].columna] = celda.empty() ? Valor() : Valor(celda);
+        rs[columnas[i].columna] = ValorDeCelda(linea, i);
     }
     for (const auto& [columna, valor] : linea.otras)
         rs[columna] = valor;

@@ -3,6 +3,7 @@
 #include "frame/ficha/CampoFicha.h"
 #include "store/Recordset.h"
 
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -34,9 +35,16 @@ struct Linea {
     double Numero(std::size_t columna) const;
 };
 
+// Fields of the query that have no column, nor are the caller's own (`propias`): they belong to other sheets, or to the file alone.
+std::vector<std::string> OtrosCampos(const Recordset& rs, std::span<const ColumnaLinea> columnas,
+                                     std::initializer_list<std::string_view> propias);
+
 // The rows of the query as lines. `otras` are further fields to be carried along.
 std::vector<Linea> LeerLineas(Recordset& rs, std::span<const ColumnaLinea> columnas,
-                              std::span<const char* const> otras = {});
+                              std::span<const std::string> otras = {});
+
+// A cell as its column takes it: as it was read when nobody touched it, Null when it is empty.
+Valor ValorDeCelda(const Linea& linea, std::size_t columna);
 
 // Assigns a line's cells to the fields of the current row, which was just added: an empty cell as Null, an untouched one as it was read, and
 // the columns carried along. Null or 0 keys are the caller's. Throws ErrorAlmacen for a text that the column does not take.

@@ -3,6 +3,7 @@
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
 #include "frame/calendario/Calendario.h"
+#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoTexto.h"
 
 #include <QComboBox>
@@ -19,38 +20,6 @@
 
 namespace pastorix {
 
-// A text box or a combo, with the column that it enters.
-struct LineasEditables::Entrada {
-    std::size_t columna;
-    CampoTexto* texto = nullptr;
-    QComboBox* combo = nullptr;
-    int propios = 0; // items of the combo's own list
-
-    QWidget* Control() const { return texto ? static_cast<QWidget*>(texto) : combo; }
-    QString Leer() const { return texto ? texto->text() : combo->currentText(); }
-    void Poner(const QString& valor) {
-        if (texto) {
-            texto->Mostrar(valor);
-            return;
-        }
-        while (combo->count() > propios) // what another line brought along
-            combo->removeItem(propios);
-        int i = combo->findText(valor, Qt::MatchExactly);
-        if (i <
-            0) { // a stored value outside the list can be kept, and is offered as long as its line is here
-            combo->addItem(valor);
-            i = combo->count() - 1;
-        }
-        combo->setCurrentIndex(i);
-    }
-    void Listar(const QStringList& valores) {
-        combo->clear();
-        combo->addItem(QString());
-        combo->addItems(valores);
-        propios = combo->count();
-    }
-};
-
 LineasEditables::LineasEditables(const DefinicionLineas& definicion, QWidget* padre)
     : QWidget(padre)
     , m_definicion(definicion)
@@ -65,8 +34,6 @@ LineasEditables::LineasEditables(const DefinicionLineas& definicion, QWidget* pa
     Rotular();
 }
 
-LineasEditables::~LineasEditables() = default;
-
 void LineasEditables::CrearRejilla() {
     QStringList titulos;
     for (const auto& c : m_definicion.columnas)
@@ -80,28 +47,54 @@ void LineasEditables::CrearRejilla() {
         m_rejilla->setColumnWidth(i, std::max(metrica.averageCharWidth() * (c.caracteres + 2) + 8,
                                               metrica.horizontalAdvance(titulos[i]) + 16));
     }
-    m_rejilla->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_rejilla->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_rejilla->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_rejilla->setAlternatingRowColors(true);
-    m_rejilla->setTabKeyNavigation(false);
-    m_rejilla->horizontalHeader()->setHighlightSections(false); // bold headings would not fit
-    m_rejilla->verticalHeader()->hide();
-    m_rejilla->verticalHeader()->setDefaultSectionSize(metrica.lineSpacing() + 8);
+    VestirTabla(*m_rejilla);
     m_rejilla->installEventFilter(this);
     connect(m_rejilla, &QTableWidget::currentCellChanged, this, [this](int fila, int, int antes, int) {
         if (fila != antes)
-            Elegir(fila);
+            Pasar(fila);
     });
-    connect(m_rejilla, &QTableWidget::cellClicked, this, [this](int fila, int) { Elegir(fila); });
+    connect(m_rejilla, &QTableWidget::cellClicked, this, [this](int fila, int) { Pasar(fila); });
     connect(m_rejilla, &QTableWidget::cellDoubleClicked, this,
             [this](int, int) { TeclaDeRejilla(Qt::Key_Return); });
 }
 
 void LineasEditables::CrearFranja() {
     auto* franja = new QHBoxLayout;
-    const auto boton = [&](const char* icono, const QString& texto, bool visible,
-                           void (LineasEditables::*orden)()) {
+    for (std::size_t i = 0; i < m_definicion.columnas.size(); ++i) {
+        if (!m_definicion.columnas[i].control)
+            continue;
+        auto* rotulo = new QLabel(QString::fromUtf8(m_definicion.columnas[i].titulo), this);
+        auto* control = CrearEntrada(i);
+        rotulo->setBuddy(control);
+        auto* pareja = new QVBoxLayout;
+        pareja->setSpacing(1);
+        pareja->addWidget(rotulo);
+        pareja->addWidget(control);
+        franja->addLayout(pareja);
+    }
+    franja->addStretch();
+    franja->addLayout(CrearMandos());
+    static_cast<QVBoxLayout*>(layout())->addLayout(franja);
+}
+
+QWidget* LineasEditables::CrearEntrada(std::size_t columna) {
+    const bool esAño = static_cast<int>(columna) == m_definicion.columnaAño;
+    const auto& entrada = m_entradas.emplace_back(m_definicion.columnas[columna], columna, esAño, this);
+    const auto tecleado = [this] {
+        if (alTeclear)
+            alTeclear();
+    };
+    if (entrada.Combo())
+        connect(entrada.Combo(), &QComboBox::activated, this, tecleado);
+    else
+        connect(entrada.Texto(), &QLineEdit::textEdited, this, tecleado);
+    entrada.Control()->installEventFilter(this);
+    return entrada.Control();
+}
+
+QLayout* LineasEditables::CrearMandos() {
+    const auto boton = [this](const char* icono, const QString& texto, bool visible,
+                              void (LineasEditables::*orden)()) {
         auto* b = new QToolButton(this);
         b->setIcon(Icono(icono));
         b->setToolTip(texto);
@@ -111,53 +104,6 @@ void LineasEditables::CrearFranja() {
         connect(b, &QToolButton::clicked, this, [this, orden] { (this->*orden)(); });
         return b;
     };
-    for (std::size_t i = 0; i < m_definicion.columnas.size(); ++i) {
-        const auto& c = m_definicion.columnas[i];
-        if (!c.control)
-            continue;
-        auto entrada = std::make_unique<Entrada>();
-        entrada->columna = i;
-        if (c.esLista || !c.lista.empty()) {
-            entrada->combo = new QComboBox(this);
-            QStringList valores;
-            for (const char* v : c.lista)
-                valores << QString::fromUtf8(v);
-            entrada->Listar(valores);
-            entrada->combo->setMinimumContentsLength(c.caracteres - 1);
-        } else {
-            const bool año = static_cast<int>(i) == m_definicion.columnaAño;
-            const int anchura = año ? 4 : c.clase == ClaseCampo::Fecha ? 10 : c.maximo;
-            entrada->texto = new CampoTexto(c.clase, anchura, this);
-            if (c.clase == ClaseCampo::Fecha)
-                entrada->texto->setPlaceholderText(QStringLiteral("dd/mm/aa"));
-            entrada->texto->setMinimumWidth(fontMetrics().averageCharWidth() * (c.caracteres + 3));
-            if (c.clase != ClaseCampo::Texto)
-                entrada->texto->setMaximumWidth(fontMetrics().averageCharWidth() * (c.caracteres + 8));
-        }
-        const auto tecleado = [this] {
-            if (alTeclear)
-                alTeclear();
-        };
-        if (entrada->combo) {
-            entrada->combo->setFocusPolicy(Qt::StrongFocus); // not by the wheel
-            connect(entrada->combo, &QComboBox::activated, this, tecleado);
-        } else {
-            connect(entrada->texto, &QLineEdit::textEdited, this, tecleado);
-        }
-        auto* control = entrada->Control();
-        control->setObjectName(QString::fromUtf8(c.control));
-        control->setAccessibleName(QString::fromUtf8(c.titulo));
-        control->installEventFilter(this);
-        auto* rotulo = new QLabel(QString::fromUtf8(c.titulo), this);
-        rotulo->setBuddy(control);
-        auto* pareja = new QVBoxLayout;
-        pareja->setSpacing(1);
-        pareja->addWidget(rotulo);
-        pareja->addWidget(control);
-        franja->addLayout(pareja);
-        m_entradas.push_back(std::move(entrada));
-    }
-    franja->addStretch();
     m_estado = new QLabel(this);
     m_estado->setEnabled(false);
     const bool altas = m_definicion.conAltas;
@@ -173,8 +119,7 @@ void LineasEditables::CrearFranja() {
     mandos->setSpacing(1);
     mandos->addWidget(m_estado, 0, Qt::AlignRight);
     mandos->addLayout(botones);
-    franja->addLayout(mandos);
-    static_cast<QVBoxLayout*>(layout())->addLayout(franja);
+    return mandos;
 }
 
 void LineasEditables::Mostrar(std::vector<Linea> lineas) {
@@ -185,11 +130,11 @@ void LineasEditables::Mostrar(std::vector<Linea> lineas) {
 }
 
 void LineasEditables::FijarLista(std::size_t columna, const QStringList& valores) {
-    for (const auto& e : m_entradas)
-        if (e->columna == columna && e->combo) {
-            const auto antes = e->Leer();
-            e->Listar(valores);
-            e->Poner(antes);
+    for (auto& e : m_entradas)
+        if (e.Columna() == columna && e.Combo()) {
+            const auto antes = e.Leer();
+            e.Listar(valores);
+            e.Poner(antes);
         }
 }
 
@@ -202,7 +147,7 @@ void LineasEditables::Permitir(bool si) {
 void LineasEditables::Habilitar() {
     const bool campos = m_permitido && (m_definicion.conAltas || m_fila >= 0);
     for (const auto& e : m_entradas)
-        e->Control()->setEnabled(campos);
+        e.Control()->setEnabled(campos);
     m_poner->setEnabled(campos);
     m_nueva->setEnabled(m_permitido);
     m_quitar->setEnabled(m_permitido);
@@ -234,19 +179,65 @@ void LineasEditables::PintarFila(int fila) {
     }
 }
 
+QString LineasEditables::Celda(int fila, std::size_t columna) const {
+    return fila < 0 ? QString()
+                    : QString::fromStdString(m_lineas[static_cast<std::size_t>(fila)].celdas[columna]);
+}
+
 void LineasEditables::Elegir(int fila) {
     const bool hay = fila >= 0 && fila < static_cast<int>(m_lineas.size());
     m_fila = hay ? fila : -1;
-    for (const auto& e : m_entradas)
-        e->Poner(hay ? QString::fromStdString(m_lineas[static_cast<std::size_t>(fila)].celdas[e->columna])
-                     : QString());
+    for (auto& e : m_entradas)
+        e.Poner(Celda(m_fila, e.Columna()));
     Rotular();
+}
+
+// Another line is asked for. What stands in the fields goes into the list first, or is given up, as the user says.
+void LineasEditables::Pasar(int fila) {
+    if (fila == m_fila)
+        return;
+    if (!EnCurso())
+        return Elegir(fila);
+    const auto destino = fila < static_cast<int>(m_lineas.size()) && fila >= 0
+                             ? m_lineas[static_cast<std::size_t>(fila)].celdas
+                             : std::vector<std::string>();
+    if (!Resolver())
+        return Situar(m_fila);
+    const auto it =
+        std::find_if(m_lineas.begin(), m_lineas.end(), [&](const Linea& l) { return l.celdas == destino; });
+    if (it == m_lineas.end())
+        return;
+    const int nueva = static_cast<int>(it - m_lineas.begin());
+    Situar(nueva);
+    m_rejilla->selectRow(nueva);
+    Elegir(nueva);
+    m_rejilla->setFocus();
+}
+
+// False when the fields keep what stands in them.
+bool LineasEditables::Resolver() {
+    if (!EnCurso())
+        return true;
+    if (!Preguntar(this, QStringLiteral("Atención"),
+                   QStringLiteral("Hay una línea escrita que no está en la lista. ¿Desea ponerla?"),
+                   TipoMensaje::Pregunta, true)) {
+        LimpiarEntradas();
+        return true;
+    }
+    Confirmar();
+    return !EnCurso();
+}
+
+// The current cell without choosing its line.
+void LineasEditables::Situar(int fila) {
+    const QSignalBlocker silencio(m_rejilla);
+    m_rejilla->setCurrentCell(std::clamp(fila, 0, m_rejilla->rowCount() - 1), 0);
 }
 
 void LineasEditables::LimpiarEntradas() {
     m_fila = -1;
-    for (const auto& e : m_entradas)
-        e->Poner({});
+    for (auto& e : m_entradas)
+        e.Poner({});
     Rotular();
 }
 
@@ -265,21 +256,18 @@ QString LineasEditables::AñoDe(const Linea& linea) const {
 }
 
 bool LineasEditables::EnCurso() const {
-    return std::any_of(m_entradas.begin(), m_entradas.end(), [this](const auto& e) {
-        const auto antes =
-            m_fila < 0
-                ? QString()
-                : QString::fromStdString(m_lineas[static_cast<std::size_t>(m_fila)].celdas[e->columna]);
-        return e->Leer() != antes;
-    });
+    return std::any_of(m_entradas.begin(), m_entradas.end(),
+                       [this](const auto& e) { return e.Leer() != Celda(m_fila, e.Columna()); });
 }
 
 void LineasEditables::Nueva() {
-    if (!m_definicion.conAltas || m_entradas.empty() || !m_entradas.front()->Control()->isEnabled())
+    if (!m_definicion.conAltas || m_entradas.empty() || !m_entradas.front().Control()->isEnabled())
+        return;
+    if (!Resolver())
         return;
     m_rejilla->clearSelection();
     LimpiarEntradas();
-    m_entradas.front()->Control()->setFocus();
+    m_entradas.front().Control()->setFocus();
 }
 
 void LineasEditables::Abandonar() {
@@ -293,6 +281,10 @@ void LineasEditables::Quitar() {
     if (!m_definicion.conAltas || !m_quitar->isEnabled() || fila < 0 ||
         fila >= static_cast<int>(m_lineas.size()))
         return;
+    if (fila != m_fila && EnCurso()) {
+        Resolver(); // first the line that is being written
+        return;
+    }
     const auto lugar = static_cast<std::size_t>(fila);
     if (!Preguntar(this, QString::fromUtf8(m_definicion.tituloEliminar),
                    QString::fromUtf8(m_definicion.eliminar) + AñoDe(m_lineas[lugar])))
@@ -305,22 +297,25 @@ void LineasEditables::Quitar() {
         alQuitar(quitada);
     if (alCambiar)
         alCambiar();
-    m_rejilla->setCurrentCell(std::min(fila, m_rejilla->rowCount() - 1), 0);
+    Situar(fila); // the line that came up in its place is not in the fields: what is typed next is a new one
 }
 
 bool LineasEditables::Valida(const Linea& linea) {
     const auto rechazar = [this](const QString& texto) {
         Avisar(this, TipoMensaje::Atencion, QString::fromUtf8(m_definicion.tituloAviso), texto);
-        m_entradas.front()->Control()->setFocus();
+        m_entradas.front().Control()->setFocus();
         return false;
     };
     if (m_definicion.columnaAño >= 0 && m_definicion.conAltas) {
         const auto año = static_cast<std::size_t>(m_definicion.columnaAño);
-        if (linea.celdas[año].empty())
+        const auto cifras = linea.celdas[año].size();
+        if (cifras == 0)
             return rechazar(QString::fromUtf8(m_definicion.sinAño));
         // Two lines of one year may have come from elsewhere; as long as their years are left alone they can be edited.
         const bool mismo =
             m_fila >= 0 && m_lineas[static_cast<std::size_t>(m_fila)].celdas[año] == linea.celdas[año];
+        if (!mismo && cifras != 4)
+            return rechazar(QStringLiteral("El año debe tener cuatro cifras"));
         for (std::size_t i = 0; !mismo && i < m_lineas.size(); ++i)
             if (static_cast<int>(i) != m_fila && m_lineas[i].Numero(año) == linea.Numero(año))
                 return rechazar(QString::fromUtf8(m_definicion.repetido) + AñoDe(linea) +
@@ -332,10 +327,10 @@ bool LineasEditables::Valida(const Linea& linea) {
 // What the database would refuse is refused here, while it can be mended; a cell that nobody touched is nobody's fault.
 bool LineasEditables::ValidaCeldas(const Linea& linea) {
     for (const auto& e : m_entradas) {
-        const auto& celda = linea.celdas[e->columna];
-        const auto clase = m_definicion.columnas[e->columna].clase;
-        if (celda.empty() || e->combo ||
-            (e->columna < linea.leidos.size() && TextoDe(linea.leidos[e->columna]) == celda))
+        const auto& celda = linea.celdas[e.Columna()];
+        const auto clase = m_definicion.columnas[e.Columna()].clase;
+        if (celda.empty() || e.Combo() ||
+            (e.Columna() < linea.leidos.size() && TextoDe(linea.leidos[e.Columna()]) == celda))
             continue;
         const bool fecha = clase == ClaseCampo::Fecha;
         double n = 0;
@@ -344,47 +339,62 @@ bool LineasEditables::ValidaCeldas(const Linea& linea) {
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
                fecha ? QStringLiteral("La fecha no es correcta, dd/mm/aa")
                      : QStringLiteral("El número no es correcto: ") + QString::fromStdString(celda));
-        e->Control()->setFocus();
+        e.Control()->setFocus();
         return false;
     }
     return true;
 }
 
-void LineasEditables::Confirmar() {
-    if (m_fila < 0 && (!m_definicion.conAltas || (m_definicion.columnaAño < 0 && !EnCurso())))
-        return;
+// What stands in the fields as a line: the chosen one with its cells changed, or a new one.
+Linea LineasEditables::Escrita() const {
     Linea linea;
     if (m_fila >= 0)
         linea = m_lineas[static_cast<std::size_t>(m_fila)];
     else
         linea.celdas.resize(m_definicion.columnas.size());
     for (const auto& e : m_entradas)
-        linea.celdas[e->columna] = e->Leer().trimmed().toStdString();
+        if (const auto texto = e.Leer(); texto != Celda(m_fila, e.Columna()))
+            linea.celdas[e.Columna()] = texto.trimmed().toStdString();
+    return linea;
+}
+
+void LineasEditables::Confirmar() {
+    if (m_fila < 0 && (!m_definicion.conAltas || (m_definicion.columnaAño < 0 && !EnCurso())))
+        return;
+    auto linea = Escrita();
     if (!Valida(linea))
         return;
     const auto puesta = linea.celdas;
     const bool nueva = m_fila < 0;
+    const bool vaciada = m_definicion.columnaAño < 0 &&
+                         std::all_of(puesta.begin(), puesta.end(), [](const auto& c) { return c.empty(); });
     if (nueva)
         m_lineas.push_back(std::move(linea));
+    else if (vaciada)
+        m_lineas.erase(m_lineas.begin() + m_fila);
     else
         m_lineas[static_cast<std::size_t>(m_fila)] = std::move(linea);
-    if (m_definicion.columnaAño >= 0 && m_definicion.conAltas) {
-        const auto año = static_cast<std::size_t>(m_definicion.columnaAño);
-        std::stable_sort(m_lineas.begin(), m_lineas.end(), [&](const Linea& a, const Linea& b) {
-            return m_definicion.descendente ? a.Numero(año) > b.Numero(año) : a.Numero(año) < b.Numero(año);
-        });
-    }
+    Ordenar();
+    m_fila = -1;
     Pintar();
     const auto it =
         std::find_if(m_lineas.begin(), m_lineas.end(), [&](const Linea& l) { return l.celdas == puesta; });
-    const QSignalBlocker silencio(m_rejilla);
-    m_rejilla->setCurrentCell(static_cast<int>(it - m_lineas.begin()), 0);
+    Situar(static_cast<int>(it - m_lineas.begin()));
     m_rejilla->clearSelection();
     LimpiarEntradas();
     if (alCambiar)
         alCambiar();
     // On to the next one: a new line after a new line, the grid after a changed one.
-    (nueva ? m_entradas.front()->Control() : static_cast<QWidget*>(m_rejilla))->setFocus();
+    (nueva ? m_entradas.front().Control() : static_cast<QWidget*>(m_rejilla))->setFocus();
+}
+
+void LineasEditables::Ordenar() {
+    if (m_definicion.columnaAño < 0 || !m_definicion.conAltas)
+        return;
+    const auto año = static_cast<std::size_t>(m_definicion.columnaAño);
+    std::stable_sort(m_lineas.begin(), m_lineas.end(), [&](const Linea& a, const Linea& b) {
+        return m_definicion.descendente ? a.Numero(año) > b.Numero(año) : a.Numero(año) < b.Numero(año);
+    });
 }
 
 bool LineasEditables::TeclaDeRejilla(int tecla) {
@@ -397,9 +407,14 @@ bool LineasEditables::TeclaDeRejilla(int tecla) {
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        Elegir(m_rejilla->currentRow());
+        Pasar(m_rejilla->currentRow());
         if (!m_entradas.empty())
-            m_entradas.front()->Control()->setFocus();
+            m_entradas.front().Control()->setFocus();
+        return true;
+    case Qt::Key_Escape:
+        if (m_fila < 0 && !EnCurso())
+            return false; // nothing to abandon: the sheet's own Escape
+        Abandonar();
         return true;
     default:
         return false;
@@ -410,12 +425,12 @@ bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
     switch (tecla) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (objeto == m_entradas.back()->Control()) {
+        if (objeto == m_entradas.back().Control()) {
             Confirmar();
         } else {
             const auto it = std::find_if(m_entradas.begin(), m_entradas.end(),
-                                         [&](const auto& e) { return e->Control() == objeto; });
-            (*(it + 1))->Control()->setFocus(Qt::TabFocusReason);
+                                         [&](const auto& e) { return e.Control() == objeto; });
+            (it + 1)->Control()->setFocus(Qt::TabFocusReason);
         }
         return true;
     case Qt::Key_Escape:
@@ -432,10 +447,8 @@ bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
 }
 
 bool LineasEditables::eventFilter(QObject* objeto, QEvent* evento) {
-    // The wheel scrolls past a combo; it does not change what nobody is looking at.
-    if (evento->type() == QEvent::Wheel)
-        if (const auto* combo = qobject_cast<QComboBox*>(objeto); combo && !combo->hasFocus())
-            return true;
+    if (EsRuedaAjena(objeto, *evento))
+        return true;
     if (evento->type() == QEvent::KeyPress) {
         const int tecla = static_cast<QKeyEvent&>(*evento).key();
         if (objeto == m_rejilla ? TeclaDeRejilla(tecla) : TeclaDeEntrada(objeto, tecla))

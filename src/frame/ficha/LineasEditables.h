@@ -1,21 +1,17 @@
 #pragma once
 
-#include "frame/ficha/Lineas.h"
+#include "frame/ficha/EntradaDeLinea.h"
 
-#include <QStringList>
 #include <QWidget>
 
 #include <functional>
-#include <memory>
 
-class QComboBox;
 class QLabel;
+class QLayout;
 class QTableWidget;
 class QToolButton;
 
 namespace pastorix {
-
-class CampoTexto;
 
 // What a table of lines says and allows. Texts go into boxes as they stand.
 struct DefinicionLineas {
@@ -40,7 +36,6 @@ struct DefinicionLineas {
 class LineasEditables : public QWidget {
 public:
     explicit LineasEditables(const DefinicionLineas& definicion, QWidget* padre = nullptr);
-    ~LineasEditables() override;
 
     // Shows lines; the fields are cleared.
     void Mostrar(std::vector<Linea> lineas);
@@ -65,10 +60,17 @@ protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
-    struct Entrada; // one field of the strip
     void CrearRejilla();
     void CrearFranja();
-    void Elegir(int fila); // its values into the fields
+    QWidget* CrearEntrada(std::size_t columna);
+    QLayout* CrearMandos();
+    QString Celda(int fila, std::size_t columna) const; // "" for row -1
+    void Elegir(int fila);                              // its values into the fields
+    void Pasar(int fila);
+    bool Resolver();
+    void Situar(int fila);
+    Linea Escrita() const;
+    void Ordenar();
     void LimpiarEntradas();
     void Pintar();
     void PintarFila(int fila);
@@ -83,7 +85,7 @@ private:
     const DefinicionLineas& m_definicion;
     std::vector<Linea> m_lineas;
     QTableWidget* m_rejilla;
-    std::vector<std::unique_ptr<Entrada>> m_entradas;
+    std::vector<EntradaDeLinea> m_entradas;
     QLabel* m_estado = nullptr; // which line the fields belong to
     QToolButton* m_nueva = nullptr;
     QToolButton* m_quitar = nullptr;

@@ -1,6 +1,7 @@
 #include "frame/ficha/RejillaHijos.h"
 
-#include <QHeaderView>
+#include "frame/ficha/Aspecto.h"
+
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
@@ -16,13 +17,7 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
     for (int i = 0; i < columnCount(); ++i)
         setColumnWidth(i, fontMetrics().averageCharWidth() *
                               (columnas[static_cast<std::size_t>(i)].caracteres + 2));
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setAlternatingRowColors(true);
-    setTabKeyNavigation(false); // Tab goes on to the next control
-    verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 8);
+    VestirTabla(*this);
     for (int i = 0; i < columnCount(); ++i)
         setColumnHidden(i, columnas[static_cast<std::size_t>(i)].caracteres == 0);
     connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
@@ -72,6 +67,14 @@ void RejillaHijos::Llenar(std::vector<std::vector<Valor>> filas) {
 
 void RejillaHijos::Vaciar() {
     Llenar(std::vector<std::vector<Valor>>());
+}
+
+void RejillaHijos::focusInEvent(QFocusEvent* evento) {
+    QTableWidget::focusInEvent(evento);
+    const bool porTecla =
+        evento->reason() != Qt::MouseFocusReason && evento->reason() != Qt::ActiveWindowFocusReason;
+    if (porTecla && currentRow() >= 0 && selectedItems().isEmpty())
+        selectRow(currentRow());
 }
 
 void RejillaHijos::keyPressEvent(QKeyEvent* evento) {

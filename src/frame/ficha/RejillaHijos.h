@@ -41,6 +41,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override; // by key: the current row is chosen
 
 private:
     std::span<const ColumnaHijos> m_columnas;

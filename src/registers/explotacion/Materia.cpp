@@ -14,19 +14,6 @@ std::string SentenciaDeNota(const DefinicionMateria& m, double idGanadero) {
            " FROM T_Ganaderos WHERE Id_Ganadero = " + NumeroSql(idGanadero);
 }
 
-// Columns that neither the grid nor the save itself fills: they belong to other sheets, or to the file alone.
-std::vector<std::string> ColumnasSinLugar(const Recordset& rs, const DefinicionMateria& m) {
-    std::vector<std::string> otras;
-    for (int i = 0; i < rs.Campos(); ++i) {
-        const auto nombre = rs.NombreCampo(i);
-        const bool enRejilla = std::any_of(m.lineas.columnas.begin(), m.lineas.columnas.end(),
-                                           [&](const auto& c) { return c.columna && nombre == c.columna; });
-        if (!enRejilla && nombre != "Id_Ganadero" && (!m.columnaNumero || nombre != m.columnaNumero))
-            otras.push_back(nombre);
-    }
-    return otras;
-}
-
 bool MismoAño(const DefinicionMateria& m, const Linea& a, const Linea& b) {
     if (m.lineas.columnaAño < 0)
         return false;
@@ -64,11 +51,9 @@ DatosMateria LeerMateria(Conexion& c, const DefinicionMateria& m, double idGanad
                      std::string("Select * FROM ") + m.tabla +
                          " WHERE Id_Ganadero = " + NumeroSql(idGanadero) + " ORDER BY " + m.orden,
                      Cursor::Keyset, Bloqueo::SoloLectura);
-        const auto nombres = ColumnasSinLugar(rs, m);
-        std::vector<const char*> otras;
-        for (const auto& nombre : nombres)
-            otras.push_back(nombre.c_str());
-        datos.lineas = LeerLineas(rs, m.lineas.columnas, otras);
+        datos.lineas = LeerLineas(
+            rs, m.lineas.columnas,
+            OtrosCampos(rs, m.lineas.columnas, {"Id_Ganadero", m.columnaNumero ? m.columnaNumero : ""}));
         if (m.columnaNota)
             datos.nota = ValorDeCampo(c, SentenciaDeNota(m, idGanadero));
     });

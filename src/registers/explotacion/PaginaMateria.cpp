@@ -164,6 +164,7 @@ void PaginaMateria::GuardarTodo() {
         m_porGuardar = false;
         if (m_nota && m_nota->Cambiado())
             m_nota->Poner(nota);
+        DespuesDeGuardar();
     } catch (const std::exception& e) {
         Avisar(e); // the grid keeps its lines, so that saving again completes what is missing
     }

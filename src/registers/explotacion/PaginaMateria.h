@@ -27,12 +27,14 @@ public:
 
 protected:
     virtual DatosMateria Leer();
+    virtual void DespuesDeGuardar() {}
     void showEvent(QShowEvent* evento) override;
 
     Conexion& Base() const { return m_base; }
     double Ganadero() const { return m_ganadero; }
     LineasEditables& Rejilla() const { return *m_lineas; }
     bool Leida() const { return m_leida; }
+    const std::vector<Linea>& Ocultas() const { return m_ocultas; }
     void Cargar();
 
 private:

@@ -1,6 +1,7 @@
 #include "registers/explotacion/PaginaSistema.h"
 
 #include "frame/Ciclo.h"
+#include "frame/Mensajes.h"
 #include "registers/explotacion/Resumen.h"
 
 #include <QLabel>
@@ -19,6 +20,30 @@ PaginaSistema::PaginaSistema(Conexion& base, QWidget* padre)
     aviso->setEnabled(false);
     aviso->setWordWrap(true);
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, aviso);
+    Rejilla().comprobar = [this](const Linea& linea) { return ComprobarAño(linea); };
+}
+
+// A year that is kept without a line here is there all the same.
+bool PaginaSistema::ComprobarAño(const Linea& linea) {
+    const auto& ocultas = Ocultas();
+    if (std::none_of(ocultas.begin(), ocultas.end(),
+                     [&](const Linea& oculta) { return oculta.celdas[0] == linea.celdas[0]; }))
+        return true;
+    pastorix::Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
+                     QString::fromUtf8(Materia().lineas.repetido) + QString::fromStdString(linea.celdas[0]));
+    return false;
+}
+
+// The figures beside a type are those of its year: they are worked out again, and a year without any goes out of sight.
+void PaginaSistema::DespuesDeGuardar() {
+    const auto antes = Ocultas().size();
+    Cargar();
+    if (Ocultas().size() > antes)
+        pastorix::Avisar(
+            this, TipoMensaje::Informacion, QStringLiteral("Información"),
+            QStringLiteral(
+                "El año queda guardado, pero no se ve en la tabla: no tiene línea en Inicio Periodo "
+                "Reproductivo"));
 }
 
 DatosMateria PaginaSistema::Leer() {

@@ -12,7 +12,11 @@ public:
 
 protected:
     DatosMateria Leer() override;
+    void DespuesDeGuardar() override;
     void showEvent(QShowEvent* evento) override;
+
+private:
+    bool ComprobarAño(const Linea& linea);
 };
 
 } // namespace pastorix

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace pastorix {
@@ -94,8 +95,12 @@ void Reescribir(Conexion& c, const char* tabla, std::span<const ColumnaLinea> co
     }
 }
 
+// One that stands as it was is not written: its apostrophe may come from elsewhere.
 void EscribirObservacion(Conexion& c, const AsuntoSanidad& asunto, double idVaca, const Valor& observacion) {
     const auto donde = " WHERE Id_Vaca = " + NumeroSql(idVaca);
+    if (ValorDeCampo(c, std::string("SELECT ") + asunto.observacion + " FROM T_Vacas" + donde) ==
+        TextoDe(observacion))
+        return;
     if (asunto.observacionPorSentencia) {
         const auto texto = TextoDe(observacion);
         c.Execute(std::string("UPDATE T_Vacas SET ") + asunto.observacion + " = " +
@@ -142,11 +147,26 @@ DatosSanidad LeerAsunto(Conexion& c, const AsuntoSanidad& asunto, double idVaca)
     return datos;
 }
 
+// The lines whose mating record is still there: one removed meanwhile takes its entries along.
+std::vector<Linea> ConCiclo(Conexion& c, double idVaca, const std::vector<Linea>& lineas) {
+    std::set<std::pair<std::string, std::string>> ciclos;
+    for (Recordset rs(c, "SELECT Año_Ref, N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(idVaca),
+                      Cursor::Estatico, Bloqueo::SoloLectura);
+         !rs.Eof(); rs.Siguiente())
+        ciclos.emplace(rs[0].Texto(), rs[1].Texto());
+    std::vector<Linea> quedan;
+    std::copy_if(lineas.begin(), lineas.end(), std::back_inserter(quedan), [&](const Linea& l) {
+        return ciclos.contains({l.celdas[0], l.celdas[1]});
+    });
+    return quedan;
+}
+
 void GuardarAsunto(Conexion& c, const AsuntoSanidad& asunto, VacaEnHoja vaca, const DatosSanidad& datos) {
-    const auto ciclos = [&] { Reescribir(c, asunto.ciclo.tabla, asunto.ciclo.columnas, vaca, datos.ciclos); };
+    const auto conCiclo = ConCiclo(c, vaca.idVaca, datos.ciclos);
+    const auto ciclos = [&] { Reescribir(c, asunto.ciclo.tabla, asunto.ciclo.columnas, vaca, conCiclo); };
     const auto naturales = [&] { EscribirNaturales(c, asunto.natural, vaca, datos.naturales); };
     asunto.primeroCiclo ? ciclos() : naturales();
-    if (asunto.soloConCiclos && datos.ciclos.empty())
+    if (asunto.soloConCiclos && conCiclo.empty())
         return;
     EscribirObservacion(c, asunto, vaca.idVaca, datos.observacion);
     asunto.primeroCiclo ? naturales() : ciclos();

@@ -25,14 +25,6 @@ constexpr std::size_t kAño = 0;
 constexpr std::size_t kParto = 2;
 constexpr std::size_t kDestete = 3;
 
-// A cell as its column takes it: as it was read when nobody touched it, Null when it is empty.
-Valor ValorDeCelda(const Linea& linea, std::size_t columna) {
-    const auto& celda = linea.celdas[columna];
-    if (columna < linea.leidos.size() && TextoDe(linea.leidos[columna]) == celda)
-        return linea.leidos[columna];
-    return celda.empty() ? Valor() : Valor(celda);
-}
-
 } // namespace
 
 std::span<const ColumnaLinea> ColumnasDeLactacion() {

@@ -2,6 +2,7 @@
 
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
+#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoMemo.h"
 #include "frame/ficha/Ficha.h"
 
@@ -39,11 +40,7 @@ QWidget* PaginaAsunto::CrearRejillas() {
                            int ancho) {
         auto* columna = new QVBoxLayout;
         columna->setSpacing(6);
-        auto* rotulo = new QLabel(QString::fromUtf8(titulo), caja);
-        auto fuente = rotulo->font();
-        fuente.setBold(true);
-        rotulo->setFont(fuente);
-        columna->addWidget(rotulo);
+        columna->addWidget(Titular(QString::fromUtf8(titulo), caja));
         lineas = CrearLineas(definicion, caja);
         columna->addWidget(lineas, 1);
         lado->addLayout(columna, ancho);

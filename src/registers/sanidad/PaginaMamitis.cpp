@@ -1,6 +1,7 @@
 #include "registers/sanidad/PaginaMamitis.h"
 
 #include "frame/calendario/Calendario.h"
+#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoTexto.h"
 #include "frame/ficha/LineasEditables.h"
 #include "registers/sanidad/AsuntosSanidad.h"
@@ -33,14 +34,6 @@ const DefinicionLineas kVacunas{"Grid_MVacu",
                                 "Atención!!!",
                                 "Eliminar el Año Natural: ",
                                 "Confirme"};
-
-QLabel* Negrita(const QString& texto, QWidget* padre) {
-    auto* rotulo = new QLabel(texto, padre);
-    auto fuente = rotulo->font();
-    fuente.setBold(true);
-    rotulo->setFont(fuente);
-    return rotulo;
-}
 
 } // namespace
 
@@ -75,7 +68,7 @@ QWidget* PaginaMamitis::CrearTeto(std::size_t i, QWidget* padre) {
     auto* rejilla = new QGridLayout(caja);
     rejilla->setContentsMargins(0, 0, 0, 0);
     auto& campos = m_campos[i];
-    campos.rotulo = Negrita({}, caja);
+    campos.rotulo = Titular({}, caja);
     campos.rotulo->setObjectName(QStringLiteral("Et_Teto(%1)").arg(indice));
     rejilla->addWidget(campos.rotulo, 0, 0, 1, 2);
     const auto poner = [&](const char* texto, ClaseCampo clase, int anchura, int fila, int control) {
@@ -103,13 +96,13 @@ QWidget* PaginaMamitis::CrearListas() {
     auto* caja = new QWidget(this);
     auto* todo = new QVBoxLayout(caja);
     todo->setContentsMargins(0, 0, 0, 0);
-    todo->addWidget(Negrita(QStringLiteral("Lactaciones"), caja));
+    todo->addWidget(Titular(QStringLiteral("Lactaciones"), caja));
     m_lactaciones = new LineasEditables(kLactaciones, caja);
     m_lactaciones->alCambiar = [this] { Tocar(); };
     m_lactaciones->alTeclear = [this] { Tocar(); };
     todo->addWidget(m_lactaciones, 5);
     todo->addSpacing(8);
-    todo->addWidget(Negrita(QStringLiteral("Vacunación por año natural"), caja));
+    todo->addWidget(Titular(QStringLiteral("Vacunación por año natural"), caja));
     m_vacunas = new LineasEditables(kVacunas, caja);
     m_vacunas->alCambiar = [this] { GuardarVacunas(); };
     todo->addWidget(m_vacunas, 4);
@@ -137,6 +130,7 @@ void PaginaMamitis::Mostrar(VacaEnHoja vaca) {
     m_vacunas->Permitir(vaca.idVaca != 0 && vaca.idGanadero != 0);
     m_vacunas->Mostrar(std::move(vacunas));
     m_tocada = false;
+    m_vacunasPorGuardar = false;
 }
 
 void PaginaMamitis::MostrarTeto(std::size_t i) {
@@ -152,7 +146,7 @@ void PaginaMamitis::MostrarTeto(std::size_t i) {
 }
 
 bool PaginaMamitis::Pendiente() const {
-    return m_tocada || m_lactaciones->EnCurso() || m_vacunas->EnCurso();
+    return m_tocada || m_vacunasPorGuardar || m_lactaciones->EnCurso() || m_vacunas->EnCurso();
 }
 
 void PaginaMamitis::Tocar() {
@@ -181,17 +175,25 @@ Tetos PaginaMamitis::Recogidos() const {
     return tetos;
 }
 
-void PaginaMamitis::EscribirHijos(double idVaca) {
+bool PaginaMamitis::Recoger() {
     m_guardando = true; // the sheet knows already
-    if (m_lactaciones->EnCurso())
-        m_lactaciones->Confirmar();
+    for (auto* lineas : {m_lactaciones, m_vacunas})
+        if (lineas->EnCurso())
+            lineas->Confirmar();
+    if (m_vacunasPorGuardar)
+        GuardarVacunas();
     m_guardando = false;
+    return !m_vacunasPorGuardar && !m_lactaciones->EnCurso() && !m_vacunas->EnCurso();
+}
+
+void PaginaMamitis::EscribirHijos(double idVaca) {
     EscribirTetos(Base(), idVaca, Recogidos());
     EscribirLactaciones(Base(), idVaca, m_lactaciones->Lineas());
 }
 
 void PaginaMamitis::GuardarVacunas() {
-    Intentar([this] { EscribirNaturales(Base(), kVacunasMamitis, Vaca(), m_vacunas->Lineas()); });
+    m_vacunasPorGuardar =
+        !Intentar([this] { EscribirNaturales(Base(), kVacunasMamitis, Vaca(), m_vacunas->Lineas()); });
 }
 
 } // namespace pastorix

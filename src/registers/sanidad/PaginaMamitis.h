@@ -27,6 +27,9 @@ public:
     // Teats and lactations to their tables, for the sheet's save. Throws ErrorAlmacen.
     void EscribirHijos(double idVaca);
 
+    // Puts lines in progress into their lists before the sheet is saved; false, after its box, when one cannot go.
+    bool Recoger();
+
     std::function<bool()> puedeTocar; // false: no record on the sheet, nothing can be changed
     std::function<void()> alTocar;    // something that the sheet saves was changed
 
@@ -52,6 +55,7 @@ private:
     LineasEditables* m_vacunas = nullptr;
     Tetos m_tetos; // as read
     bool m_tocada = false;
+    bool m_vacunasPorGuardar = false; // their last save failed
     bool m_guardando = false;
 };
 

@@ -1,7 +1,6 @@
 #include "registers/sementales/PatologiasSemental.h"
 
 #include "store/Literales.h"
-#include "store/Textos.h"
 
 #include <algorithm>
 
@@ -37,19 +36,6 @@ constexpr ListaDeVacunas kListas[] = {{1, "IBR"}, {2, "BVD"}, {3, "NEOSPORA"}};
 
 constexpr const char* kAnimal = "Id_Animal";
 
-// Fields of a table that the grid has no column for: they go back with their line.
-std::vector<std::string> OtrosCampos(const Recordset& rs, const DefinicionPatologia& d) {
-    std::vector<std::string> otros;
-    for (int i = 0; i < rs.Campos(); ++i) {
-        const auto campo = rs.NombreCampo(i);
-        if (!IgualSinCaso(campo, kAnimal) &&
-            std::none_of(d.columnas.begin(), d.columnas.end(),
-                         [&](const ColumnaLinea& c) { return IgualSinCaso(campo, c.columna); }))
-            otros.push_back(campo);
-    }
-    return otros;
-}
-
 } // namespace
 
 const DefinicionPatologia& PatologiaSem() {
@@ -83,11 +69,7 @@ std::vector<std::string> FechasDeVacuna(Conexion& c, double idGanadero, const ch
 std::vector<Linea> LeerPatologias(Conexion& c, const DefinicionPatologia& d, double idSemental) {
     Recordset rs(c, std::string("Select * FROM ") + d.tabla + " WHERE Id_Animal = " + NumeroSql(idSemental) +
                         " ORDER BY Anatural DESC");
-    const auto nombres = OtrosCampos(rs, d);
-    std::vector<const char*> otras;
-    for (const auto& n : nombres)
-        otras.push_back(n.c_str());
-    return LeerLineas(rs, d.columnas, otras);
+    return LeerLineas(rs, d.columnas, OtrosCampos(rs, d.columnas, {kAnimal}));
 }
 
 void GuardarPatologias(Conexion& c, const DefinicionPatologia& d, double idSemental,

@@ -105,8 +105,7 @@ RejillaPatologia::RejillaPatologia(const DefinicionPatologia& definicion, QWidge
 }
 
 void RejillaPatologia::Mostrar(std::vector<Linea> lineas) {
-    if (auto* editor = indexWidget(currentIndex()))
-        closeEditor(editor, QAbstractItemDelegate::RevertModelCache); // its line may no longer be there
+    Abandonar(); // its line may no longer be there
     m_lineas = std::move(lineas);
     // Ages follow a corrected birth date; without one, those that were written then stay.
     if (m_definicion.columnaEdad >= 0 && edadDe)
@@ -136,9 +135,16 @@ QStringList RejillaPatologia::ListaDe(std::size_t columna) const {
     return it == m_listas.end() ? QStringList() : it->second;
 }
 
-void RejillaPatologia::Terminar() {
+void RejillaPatologia::Abandonar() {
+    if (auto* editor = indexWidget(currentIndex()))
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+}
+
+bool RejillaPatologia::Terminar() {
+    m_rechazado = false;
     if (state() == EditingState)
         setFocus(); // an editor that loses the focus puts its text into the cell
+    return !m_rechazado;
 }
 
 void RejillaPatologia::AvisarDespues(const QString& texto, int fila, int columna) {
@@ -206,7 +212,13 @@ void RejillaPatologia::Cambiar(int fila, int columna, const QString& texto) {
     const auto celda = texto.trimmed().toStdString();
     if (nueva ? celda.empty() : celda == m_lineas[lugar].celdas[static_cast<std::size_t>(columna)])
         return; // nothing was changed
+    if (columna == 0 && !celda.empty() && celda.size() != kCifrasDelAño) {
+        m_rechazado = true;
+        AvisarDespues(QStringLiteral("El año debe tener cuatro cifras"), fila, columna);
+        return;
+    }
     if (columna == 0 && Repetido(fila, celda)) {
+        m_rechazado = true;
         AvisarDespues(QStringLiteral("Ya existe una línea para el año natural ") + texto.trimmed(), fila,
                       columna);
         return;

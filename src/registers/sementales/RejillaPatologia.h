@@ -26,8 +26,10 @@ public:
     // Items of the editor of a column that come from the database.
     void FijarLista(std::size_t columna, const QStringList& valores);
     QStringList ListaDe(std::size_t columna) const;
-    // Takes what stands in an open editor.
-    void Terminar();
+    // Takes what stands in an open editor; false when it was refused.
+    bool Terminar();
+    // Closes an open editor and forgets what stands in it.
+    void Abandonar();
     // Shows a box once the editor at work has closed, and goes to a cell: a box in its midst would take the focus from the editor, and
     // end it twice.
     void AvisarDespues(const QString& texto, int fila, int columna);
@@ -53,6 +55,7 @@ private:
     const DefinicionPatologia& m_definicion;
     std::vector<Linea> m_lineas;
     std::map<std::size_t, QStringList> m_listas;
+    bool m_rechazado = false; // what the last editor left
 };
 
 } // namespace pastorix

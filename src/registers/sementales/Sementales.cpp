@@ -46,10 +46,6 @@ void Sementales::Conectar() {
     });
     connect(&clase, &QComboBox::activated, this, [this] { Renombrar(); });
     connect(&Combo("CD_CBaja"), &QComboBox::currentIndexChanged, this, [this] { RefrescarBaja(); });
-    connect(&Campo(1), &QLineEdit::editingFinished, this, [this] {
-        if (Editando() && !Combo("CD_Cularidad").currentText().isEmpty())
-            Renombrar();
-    });
 }
 
 // The farmer stays when the sheet is cleared: he is whom the next bull is added to.
@@ -62,6 +58,7 @@ void Sementales::MostrarGanadero(std::optional<double> idGanadero) {
 }
 
 void Sementales::Renombrar() {
+    m_nombre = Texto(1);
     Poner(2, NombreCompuesto(TextoStd(1), Combo("CD_Cularidad").currentText().toStdString(),
                              m_ganadero->Codigo().toStdString()));
 }
@@ -81,13 +78,20 @@ QStringList Sementales::Contenido() const {
     return todo << m_otraCausa->text() << m_ganadero->Codigo();
 }
 
-// While nothing is being edited, only what no save has seen can be lost: lines without a year, and remarks that could not be written.
+// A compound name written by hand stays until the name changes.
+void Sementales::AlDejar(QWidget& campo) {
+    if (&campo == &Campo(1) && Editando() && Texto(1) != m_nombre &&
+        !Combo("CD_Cularidad").currentText().isEmpty())
+        Renombrar();
+}
+
+// While nothing is being edited, what no save has seen can be lost: lines without a year, grids and remarks that could not be written.
 bool Sementales::PermiteDejar() {
+    if (!TerminarCeldas())
+        return false;
     bool pendiente = Clave() != 0 && Memo(kObsPatologia).Cambiado();
-    for (auto* rejilla : m_rejillas) {
-        rejilla->Terminar();
-        pendiente = pendiente || !rejilla->SinAño().empty();
-    }
+    for (std::size_t i = 0; i < m_rejillas.size(); ++i)
+        pendiente = pendiente || m_porGuardar[i] || !m_rejillas[i]->SinAño().empty();
     return Editando() || !pendiente ||
            Preguntar(this, QStringLiteral("Atención"),
                      QStringLiteral("Hay patologías sin guardar. ¿Desea seguir y perderlas?"));
@@ -103,6 +107,8 @@ std::string Sementales::CodigoPropuesto() {
 }
 
 void Sementales::AlAñadir() {
+    VaciarSanidad();
+    m_nombre.clear();
     Campo(0).setFocus();
     Campo(0).selectAll();
 }
@@ -110,7 +116,7 @@ void Sementales::AlAñadir() {
 void Sementales::LimpiarPropios() {
     m_otraCausa->clear();
     RefrescarBaja();
-    PermitirSanidad(false);
+    PermitirSanidad(false); // the lines stay: they may be of the bull who comes back
 }
 
 void Sementales::MostrarPropios(Recordset& rs) {
@@ -119,21 +125,17 @@ void Sementales::MostrarPropios(Recordset& rs) {
     MostrarGanadero(rs["Id_Ganadero"].Nulo() ? std::nullopt : std::optional(rs["Id_Ganadero"].Numero()));
     MostrarSanidad();
     m_contenido = Contenido();
+    m_nombre = Texto(1);
 }
 
 bool Sementales::ComprobarMinimos() {
-    for (auto* rejilla : m_rejillas)
-        rejilla->Terminar();
+    if (!TerminarCeldas() || !GuardarPendientes())
+        return false;
     if (!m_ganadero->Id())
         return Rechazar(QStringLiteral("Debe indicar el ganadero al que pertenece"), m_ganadero->Icono());
+    if (CodigoTecleado().toDouble() != 0 && Texto(1).isEmpty())
+        return Rechazar(QString::fromUtf8(DefinicionSementales().minimos), &Campo(1));
     return Ficha::ComprobarMinimos();
-}
-
-bool Sementales::Comprobar() {
-    // Saved with the keyboard, the name was not left.
-    if (Campo(1).hasFocus() && !Combo("CD_Cularidad").currentText().isEmpty())
-        Renombrar();
-    return true;
 }
 
 void Sementales::EscribirPropios(Recordset& rs) {
@@ -153,26 +155,10 @@ void Sementales::EscribirHijos(double codigo) {
 }
 
 void Sementales::DespuesDeGuardar(double clave) {
-    Recargar(clave);
+    CargarFicha(clave);
     if (!m_errorDeNombre.empty())
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
                QString::fromStdString(m_errorDeNombre));
-}
-
-// Lines that still lack their year stay for it.
-void Sementales::Recargar(double clave) {
-    std::array<std::vector<Linea>, 2> sueltas;
-    for (std::size_t i = 0; i < m_rejillas.size(); ++i)
-        sueltas[i] = m_rejillas[i]->SinAño();
-    if (!CargarFicha(clave))
-        return;
-    for (std::size_t i = 0; i < m_rejillas.size(); ++i) {
-        if (sueltas[i].empty())
-            continue;
-        auto lineas = m_rejillas[i]->Lineas();
-        lineas.insert(lineas.end(), sueltas[i].begin(), sueltas[i].end());
-        m_rejillas[i]->Mostrar(std::move(lineas));
-    }
 }
 
 QString Sementales::PreguntaEliminar() const {
@@ -184,8 +170,13 @@ void Sementales::Borrar(double clave) {
         BorrarSemental(Base(), clave);
 }
 
+void Sementales::DespuesDeBorrar() {
+    VaciarSanidad();
+}
+
 void Sementales::NoEncontrado(double) {
     Vaciar();
+    VaciarSanidad();
 }
 
 } // namespace pastorix

@@ -31,7 +31,8 @@ protected:
     void LimpiarPropios() override;
     void MostrarPropios(Recordset& rs) override;
     bool ComprobarMinimos() override;
-    bool Comprobar() override;
+    void AlDejar(QWidget& campo) override;
+    void DespuesDeBorrar() override;
     void EscribirPropios(Recordset& rs) override;
     void EscribirHijos(double codigo) override;
     void DespuesDeGuardar(double clave) override;
@@ -55,10 +56,8 @@ private:
     void Renombrar(); // the compound name follows name and class
     void RefrescarBaja();
     QStringList Contenido() const; // all that can be edited but the health remarks
-    void Recargar(double clave);
 
     // SementalesBusqueda.cpp: the five search icons
-    bool DejaCargarOtro();
     void CargarElegido(int icono);
     void ElegirGanaderoPropietario();
     void ElegirPadre();
@@ -67,6 +66,9 @@ private:
     // SementalesPatologias.cpp: the health tab
     void PermitirSanidad(bool si);
     void MostrarSanidad();
+    void VaciarSanidad();
+    bool TerminarCeldas(); // false when what stood in an open one was refused
+    bool GuardarPendientes();
     void LlenarVacunas();
     void GuardarRejilla(RejillaPatologia& rejilla);
     void GuardarPato();
@@ -79,8 +81,11 @@ private:
     CampoTexto* m_otraCausa = nullptr; // CtextoBaja
     std::array<RejillaPatologia*, 2> m_rejillas{};
     std::array<QPushButton*, 2> m_botonesPato{};
-    QStringList m_contenido;     // as it was read
-    std::string m_errorDeNombre; // why the save at hand could not carry the name on
+    std::array<bool, 2> m_porGuardar{}; // the last save of a grid failed
+    double m_deQuien = 0;               // the bull whose lines stand in the grids
+    QString m_nombre;                   // the name that the compound one was last made of
+    QStringList m_contenido;            // as it was read
+    std::string m_errorDeNombre;        // why the save at hand could not carry the name on
 };
 
 } // namespace pastorix

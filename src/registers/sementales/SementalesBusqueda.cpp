@@ -35,13 +35,6 @@ void Sementales::BuscarDato(int icono) {
     }
 }
 
-bool Sementales::DejaCargarOtro() {
-    return Editando()
-               ? Preguntar(this, QStringLiteral("Atención"),
-                           QStringLiteral("Hay cambios sin guardar. ¿Desea cargar otro toro y perderlos?"))
-               : PermiteDejar();
-}
-
 // 0 by name, among the farmer's bulls if one is set; 4 by merit, among all.
 void Sementales::CargarElegido(int icono) {
     auto sentencia = SentenciaMeritos();
@@ -51,7 +44,7 @@ void Sementales::CargarElegido(int icono) {
     }
     const auto tipo = icono == 0 ? TipoSelector::Sementales : TipoSelector::Meritos;
     const auto eleccion = Selector::Elegir(Base(), tipo, sentencia.Completa(), this);
-    if (eleccion && DejaCargarOtro())
+    if (eleccion && PermiteCargarOtro())
         CargarFicha(eleccion->clave);
 }
 

@@ -16,17 +16,51 @@ namespace pastorix {
 void Sementales::PermitirSanidad(bool si) {
     for (auto* rejilla : m_rejillas) {
         if (!si)
-            rejilla->Mostrar({}); // first: what stands in an open editor goes to no other lines
+            rejilla->Abandonar(); // what stands in an open editor goes to no other lines
         rejilla->setEnabled(si);
     }
     for (auto* boton : m_botonesPato)
         boton->setEnabled(si);
 }
 
+// Of the bull who was shown before, what no save has taken stays: lines without their year, and a grid that could not be written.
 void Sementales::MostrarSanidad() {
-    for (auto* rejilla : m_rejillas)
-        rejilla->Mostrar(LeerPatologias(Base(), rejilla->Definicion(), Clave()));
+    for (std::size_t i = 0; i < m_rejillas.size(); ++i) {
+        auto& rejilla = *m_rejillas[i];
+        const bool elMismo = m_deQuien == Clave();
+        m_porGuardar[i] = m_porGuardar[i] && elMismo;
+        if (m_porGuardar[i])
+            continue;
+        auto lineas = LeerPatologias(Base(), rejilla.Definicion(), Clave());
+        if (elMismo)
+            for (auto& suelta : rejilla.SinAño())
+                lineas.push_back(std::move(suelta));
+        rejilla.Mostrar(std::move(lineas));
+    }
+    m_deQuien = Clave();
     PermitirSanidad(true);
+}
+
+void Sementales::VaciarSanidad() {
+    m_deQuien = 0;
+    m_porGuardar.fill(false);
+    for (auto* rejilla : m_rejillas)
+        rejilla->Mostrar({});
+    PermitirSanidad(false);
+}
+
+bool Sementales::TerminarCeldas() {
+    bool bien = true;
+    for (auto* rejilla : m_rejillas)
+        bien = rejilla->Terminar() && bien;
+    return bien;
+}
+
+bool Sementales::GuardarPendientes() {
+    for (std::size_t i = 0; i < m_rejillas.size(); ++i)
+        if (m_porGuardar[i])
+            GuardarRejilla(*m_rejillas[i]);
+    return !m_porGuardar[0] && !m_porGuardar[1];
 }
 
 void Sementales::LlenarVacunas() {
@@ -39,8 +73,11 @@ void Sementales::LlenarVacunas() {
 }
 
 void Sementales::GuardarRejilla(RejillaPatologia& rejilla) {
+    auto& porGuardar = m_porGuardar[&rejilla == m_rejillas[0] ? 0 : 1];
+    porGuardar = true;
     try {
         EnGrupo(Base(), [&] { GuardarPatologias(Base(), rejilla.Definicion(), Clave(), rejilla.Lineas()); });
+        porGuardar = false;
     } catch (const std::exception& e) {
         rejilla.AvisarDespues(QString::fromUtf8(e.what()), rejilla.currentRow(), rejilla.currentColumn());
     }
@@ -53,7 +90,7 @@ void Sementales::MostrarCausa(const std::exception& error) {
 
 // A text with an apostrophe is refused here; it stays on the sheet, whose own save takes it.
 void Sementales::GuardarPato() {
-    if (Clave() == 0)
+    if (Clave() == 0 || !TerminarCeldas() || !GuardarPendientes())
         return;
     const auto texto = TextoStd(kObsPatologia);
     const auto donde = " WHERE ID_SEMENTAL = " + NumeroSql(Clave());
@@ -74,7 +111,7 @@ void Sementales::GuardarPato() {
 }
 
 void Sementales::CancelarPato() {
-    if (Clave() == 0)
+    if (Clave() == 0 || !TerminarCeldas())
         return;
     try {
         TerminarObservaciones(ValorDeCampo(
@@ -88,7 +125,7 @@ void Sementales::CancelarPato() {
 void Sementales::TerminarObservaciones(const std::string& texto) {
     Poner(kObsPatologia, texto);
     if (Editando() && Contenido() == m_contenido)
-        Recargar(Clave());
+        CargarFicha(Clave());
 }
 
 } // namespace pastorix

@@ -1,4 +1,5 @@
 // The window of the bull sheet: heading and tabs.
+#include "frame/ficha/Aspecto.h"
 #include "registers/EncabezadoGanadero.h"
 #include "registers/sementales/DefinicionSementales.h"
 #include "registers/sementales/ReglasSemental.h"
@@ -19,10 +20,7 @@ namespace {
 
 // A line of its own that says what the fields below it are about.
 QLabel* Seccion(const char* texto, QWidget* padre) {
-    auto* rotulo = new QLabel(QString::fromUtf8(texto), padre);
-    auto fuente = rotulo->font();
-    fuente.setBold(true);
-    rotulo->setFont(fuente);
+    auto* rotulo = Titular(QString::fromUtf8(texto), padre);
     rotulo->setContentsMargins(0, 6, 0, 0);
     return rotulo;
 }
@@ -100,7 +98,6 @@ QWidget* Sementales::CrearObservaciones(QWidget* padre) {
         botones->addWidget(boton);
         m_botonesPato[i++] = boton;
     }
-    MarcarGuardarDePagina(*m_botonesPato[0]);
     Rejilla()->addLayout(botones, 2, 0, 1, 2);
     return caja;
 }
@@ -113,7 +110,7 @@ QWidget* Sementales::CrearBaja() {
     todo->addWidget(caja);
     Combo("CD_CBaja").setMaximumWidth(fontMetrics().averageCharWidth() * 34);
     auto* rotulo = new QLabel(QStringLiteral("Otra Causa"), caja);
-    m_otraCausa = new CampoTexto(ClaseCampo::Texto, 255, caja);
+    m_otraCausa = new CampoTexto(ClaseCampo::Texto, AnchuraDe("OtraCausa"), caja);
     m_otraCausa->setObjectName(QStringLiteral("CtextoBaja"));
     m_otraCausa->setAccessibleName(rotulo->text());
     rotulo->setBuddy(m_otraCausa);

@@ -11,11 +11,13 @@ std::optional<int> EnteroDe(const Campo& campo) {
     return campo.Nulo() ? std::nullopt : std::optional(static_cast<int>(campo.Entero()));
 }
 
-// " WHERE Id_Vaca = ... " for the cycle; the records of a cycle without parity are those without one.
+// " WHERE Id_Vaca = ... " for the cycle; the records of a cycle without year or parity are those without one.
 std::string Donde(const CicloDeVaca& ciclo, const char* año, const char* parto) {
-    return std::string(" WHERE ID_Vaca = ") + NumeroSql(ciclo.idVaca) + " AND " + año + " = " +
-           NumeroSql(ciclo.añoRef) + " AND " + parto +
-           (ciclo.nParto ? " = " + NumeroSql(*ciclo.nParto) : std::string(" Is Null"));
+    const auto igual = [](const std::optional<int>& n) {
+        return n ? " = " + NumeroSql(*n) : std::string(" Is Null");
+    };
+    return " WHERE ID_Vaca = " + NumeroSql(ciclo.idVaca) + " AND " + año + igual(ciclo.añoRef) + " AND " +
+           parto + igual(ciclo.nParto);
 }
 
 } // namespace
@@ -27,7 +29,7 @@ std::vector<CicloDeVaca> CubricionesDeVaca(Conexion& c, double idVaca) {
          !rs.Eof(); rs.Siguiente())
         ciclos.push_back({idVaca,
                           rs["Id_Cubricion"].Numero(),
-                          static_cast<int>(rs["Año_Ref"].Entero()),
+                          EnteroDe(rs["Año_Ref"]),
                           EnteroDe(rs["N_Parto"]),
                           {},
                           rs["DatosCompletos"].Entero() != 0});
@@ -40,10 +42,10 @@ std::vector<CicloDeVaca> PartosDeVaca(Conexion& c, double idVaca) {
                              " ORDER BY N_Parto DESC");
          !rs.Eof(); rs.Siguiente()) {
         const auto parto = EnteroDe(rs["N_Parto"]);
-        if (!ciclos.empty() && ciclos.back().nParto == parto)
+        if (parto && !ciclos.empty() && ciclos.back().nParto == parto)
             continue; // the second twin
-        ciclos.push_back({idVaca, 0, static_cast<int>(rs["Año_Ref"].Entero()), parto,
-                          rs["Fecha_Parto"].Texto(), rs["DatosCompletos"].Entero() != 0});
+        ciclos.push_back({idVaca, 0, EnteroDe(rs["Año_Ref"]), parto, rs["Fecha_Parto"].Texto(),
+                          rs["DatosCompletos"].Entero() != 0});
     }
     return ciclos;
 }

@@ -8,11 +8,11 @@
 
 namespace pastorix {
 
-// One cycle of a cow, as a line of her matings or calvings names it. A mating record may have no parity.
+// One cycle of a cow, as a line of her matings or calvings names it. Rows from elsewhere may lack the year or the parity.
 struct CicloDeVaca {
     double idVaca = 0;
     double idCubricion = 0; // of a mating record
-    int añoRef = 0;
+    std::optional<int> añoRef;
     std::optional<int> nParto;
     std::string fechaParto; // of a calving, dd/mm/yy
     bool completo = false;  // all its data are in

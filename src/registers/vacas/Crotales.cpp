@@ -48,10 +48,12 @@ std::optional<double> VecinaPorCrotal(Conexion& c, const std::string& crotal, do
         vacas.push_back({rs["Id_Vaca"].Numero(), rs["Crotal"].Texto()});
     if (vacas.empty())
         return std::nullopt;
-    auto aqui = std::find_if(vacas.begin(), vacas.end(),
-                             [&](const Marcada& v) { return v.idVaca == idVaca && v.crotal == crotal; });
+    auto aqui = std::find_if(vacas.begin(), vacas.end(), [&](const Marcada& v) {
+        return v.idVaca == idVaca && IgualSinCaso(v.crotal, crotal);
+    });
     if (aqui == vacas.end())
-        aqui = std::find_if(vacas.begin(), vacas.end(), [&](const Marcada& v) { return v.crotal == crotal; });
+        aqui = std::find_if(vacas.begin(), vacas.end(),
+                            [&](const Marcada& v) { return IgualSinCaso(v.crotal, crotal); });
     if (aqui == vacas.end())
         return paso > 0 ? vacas.front().idVaca : vacas.back().idVaca;
     const auto lugar = (aqui - vacas.begin()) + paso;

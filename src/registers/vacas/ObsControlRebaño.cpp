@@ -66,11 +66,19 @@ void ObsControlRebaño::Cargar() {
             return;
         m_nota->Poner(rs["ObsControlRebaño"].Texto());
         const auto item = QString::fromStdString(rs["Chekeo"].Texto());
-        m_chequeo->setCurrentIndex(std::max(0, m_chequeo->findText(item, Qt::MatchFixedString)));
+        m_leido = std::max(0, m_chequeo->findText(item, Qt::MatchFixedString));
+        m_chequeo->setCurrentIndex(m_leido);
     } catch (const ErrorAlmacen& e) {
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
                QStringLiteral("Se ha producido un Error"), QString::fromUtf8(e.what()));
     }
+}
+
+void ObsControlRebaño::reject() {
+    const bool cambiada = m_nota->Cambiado() || m_chequeo->currentIndex() != m_leido;
+    if (!cambiada || Preguntar(this, QStringLiteral("Atención"),
+                               QStringLiteral("Hay cambios sin guardar. ¿Desea cerrar y perderlos?")))
+        QDialog::reject();
 }
 
 void ObsControlRebaño::Aceptar() {
@@ -79,12 +87,15 @@ void ObsControlRebaño::Aceptar() {
         nota = " "; // the list prints a line for it
     const auto item = m_chequeo->currentText().toStdString();
     try {
-        EnGrupo(m_c, [&] {
-            m_c.Execute("UPDATE T_Vacas set ObsControlRebaño = " + TextoSql(nota) +
-                        " , Chekeo = " + (item.empty() ? std::string("Null") : TextoSql(item)) +
-                        " Where ID_Vaca = " + NumeroSql(m_idVaca));
+        const long filas = EnGrupo(m_c, [&] {
+            return m_c.Execute("UPDATE T_Vacas set ObsControlRebaño = " + TextoSql(nota) +
+                               " , Chekeo = " + (item.empty() ? std::string("Null") : TextoSql(item)) +
+                               " Where ID_Vaca = " + NumeroSql(m_idVaca));
         });
-        accept();
+        if (filas > 0)
+            return accept();
+        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención..."),
+               QStringLiteral("No Encuentro el Codigo: ") + QString::fromStdString(TextoNumero(m_idVaca)));
     } catch (const ErrorAlmacen& e) {
         // The form stays, with what was typed: an apostrophe cannot be stored by this statement.
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));

@@ -15,6 +15,8 @@ class ObsControlRebaño : public QDialog {
 public:
     ObsControlRebaño(Conexion& c, double idVaca, QWidget* padre = nullptr);
 
+    void reject() override; // not over a note that nobody has saved
+
 private:
     void Cargar();
     void Aceptar();
@@ -23,6 +25,7 @@ private:
     double m_idVaca;
     CampoMemo* m_nota;
     QComboBox* m_chequeo;
+    int m_leido = 0; // item as read
 };
 
 } // namespace pastorix

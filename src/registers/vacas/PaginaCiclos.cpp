@@ -22,14 +22,14 @@ constexpr ColumnaHijos kColumnasCubriciones[] = {{nullptr, "Id_Cubricion", 0},
                                                  {nullptr, "Nº de Parto", 12},
                                                  {nullptr, "Datos Completos", 18}};
 
-Valor Parto(const CicloDeVaca& c) {
-    return c.nParto ? Valor(std::int64_t{*c.nParto}) : Valor();
+Valor Entero(const std::optional<int>& n) {
+    return n ? Valor(std::int64_t{*n}) : Valor();
 }
 Valor Completo(const CicloDeVaca& c) {
     return std::string(c.completo ? "Sí" : "No");
 }
-QString NumeroParto(const CicloDeVaca& c) {
-    return QString::fromStdString(TextoDe(Parto(c)));
+QString EnLetra(const std::optional<int>& n) {
+    return QString::fromStdString(TextoDe(Entero(n)));
 }
 
 } // namespace
@@ -43,10 +43,12 @@ const DefinicionCiclos kPartosDeVaca{
     kColumnasPartos,
     PartosDeVaca,
     [](const CicloDeVaca& c) {
-        return std::vector<Valor>{Parto(c), c.fechaParto, std::int64_t{c.añoRef}, Completo(c)};
+        return std::vector<Valor>{Entero(c.nParto), c.fechaParto, Entero(c.añoRef), Completo(c)};
     },
     EliminarParto,
-    [](const CicloDeVaca& c) { return QStringLiteral("Confirme eliminar el Parto Nº : ") + NumeroParto(c); }};
+    [](const CicloDeVaca& c) {
+        return QStringLiteral("Confirme eliminar el Parto Nº : ") + EnLetra(c.nParto);
+    }};
 
 const DefinicionCiclos kCubricionesDeVaca{
     "GridCubriciones",
@@ -57,13 +59,13 @@ const DefinicionCiclos kCubricionesDeVaca{
     kColumnasCubriciones,
     CubricionesDeVaca,
     [](const CicloDeVaca& c) {
-        return std::vector<Valor>{c.idCubricion, std::int64_t{c.añoRef}, Parto(c), Completo(c)};
+        return std::vector<Valor>{c.idCubricion, Entero(c.añoRef), Entero(c.nParto), Completo(c)};
     },
     EliminarCubricion,
     [](const CicloDeVaca& c) {
         return QStringLiteral("Confirme eliminar la Cubrición del Año de Referencia : %1 y Nº de Parto: ")
-                   .arg(c.añoRef) +
-               NumeroParto(c);
+                   .arg(EnLetra(c.añoRef)) +
+               EnLetra(c.nParto);
     }};
 
 PaginaCiclos::PaginaCiclos(Conexion& c, const DefinicionCiclos& definicion, QWidget* padre)
@@ -88,7 +90,7 @@ PaginaCiclos::PaginaCiclos(Conexion& c, const DefinicionCiclos& definicion, QWid
         if (puedeOperar && !puedeOperar())
             return;
         m_alAñadir();
-        Mostrar(m_idVaca);
+        Releer();
     });
     connect(m_eliminar, &QPushButton::clicked, this, [this] { Eliminar(); });
     auto* botones = new QVBoxLayout;
@@ -117,6 +119,12 @@ void PaginaCiclos::Mostrar(double idVaca) {
     Habilitar();
 }
 
+void PaginaCiclos::Releer() {
+    Mostrar(m_idVaca);
+    if (alCambiar)
+        alCambiar();
+}
+
 void PaginaCiclos::Habilitar() {
     m_añadir->setEnabled(m_alAñadir && m_idVaca != 0);
     m_eliminar->setEnabled(!m_rejilla->selectedItems().isEmpty());
@@ -126,7 +134,7 @@ void PaginaCiclos::Abrir(int fila) {
     if ((puedeOperar && !puedeOperar()) || !m_abrir)
         return;
     m_abrir(m_ciclos[static_cast<std::size_t>(fila)]);
-    Mostrar(m_idVaca);
+    Releer();
 }
 
 void PaginaCiclos::Eliminar() {
@@ -141,7 +149,7 @@ void PaginaCiclos::Eliminar() {
     } catch (const ErrorAlmacen& e) {
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
     }
-    Mostrar(m_idVaca);
+    Releer();
     m_rejilla->setFocus();
 }
 

@@ -42,12 +42,14 @@ public:
     // What a double click and the button do; empty: not there yet, and the button is off.
     void FijarOrdenes(std::function<void(const CicloDeVaca&)> abrir, std::function<void()> añadir);
 
+    std::function<void()> alCambiar;   // cycles were opened, added or removed here
     std::function<bool()> puedeOperar; // false, after its own box, while the sheet is being edited
 
 private:
     void Eliminar();
     void Abrir(int fila);
     void Habilitar();
+    void Releer();
 
     Conexion& m_c;
     const DefinicionCiclos& m_definicion;

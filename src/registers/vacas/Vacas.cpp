@@ -44,7 +44,7 @@ bool Vacas::PermiteAñadir() {
             QStringLiteral("Debe encontrarse en la Ficha General para poder realizar esta acción"), m_tab);
     if (!m_ganadero->Id())
         return Rechazar(QStringLiteral("Seleccione el Ganadero al que pretende añadir una Vaca."),
-                        &Campo(Codigo));
+                        m_ganadero->Icono());
     return true;
 }
 
@@ -54,6 +54,7 @@ std::string Vacas::CodigoPropuesto() {
 
 void Vacas::AlAñadir() {
     VaciarPaginas();
+    m_nombre.clear();
     Ficha::AlAñadir();
 }
 
@@ -74,6 +75,7 @@ bool Vacas::CodigoIntacto() {
 
 void Vacas::LimpiarPropios() {
     m_huella.clear();
+    m_crotal.clear();
     if (Clave() == 0)
         VaciarPaginas(); // what was typed there for a cow that is not to be
 }
@@ -87,6 +89,8 @@ void Vacas::MostrarPropios(Recordset& rs) {
     Poner(campo_vaca::AñoRef, rs["FechaBaja"].Nulo() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
     MostrarPaginas();
     m_huella = Huella();
+    m_crotal = Texto(Crotal);
+    m_nombre = Texto(Nombre);
 }
 
 void Vacas::MostrarPaginas() {
@@ -122,7 +126,8 @@ void Vacas::NoEncontrado(double clave) {
 }
 
 bool Vacas::PermiteDejar() {
-    for (const auto* pagina : m_sanidad)
+    const std::array<const PaginaSanidad*, 4> paginas{m_mamitis, m_sanidad[0], m_sanidad[1], m_sanidad[2]};
+    for (const auto* pagina : paginas)
         if (pagina->Pendiente() &&
             !Preguntar(this, QStringLiteral("Atención"),
                        QStringLiteral("Hay cambios sin guardar en la pestaña %1. ¿Desea perderlos?")
@@ -131,11 +136,18 @@ bool Vacas::PermiteDejar() {
     return true;
 }
 
+// A cycle was changed by its own sheet, added or removed: what is shown of it elsewhere follows.
+void Vacas::AlCambiarCiclos() {
+    AlCambiarDePestaña(m_tab->currentIndex());
+    Poner(campo_vaca::AñoRef, Texto(FechaBaja).isEmpty() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
+}
+
 void Vacas::AlCambiarDePestaña(int) {
     if (Clave() != 0 && Accion() != 1)
         try {
             m_partos->Mostrar(Clave());
             m_cubriciones->Mostrar(Clave());
+            m_mamitis->Refrescar();
             for (auto* pagina : m_sanidad)
                 pagina->Refrescar();
         } catch (const ErrorAlmacen& e) {
@@ -166,7 +178,7 @@ bool Vacas::Comprobar() {
                                    "dígito más para diferenciarlo."),
                 &Campo(Crotal));
     }
-    return Accion() != 2 || CodigoIntacto();
+    return (Accion() != 2 || CodigoIntacto()) && m_mamitis->Recoger();
 }
 
 void Vacas::EscribirPropios(Recordset& rs) {
@@ -185,6 +197,12 @@ void Vacas::DespuesDeGuardar(double clave) {
 
 // --- removing
 
+bool Vacas::PermiteEliminar() {
+    return m_ganadero->Id() ||
+           Rechazar(QStringLiteral("La vaca no tiene ganadero: elija uno y guárdela antes de eliminarla"),
+                    m_ganadero->Icono());
+}
+
 QString Vacas::PreguntaEliminar() const {
     return QStringLiteral("Eliminar Vaca: ") + Texto(Nombre);
 }
@@ -202,7 +220,14 @@ void Vacas::DespuesDeBorrar() {
 
 // --- derived values and other windows
 
+void Vacas::AlDejar(QWidget& campo) {
+    if (&campo == &Campo(Nombre) &&
+        Texto(Nombre) != m_nombre) // a compound name written by hand stays until then
+        ComponerNombre();
+}
+
 void Vacas::ComponerNombre() {
+    m_nombre = Texto(Nombre);
     if (Editando())
         Poner(NombreC,
               NombreCompuestoDeVaca(TextoStd(Nombre), Combo("CD_Cularidad").currentText().toStdString()));
@@ -229,11 +254,9 @@ void Vacas::BuscarDato(int icono) {
 }
 
 void Vacas::ElegirVaca() {
-    if (Editando())
-        return;
     const auto elegida =
         Selector::Elegir(Base(), TipoSelector::Vacas, SentenciaVacas(m_ganadero->Id()).Completa(), this);
-    if (elegida && elegida->clave != 0 && PermiteDejar())
+    if (elegida && elegida->clave != 0 && PermiteCargarOtro())
         CargarFicha(elegida->clave);
 }
 

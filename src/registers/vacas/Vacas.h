@@ -30,6 +30,8 @@ protected:
     bool PermiteDejar() override;
     bool PermiteAñadir() override;
     bool PermiteModificar() override;
+    bool PermiteEliminar() override;
+    void AlDejar(QWidget& campo) override;
     std::string CodigoPropuesto() override;
     void AlAñadir() override;
     void LimpiarPropios() override;
@@ -58,6 +60,7 @@ private:
     void MostrarPaginas();
     void VaciarPaginas();
     void VaciarTodo();
+    void AlCambiarCiclos();
     bool CodigoIntacto(); // false after its box, and the loaded code is back
 
     void ElegirGanadero();
@@ -82,6 +85,8 @@ private:
     std::array<PaginaSanidad*, 3> m_sanidad{}; // C.C., IBR/BVD, Neospora: each saves itself
     double m_mostrada = 0;                     // the cow that they show
     QString m_huella;                          // as it was when the cow was read
+    QString m_crotal;                          // and her tag
+    QString m_nombre;                          // the name that Nombre-C was last composed of
 };
 
 } // namespace pastorix

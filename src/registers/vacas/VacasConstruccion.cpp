@@ -13,6 +13,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -51,6 +52,9 @@ void Vacas::Construir() {
     m_mamitis->PonerCuartosPerdidos(CrearRejilla(m_mamitis, hoja_vaca::Mamitis));
     m_mamitis->puedeTocar = [this] { return Clave() != 0 || Editando(); };
     m_mamitis->alTocar = [this] { EntrarEnModificar(); };
+    for (auto* campo :
+         m_mamitis->findChildren<QLineEdit*>(QRegularExpression(QStringLiteral("^CT_Estandar"))))
+        Vigilar(campo); // Enter moves on there too
     m_sanidad = {new PaginaCC(Base(), m_tab), new PaginaIBR(Base(), m_tab),
                  new PaginaNeospora(Base(), m_tab)};
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
@@ -93,7 +97,6 @@ QWidget* Vacas::CrearGeneral() {
     PonerIconoBusDato(3, NombreMadre);
     todo->addStretch();
     connect(&Combo("CD_Cularidad"), &QComboBox::activated, this, [this] { ComponerNombre(); });
-    connect(&Campo(Nombre), &QLineEdit::editingFinished, this, [this] { ComponerNombre(); });
     return general;
 }
 
@@ -121,12 +124,14 @@ void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
     };
     m_partos->FijarOrdenes(conCiclo(ordenes.abrirParto), conVaca(ordenes.añadirParto));
     m_cubriciones->FijarOrdenes(conCiclo(ordenes.abrirCubricion), conVaca(ordenes.añadirCubricion));
-    for (auto* pagina : {m_partos, m_cubriciones})
+    for (auto* pagina : {m_partos, m_cubriciones}) {
+        pagina->alCambiar = [this] { AlCambiarCiclos(); };
         pagina->puedeOperar = [this] {
             return !Editando() ||
                    Rechazar(QStringLiteral("Debe Guardar los cambios antes de efectuar esta operación"),
                             m_tab);
         };
+    }
 }
 
 void Vacas::ConectarTeclas() {

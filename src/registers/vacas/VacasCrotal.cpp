@@ -3,6 +3,7 @@
 #include "registers/vacas/Vacas.h"
 
 #include "frame/Mensajes.h"
+#include "registers/EncabezadoGanadero.h"
 #include "registers/sanidad/PaginaMamitis.h"
 #include "registers/vacas/CamposDeVaca.h"
 #include "registers/vacas/Crotales.h"
@@ -21,6 +22,7 @@ QString Vacas::Huella() const {
             todo << Texto(c.indice);
     for (const auto& c : kFichaDeVaca.combos)
         todo << Combo(c.nombre).currentText();
+    todo << m_ganadero->Codigo();
     return todo.join(QChar(0x1f));
 }
 
@@ -40,8 +42,6 @@ void Vacas::IrAVaca(double idVaca) {
 }
 
 void Vacas::BuscarPorCrotal() {
-    if (Texto(Crotal).isEmpty())
-        return;
     if (const auto vaca = VacaDeCrotal(Base(), TextoStd(Crotal)))
         IrAVaca(*vaca);
     else
@@ -60,7 +60,9 @@ bool Vacas::eventFilter(QObject* objeto, QEvent* evento) {
     // A cow that is being added has a new tag, which is nobody's yet.
     if (evento->type() == QEvent::KeyPress && objeto == &Campo(Crotal) && Accion() != 1) {
         const int tecla = static_cast<QKeyEvent&>(*evento).key();
-        const bool intro = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+        // Her own tag, or none, asks for nothing: Enter moves on.
+        const bool intro = (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) && !Texto(Crotal).isEmpty() &&
+                           Texto(Crotal) != m_crotal;
         if (intro || tecla == Qt::Key_Up || tecla == Qt::Key_Down) {
             try {
                 intro ? BuscarPorCrotal() : Hojear(tecla == Qt::Key_Up ? -1 : 1);
