@@ -6,18 +6,8 @@ namespace pastorix {
 
 namespace {
 
-const DefinicionLineas kNaturales{"GridCC_Nat",
-                                  "Condición corporal por año natural",
-                                  kCondicionCorporal.natural.columnas,
-                                  true,
-                                  0,
-                                  true,
-                                  "Debe incluir un año natural",
-                                  "El año: ",
-                                  " ya está incluido en la lista",
-                                  "Atención!!!",
-                                  "Eliminar el Año Natural: ",
-                                  "Confirme"};
+const auto kNaturales =
+    PorAñosNaturales("GridCC_Nat", "Condición corporal por año natural", kCondicionCorporal.natural);
 
 const DefinicionLineas kCiclos{"GridCC", "Condición corporal por cubrición",
                                kCondicionCorporal.ciclo.columnas, false};

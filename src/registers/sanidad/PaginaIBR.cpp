@@ -6,18 +6,8 @@ namespace pastorix {
 
 namespace {
 
-const DefinicionLineas kNaturales{"GridIBR",
-                                  "IBR y BVD por año natural",
-                                  kIBRBVD.natural.columnas,
-                                  true,
-                                  0,
-                                  true,
-                                  "Debe incluir un año natural",
-                                  "El año: ",
-                                  " ya está incluido en la lista",
-                                  "Atención!!!",
-                                  "Eliminar Año Natural: ",
-                                  "Confirme"};
+const auto kNaturales =
+    PorAñosNaturales("GridIBR", "IBR y BVD por año natural", kIBRBVD.natural, "Eliminar Año Natural: ");
 
 const DefinicionLineas kCiclos{"GridIBR_R", "IBR y BVD por cubrición", kIBRBVD.ciclo.columnas, false};
 

@@ -22,18 +22,8 @@ constexpr int kAnchuraNota = 255;
 
 const DefinicionLineas kLactaciones{"GridMamitis", "Lactaciones", ColumnasDeLactacion(), false};
 
-const DefinicionLineas kVacunas{"Grid_MVacu",
-                                "Vacunación contra la mamitis por año natural",
-                                kVacunasMamitis.columnas,
-                                true,
-                                0,
-                                true,
-                                "Debe incluir un año natural",
-                                "El año: ",
-                                " ya está incluido en la lista",
-                                "Atención!!!",
-                                "Eliminar el Año Natural: ",
-                                "Confirme"};
+const auto kVacunas =
+    PorAñosNaturales("Grid_MVacu", "Vacunación contra la mamitis por año natural", kVacunasMamitis);
 
 } // namespace
 

@@ -6,18 +6,7 @@ namespace pastorix {
 
 namespace {
 
-const DefinicionLineas kNaturales{"Grid_Lep",
-                                  "Neospora por año natural",
-                                  kNeospora.natural.columnas,
-                                  true,
-                                  0,
-                                  true,
-                                  "Debe incluir un año natural",
-                                  "El año: ",
-                                  " ya está incluido en la lista",
-                                  "Atención!!!",
-                                  "Eliminar el Año Natural: ",
-                                  "Confirme"};
+const auto kNaturales = PorAñosNaturales("Grid_Lep", "Neospora por año natural", kNeospora.natural);
 
 const DefinicionLineas kCiclos{"Grid_Lep_R", "Neospora por cubrición", kNeospora.ciclo.columnas, false};
 

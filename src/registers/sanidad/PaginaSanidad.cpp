@@ -23,6 +23,19 @@ bool PaginaSanidad::Intentar(const std::function<void()>& accion) {
     }
 }
 
+DefinicionLineas PorAñosNaturales(const char* rejilla, const char* nombre, const TablaNatural& tabla,
+                                  const char* eliminar) {
+    DefinicionLineas d{rejilla, nombre, tabla.columnas};
+    d.descendente = true;
+    d.sinAño = "Debe incluir un año natural";
+    d.repetido = "El año: ";
+    d.repetidoFin = " ya está incluido en la lista";
+    d.tituloAviso = "Atención!!!";
+    d.eliminar = eliminar;
+    d.tituloEliminar = "Confirme";
+    return d;
+}
+
 QStringList ComoItems(const std::vector<std::string>& lista) {
     QStringList items;
     for (const auto& texto : lista)

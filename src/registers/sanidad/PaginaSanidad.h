@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/ficha/LineasEditables.h"
 #include "registers/sanidad/LineasSanidad.h"
 
 #include <QString>
@@ -34,6 +35,10 @@ private:
     Conexion& m_base;
     VacaEnHoja m_vaca;
 };
+
+// The lines of a table by natural year, the latest first, with the texts that all of them share.
+DefinicionLineas PorAñosNaturales(const char* rejilla, const char* nombre, const TablaNatural& tabla,
+                                  const char* eliminar = "Eliminar el Año Natural: ");
 
 // A list of the database as items of a combo.
 QStringList ComoItems(const std::vector<std::string>& lista);
