@@ -1,4 +1,5 @@
 // The cow's sheet: its layout, and what its controls are bound to.
+#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/Pestañas.h"
 #include "registers/EncabezadoGanadero.h"
 #include "registers/sanidad/PaginaCC.h"
@@ -93,6 +94,11 @@ QWidget* Vacas::CrearGeneral() {
     auto* general = new QWidget(m_tab);
     auto* todo = new QVBoxLayout(general);
     todo->addWidget(CrearRejilla(general, hoja_vaca::General));
+    for (const auto& [fila, texto] : {std::pair{3, "Genealogía"}, {6, "Valoración"}}) {
+        auto* titular = Titular(QString::fromUtf8(texto), general);
+        titular->setContentsMargins(0, 10, 0, 2);
+        Rejilla()->addWidget(titular, fila, 0, 1, 6);
+    }
     PonerIconoBusDato(2, NombrePadre);
     PonerIconoBusDato(3, NombreMadre);
     todo->addStretch();
