@@ -333,7 +333,7 @@ private Q_SLOTS:
         Teclear(f, 0, "5700001");
         p.cajas.Responder(false);
         Pulsar(CampoDe(f, 0), Qt::Key_Return);
-        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar en la pestaña C.C.. ¿Desea perderlos?"));
+        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar en «C.C.». ¿Desea perderlos?"));
         QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1200002"));
         QCOMPARE(f.focusWidget(), CampoDe(f, 1)); // Enter passes over the search icon
         p.cajas.Responder(true);

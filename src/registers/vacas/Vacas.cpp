@@ -17,6 +17,8 @@
 #include <QComboBox>
 #include <QTabWidget>
 
+#include <vector>
+
 namespace pastorix {
 
 using namespace campo_vaca;
@@ -126,12 +128,15 @@ void Vacas::NoEncontrado(double clave) {
 }
 
 bool Vacas::PermiteDejar() {
-    const std::array<const PaginaSanidad*, 4> paginas{m_mamitis, m_sanidad[0], m_sanidad[1], m_sanidad[2]};
+    // What stands on the page of the udder belongs to the sheet's own edit, which is asked about as such.
+    std::vector<const PaginaSanidad*> paginas(m_sanidad.begin(), m_sanidad.end());
+    if (!Editando())
+        paginas.push_back(m_mamitis);
     for (const auto* pagina : paginas)
         if (pagina->Pendiente() &&
-            !Preguntar(this, QStringLiteral("Atención"),
-                       QStringLiteral("Hay cambios sin guardar en la pestaña %1. ¿Desea perderlos?")
-                           .arg(pagina->Titulo())))
+            !Preguntar(
+                this, QStringLiteral("Atención"),
+                QStringLiteral("Hay cambios sin guardar en «%1». ¿Desea perderlos?").arg(pagina->Titulo())))
             return false;
     return true;
 }
