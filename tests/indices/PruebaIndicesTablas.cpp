@@ -115,10 +115,10 @@ private Q_SLOTS:
 
     void Fallos() {
         Granja g;
-        QVERIFY_EXCEPTION_THROWN(LlenarIndicesTecnicos(g.c, {12}, "0000"), ErrorDeEjecucion);
+        QVERIFY_THROWS_EXCEPTION(ErrorDeEjecucion, LlenarIndicesTecnicos(g.c, {12}, "0000"));
         // a failure on the way leaves what was written before it, and the next run starts afresh
         g.c.Execute("ALTER TABLE T_Cubriciones DROP COLUMN IEPc");
-        QVERIFY_EXCEPTION_THROWN(LlenarIndicesTecnicos(g.c, {12}, "2020"), ErrorAlmacen);
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, LlenarIndicesTecnicos(g.c, {12}, "2020"));
         QCOMPARE(g.Texto("SELECT Count(Mes) AS N FROM X_Temp2"), std::string("12"));
         QCOMPARE(g.Texto("SELECT Count(Texto) AS N FROM X_Tmp8"), std::string("0"));
         g.c.Execute("ALTER TABLE T_Cubriciones ADD COLUMN IEPc LONG");

@@ -83,7 +83,7 @@ private Q_SLOTS:
                      nullptr, nullptr, nullptr);
         int antes = 0;
         sqlite3_db_config(b.c.Manejador(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 1, &antes);
-        QVERIFY_EXCEPTION_THROWN(EnGrupo(b.c, [&] { BorrarVaca(b.c, 12001, 12); }), ErrorAlmacen);
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, EnGrupo(b.c, [&] { BorrarVaca(b.c, 12001, 12); }));
         // what was done before stays done, and durably; what comes after is untouched
         QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
         QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Vacas"), std::string("3"));

@@ -54,7 +54,7 @@ struct Puesto : PuestoDeFichas {
     QString Botones() { return Encendidos(*f, "B_Borrar"); }
     // Presses an icon and takes a row of the selector that it opens.
     void Buscar(int icono, int fila) {
-        QTimer::singleShot(0, f.get(), [this, fila] {
+        QTimer::singleShot(0, f.get(), [fila] {
             auto* lista = QApplication::activeModalWidget()->findChild<QTableView*>();
             lista->setCurrentIndex(lista->model()->index(fila, 0));
             QTest::keyClick(lista, Qt::Key_Return);

@@ -72,7 +72,7 @@ private Q_SLOTS:
             "SELECT T_Servicios.Semental, T_Partos.Semental FROM T_Servicios INNER JOIN T_Partos ON "
             "T_Servicios.Id_Semental = T_Partos.Id_Semental ORDER BY T_Partos.Id_Semental";
         QCOMPARE(b.Texto(copias), std::string("Ñeru-C|Ñeru-C/Viejo|Viejo"));
-        QVERIFY_EXCEPTION_THROWN(ExtenderNombre(b.c, "L'Oteru", 57001), ErrorAlmacen);
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, ExtenderNombre(b.c, "L'Oteru", 57001));
         QCOMPARE(b.Texto(copias), std::string("Ñeru-C|Ñeru-C/Viejo|Viejo"));
         BorrarSemental(b.c, 57001);
         QCOMPARE(b.Texto("SELECT Id_Semental FROM T_Sementales"), std::string("57002"));

@@ -186,13 +186,12 @@ private Q_SLOTS:
         QVERIFY(f.open(QIODevice::WriteOnly));
         f.write("mío");
         f.close();
-        QVERIFY_EXCEPTION_THROWN(
-            ConvertirAccess(Ruta(Datos("minima.mdb").toStdString()), Ruta(destino.toStdString()), kClave),
-            ErrorConversion);
-        QVERIFY_EXCEPTION_THROWN(
+        QVERIFY_THROWS_EXCEPTION(ErrorConversion, ConvertirAccess(Ruta(Datos("minima.mdb").toStdString()),
+                                                                  Ruta(destino.toStdString()), kClave));
+        QVERIFY_THROWS_EXCEPTION(
+            ErrorConversion,
             ConvertirAccess(Ruta(Datos("recortada.mdb").toStdString()),
-                            Ruta(m_carpeta.filePath(QStringLiteral("nueva.mdb")).toStdString()), kClave),
-            ErrorConversion);
+                            Ruta(m_carpeta.filePath(QStringLiteral("nueva.mdb")).toStdString()), kClave));
         QVERIFY(!QFile::exists(m_carpeta.filePath(QStringLiteral("nueva.mdb"))));
         QVERIFY(f.open(QIODevice::ReadOnly));
         QCOMPARE(f.readAll(), QByteArray("mío"));
@@ -276,7 +275,7 @@ private Q_SLOTS:
 
     void Nueva() {
         Base b;
-        QVERIFY_EXCEPTION_THROWN(CrearBase(Ruta(b.fichero), ClaseDeBase::Toros, kClave), ErrorAlmacen);
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, CrearBase(Ruta(b.fichero), ClaseDeBase::Toros, kClave));
         QVERIFY(VerificarBase(b.fichero, kClave).empty());
         QCOMPARE(b.Texto("SELECT Id_Teto FROM T_Tetos ORDER BY Id_Teto"), std::string("1/2/3/4"));
         QCOMPARE(b.c.Esquema().Buscar("T_Cebo")->clave, (std::vector<std::string>{"Id_Ganadero", "Id_Cebo"}));

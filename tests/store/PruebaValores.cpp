@@ -93,8 +93,8 @@ private Q_SLOTS:
         QFile b(carpeta.filePath(QStringLiteral("b.txt")));
         QVERIFY(b.open(QIODevice::ReadOnly));
         QCOMPARE(b.readAll(), QByteArray("uno"));
-        QVERIFY_EXCEPTION_THROWN(CopiarFichero(ruta("no.txt"), ruta("b.txt")), ErrorAlmacen);
-        QVERIFY_EXCEPTION_THROWN(CopiarFichero(ruta("b.txt"), ruta("no/hay/x.txt")), ErrorAlmacen);
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, CopiarFichero(ruta("no.txt"), ruta("b.txt")));
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, CopiarFichero(ruta("b.txt"), ruta("no/hay/x.txt")));
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files).size(), 2); // no leftovers
         QDir(carpeta.path()).mkdir(QStringLiteral("Backup"));
         QCOMPARE(EntradaSinCaso(ruta("."), "BackUp").filename(), std::filesystem::path("Backup"));
