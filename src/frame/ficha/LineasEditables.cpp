@@ -1,126 +1,18 @@
 #include "frame/ficha/LineasEditables.h"
 
-#include "frame/Iconos.h"
 #include "frame/Mensajes.h"
 #include "frame/calendario/Calendario.h"
-#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoTexto.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace pastorix {
-
-LineasEditables::LineasEditables(const DefinicionLineas& definicion, QWidget* padre)
-    : QWidget(padre)
-    , m_definicion(definicion)
-    , m_rejilla(new QTableWidget(0, static_cast<int>(definicion.columnas.size()), this)) {
-    auto* todo = new QVBoxLayout(this);
-    todo->setContentsMargins(0, 0, 0, 0);
-    todo->addWidget(m_rejilla, 1);
-    CrearRejilla();
-    CrearFranja();
-    setFocusProxy(m_rejilla);
-    Pintar();
-    Rotular();
-}
-
-void LineasEditables::CrearRejilla() {
-    QStringList titulos;
-    for (const auto& c : m_definicion.columnas)
-        titulos << QString::fromUtf8(c.titulo);
-    m_rejilla->setObjectName(QString::fromUtf8(m_definicion.rejilla));
-    m_rejilla->setAccessibleName(QString::fromUtf8(m_definicion.nombre));
-    m_rejilla->setHorizontalHeaderLabels(titulos);
-    const auto& metrica = m_rejilla->fontMetrics();
-    for (int i = 0; i < m_rejilla->columnCount(); ++i) {
-        const auto& c = m_definicion.columnas[static_cast<std::size_t>(i)];
-        m_rejilla->setColumnWidth(i, std::max(metrica.averageCharWidth() * (c.caracteres + 2) + 8,
-                                              metrica.horizontalAdvance(titulos[i]) + 16));
-    }
-    VestirTabla(*m_rejilla);
-    m_rejilla->installEventFilter(this);
-    connect(m_rejilla, &QTableWidget::currentCellChanged, this, [this](int fila, int, int antes, int) {
-        if (fila != antes)
-            Pasar(fila);
-    });
-    connect(m_rejilla, &QTableWidget::cellClicked, this, [this](int fila, int) { Pasar(fila); });
-    connect(m_rejilla, &QTableWidget::cellDoubleClicked, this,
-            [this](int, int) { TeclaDeRejilla(Qt::Key_Return); });
-}
-
-void LineasEditables::CrearFranja() {
-    auto* franja = new QHBoxLayout;
-    for (std::size_t i = 0; i < m_definicion.columnas.size(); ++i) {
-        if (!m_definicion.columnas[i].control)
-            continue;
-        auto* rotulo = new QLabel(QString::fromUtf8(m_definicion.columnas[i].titulo), this);
-        auto* control = CrearEntrada(i);
-        rotulo->setBuddy(control);
-        auto* pareja = new QVBoxLayout;
-        pareja->setSpacing(1);
-        pareja->addWidget(rotulo);
-        pareja->addWidget(control);
-        franja->addLayout(pareja);
-    }
-    franja->addStretch();
-    franja->addLayout(CrearMandos());
-    static_cast<QVBoxLayout*>(layout())->addLayout(franja);
-}
-
-QWidget* LineasEditables::CrearEntrada(std::size_t columna) {
-    const bool esAño = static_cast<int>(columna) == m_definicion.columnaAño;
-    const auto& entrada = m_entradas.emplace_back(m_definicion.columnas[columna], columna, esAño, this);
-    const auto tecleado = [this] {
-        if (alTeclear)
-            alTeclear();
-    };
-    if (entrada.Combo())
-        connect(entrada.Combo(), &QComboBox::activated, this, tecleado);
-    else
-        connect(entrada.Texto(), &QLineEdit::textEdited, this, tecleado);
-    entrada.Control()->installEventFilter(this);
-    return entrada.Control();
-}
-
-QLayout* LineasEditables::CrearMandos() {
-    const auto boton = [this](const char* icono, const QString& texto, bool visible,
-                              void (LineasEditables::*orden)()) {
-        auto* b = new QToolButton(this);
-        b->setIcon(Icono(icono));
-        b->setToolTip(texto);
-        b->setAccessibleName(texto);
-        b->setAutoRaise(true);
-        b->setVisible(visible);
-        connect(b, &QToolButton::clicked, this, [this, orden] { (this->*orden)(); });
-        return b;
-    };
-    m_estado = new QLabel(this);
-    m_estado->setEnabled(false);
-    const bool altas = m_definicion.conAltas;
-    m_poner =
-        boton("aceptar", QStringLiteral("Poner en la lista (Intro)"), true, &LineasEditables::Confirmar);
-    m_nueva = boton("anadir", QStringLiteral("Línea nueva (Insert)"), altas, &LineasEditables::Nueva);
-    m_quitar = boton("eliminar", QStringLiteral("Eliminar línea (Supr)"), altas, &LineasEditables::Quitar);
-    auto* botones = new QHBoxLayout;
-    botones->setSpacing(2);
-    for (auto* b : {m_poner, m_nueva, m_quitar})
-        botones->addWidget(b);
-    auto* mandos = new QVBoxLayout; // as high as a field with its caption
-    mandos->setSpacing(1);
-    mandos->addWidget(m_estado, 0, Qt::AlignRight);
-    mandos->addLayout(botones);
-    return mandos;
-}
 
 void LineasEditables::Mostrar(std::vector<Linea> lineas) {
     m_lineas = std::move(lineas);
@@ -395,66 +287,6 @@ void LineasEditables::Ordenar() {
     std::stable_sort(m_lineas.begin(), m_lineas.end(), [&](const Linea& a, const Linea& b) {
         return m_definicion.descendente ? a.Numero(año) > b.Numero(año) : a.Numero(año) < b.Numero(año);
     });
-}
-
-bool LineasEditables::TeclaDeRejilla(int tecla) {
-    switch (tecla) {
-    case Qt::Key_Insert:
-        Nueva();
-        return true;
-    case Qt::Key_Delete:
-        Quitar();
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Pasar(m_rejilla->currentRow());
-        if (!m_entradas.empty())
-            m_entradas.front().Control()->setFocus();
-        return true;
-    case Qt::Key_Escape:
-        if (m_fila < 0 && !EnCurso())
-            return false; // nothing to abandon: the sheet's own Escape
-        Abandonar();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
-    switch (tecla) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (objeto == m_entradas.back().Control()) {
-            Confirmar();
-        } else {
-            const auto it = std::find_if(m_entradas.begin(), m_entradas.end(),
-                                         [&](const auto& e) { return e.Control() == objeto; });
-            (it + 1)->Control()->setFocus(Qt::TabFocusReason);
-        }
-        return true;
-    case Qt::Key_Escape:
-        if (m_fila < 0 && !EnCurso())
-            return false; // nothing to abandon: the sheet's own Escape
-        Abandonar();
-        return true;
-    case Qt::Key_Insert:
-        Nueva();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool LineasEditables::eventFilter(QObject* objeto, QEvent* evento) {
-    if (EsRuedaAjena(objeto, *evento))
-        return true;
-    if (evento->type() == QEvent::KeyPress) {
-        const int tecla = static_cast<QKeyEvent&>(*evento).key();
-        if (objeto == m_rejilla ? TeclaDeRejilla(tecla) : TeclaDeEntrada(objeto, tecla))
-            return true;
-    }
-    return QWidget::eventFilter(objeto, evento);
 }
 
 } // namespace pastorix
