@@ -99,7 +99,7 @@ void ResumenDirecto(benchmark::State& estado) {
         sqlite3_exec(f.s, "BEGIN", nullptr, nullptr, nullptr);
         for (int año = kPrimerAño; año <= kUltimoAño + 1; ++año) {
             const auto dia = std::to_string(año - 1) + "-12-01";
-            for (const char* sql : {kToros, kHembras, kHembras, kRecria, kCebo}) // cows, then heifers
+            for (const char* sql : {kToros, kHembras, kRecria, kCebo})
                 f.Recorrer(sql, dia, año, estado);
         }
         sqlite3_exec(f.s, "END", nullptr, nullptr, nullptr);

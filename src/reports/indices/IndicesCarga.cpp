@@ -35,10 +35,17 @@ std::string SementalesAFecha(Conexion& c, double idGanadero, std::string_view fe
             .Contar());
 }
 
-std::string HembrasAFecha(Conexion& c, double idGanadero, std::string_view fecha, int categoria,
-                          double añoRef) {
+namespace {
+
+struct Hembras {
+    long vacas = 0;    // with a parity of 1 or more
+    long novillas = 0; // of parity 0
+};
+
+// Both categories come out of one query: it is the slow part of the stocking load.
+Hembras ContarHembras(Conexion& c, double idGanadero, std::string_view fecha, double añoRef) {
     const auto d = FechaSql2(FechaDeArgumento(fecha));
-    long n = 0;
+    Hembras n;
     for (auto rs = Leer(
              c, "SELECT T_Vacas.Id_Ganadero, T_Vacas.Crotal, T_Vacas.NombreC, T_Vacas.FechaBaja, "
                 "T_Vacas.FechaCompra, "
@@ -59,10 +66,20 @@ std::string HembrasAFecha(Conexion& c, double idGanadero, std::string_view fecha
         const auto paridad = rs["MáxDeN_Parto"];
         if (paridad.Nulo())
             continue;
-        if ((categoria == 0 && paridad.Numero() == 0) || (categoria == 1 && paridad.Numero() >= 1))
-            ++n;
+        if (paridad.Numero() == 0)
+            ++n.novillas;
+        else if (paridad.Numero() >= 1)
+            ++n.vacas;
     }
-    return TextoDeCuenta(n);
+    return n;
+}
+
+} // namespace
+
+std::string HembrasAFecha(Conexion& c, double idGanadero, std::string_view fecha, int categoria,
+                          double añoRef) {
+    const auto n = ContarHembras(c, idGanadero, fecha, añoRef);
+    return TextoDeCuenta(categoria == 0 ? n.novillas : categoria == 1 ? n.vacas : 0);
 }
 
 std::string RecriaAFecha(Conexion& c, double idGanadero, std::string& fecha, double añoRef,
@@ -117,26 +134,25 @@ std::string CargaUGM(Conexion& c, double idGanadero, double añoRef, std::string
     std::string fin = "30/11/" + NumeroSql(añoRef);
     const std::string inicio = "1/12/" + NumeroSql(añoRef - 1);
     double toros = 0;
-    double vacas = 0;
-    double novillas = 0;
+    Hembras hembras;
     double recria = 0;
     double cebo = 0;
     if (momento == "INICIO") {
         std::string fecha = inicio;
         toros = Val(SementalesAFecha(c, idGanadero, inicio));
-        vacas = Val(HembrasAFecha(c, idGanadero, inicio, 1, añoRef));
-        novillas = Val(HembrasAFecha(c, idGanadero, inicio, 0, añoRef));
+        hembras = ContarHembras(c, idGanadero, inicio, añoRef);
         recria = Val(RecriaAFecha(c, idGanadero, fecha, añoRef, momento));
         cebo = Val(CeboAFecha(c, idGanadero, inicio, añoRef, momento));
     } else if (momento == "FIN") {
         const auto siguiente = FormatoFecha(FechaDeArgumento(fin).MasDias(1), "dd/mm/yy");
         toros = Val(SementalesAFecha(c, idGanadero, siguiente));
-        vacas = Val(HembrasAFecha(c, idGanadero, siguiente, 1, añoRef + 1));
-        novillas = Val(HembrasAFecha(c, idGanadero, siguiente, 0, añoRef + 1));
+        hembras = ContarHembras(c, idGanadero, siguiente, añoRef + 1);
         recria = Val(RecriaAFecha(c, idGanadero, fin, añoRef, momento)); // moves `fin` to 1 December
         cebo = Val(CeboAFecha(c, idGanadero, fin, añoRef, momento));
     }
-    return FormatoNumero(vacas + toros * 1.5 + novillas * 0.8 + recria * 0.4 + cebo * 0.6, "######0");
+    return FormatoNumero(static_cast<double>(hembras.vacas) + toros * 1.5 +
+                             static_cast<double>(hembras.novillas) * 0.8 + recria * 0.4 + cebo * 0.6,
+                         "######0");
 }
 
 } // namespace pastorix
