@@ -19,7 +19,7 @@ public:
             m_vistas << mensaje;
             if (conVentana) {
                 QDialog ventana(QApplication::activeWindow());
-                QTimer::singleShot(0, &ventana, &QDialog::accept);
+                QTimer::singleShot(50, &ventana, &QDialog::accept); // long enough to become the active one
                 ventana.exec();
             }
             pastorix::Respuesta respuesta;

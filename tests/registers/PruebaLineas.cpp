@@ -114,19 +114,21 @@ private Q_SLOTS:
         QCOMPARE(cajas.Vistas().size(), 1);
         QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Aceptable/2030||"));
         cajas.Responder(true);
-        grid->setCurrentCell(2, 0);
-        tecla(Qt::Key_Delete);
-        QVERIFY(cajas.Vistas().size() == 1 && !l.EnCurso());
-        cajas.Responder(true);
         grid->setCurrentCell(1, 0);
-        grid->setCurrentCell(0, 0);
         tecla(Qt::Key_Delete);
         QCOMPARE(cajas.Vistas().size(), 1);
         QCOMPARE(l.findChild<QLineEdit*>(QStringLiteral("Ct(0)"))->text(),
                  QString()); // not the line that came up
         tecla(Qt::Key_Insert);
-        linea("2025", "");
+        linea("2026", "1/11/25");
+        combo->setCurrentIndex(2);
         tecla(Qt::Key_Return);
+        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Aceptable/2030||"));
+        cajas.Responder(true);
+        grid->setFocus();
+        grid->setCurrentCell(2, 0);
+        tecla(Qt::Key_Delete);
+        QCOMPARE(cajas.Vistas().size(), 1);
 
         cajas.Responder(false);
         cajas.Responder(true);

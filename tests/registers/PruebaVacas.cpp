@@ -288,6 +288,9 @@ private Q_SLOTS:
         tecla(Qt::Key_Up);
         tecla(Qt::Key_Up);
         QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Luna"));
+        Teclear(f, 7, "es0100021234"); // a tag that is somebody else's: from her place on
+        tecla(Qt::Key_Down);
+        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Mora"));
         // typing the end of another tag begins a modification, which is left for the search when nothing else was touched
         Teclear(f, 7, "1234");
         QVERIFY(BotonDe(f, "B_Guardar")->isEnabled());
@@ -328,6 +331,8 @@ private Q_SLOTS:
         QTRY_COMPARE(p.Texto("SELECT Nombre FROM T_Vacas ORDER BY Id_Vaca"), std::string("Estrella/Mora"));
 
         f.CargarFicha(1200002);
+        f.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f));
         f.findChild<QTabWidget*>()->setCurrentIndex(4);
         f.findChild<QPlainTextEdit*>(QStringLiteral("CT_ObsCC"))->insertPlainText(QStringLiteral("x"));
         Teclear(f, 0, "5700001");
