@@ -78,6 +78,7 @@ private:
     void Habilitar();
     bool Valida(const Linea& linea);
     bool ValidaCeldas(const Linea& linea);
+    bool Escapar();
     bool TeclaDeRejilla(int tecla);
     bool TeclaDeEntrada(QObject* objeto, int tecla);
     QString AñoDe(const Linea& linea) const;

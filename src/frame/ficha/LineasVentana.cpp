@@ -118,6 +118,14 @@ QLayout* LineasEditables::CrearMandos() {
     return mandos;
 }
 
+// False when there is nothing to abandon: the sheet's own Escape.
+bool LineasEditables::Escapar() {
+    if (m_fila < 0 && !EnCurso())
+        return false;
+    Abandonar();
+    return true;
+}
+
 bool LineasEditables::TeclaDeRejilla(int tecla) {
     switch (tecla) {
     case Qt::Key_Insert:
@@ -131,11 +139,6 @@ bool LineasEditables::TeclaDeRejilla(int tecla) {
         Pasar(m_rejilla->currentRow());
         if (!m_entradas.empty())
             m_entradas.front().Control()->setFocus();
-        return true;
-    case Qt::Key_Escape:
-        if (m_fila < 0 && !EnCurso())
-            return false; // nothing to abandon: the sheet's own Escape
-        Abandonar();
         return true;
     default:
         return false;
@@ -154,11 +157,6 @@ bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
             (it + 1)->Control()->setFocus(Qt::TabFocusReason);
         }
         return true;
-    case Qt::Key_Escape:
-        if (m_fila < 0 && !EnCurso())
-            return false; // nothing to abandon: the sheet's own Escape
-        Abandonar();
-        return true;
     case Qt::Key_Insert:
         Nueva();
         return true;
@@ -172,7 +170,9 @@ bool LineasEditables::eventFilter(QObject* objeto, QEvent* evento) {
         return true;
     if (evento->type() == QEvent::KeyPress) {
         const int tecla = static_cast<QKeyEvent&>(*evento).key();
-        if (objeto == m_rejilla ? TeclaDeRejilla(tecla) : TeclaDeEntrada(objeto, tecla))
+        if (tecla == Qt::Key_Escape ? Escapar()
+            : objeto == m_rejilla   ? TeclaDeRejilla(tecla)
+                                    : TeclaDeEntrada(objeto, tecla))
             return true;
     }
     return QWidget::eventFilter(objeto, evento);
