@@ -371,6 +371,27 @@ private Q_SLOTS:
         f.close();
     }
 
+    // A cow that could be read only in part is not on the sheet: a save would mix her with the one before.
+    void LecturaAMedias() {
+        Cuadra p;
+        Vacas f(p.sesion, {});
+        Mostrar(f);
+        f.CargarFicha(1200001);
+        sqlite3_exec(p.sesion.conexion.Manejador(), "ALTER TABLE T_Tetos RENAME TO Otra", nullptr, nullptr,
+                     nullptr);
+        QVERIFY(!f.CargarFicha(1200002));
+        QCOMPARE(p.cajas.Vistas().size(), 1);
+        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AR"));
+        Teclear(f, 1, "Otra");
+        QCOMPARE(p.cajas.Vistas().size(), 1); // the code was left: her record is asked for once more
+        QVERIFY(!BotonDe(f, "B_Guardar")->isEnabled());
+        sqlite3_exec(p.sesion.conexion.Manejador(), "ALTER TABLE Otra RENAME TO T_Tetos", nullptr, nullptr,
+                     nullptr);
+        QVERIFY(f.CargarFicha(1200002));
+        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AMER"));
+        f.close();
+    }
+
     // What another sheet did to a cycle, or took away, is not put back by what stands here.
     void CiclosCambiados() {
         Cuadra p;

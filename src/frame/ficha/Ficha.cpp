@@ -212,6 +212,10 @@ bool Ficha::CargarFicha(double clave) {
         MostrarPropios(rs);
         return true;
     } catch (const std::exception& e) {
+        // What is shown may be half of one record and half of another: it is none, and nothing of it can be saved.
+        m_clave = 0;
+        m_accion = 0;
+        m_barra->EstadoBotones(0);
         MostrarError(e);
         return false;
     }

@@ -117,11 +117,6 @@ void Vacas::VaciarPaginas() {
     m_mostrada = 0;
 }
 
-void Vacas::VaciarTodo() {
-    Vaciar();
-    VaciarPaginas();
-}
-
 void Vacas::NoEncontrado(double clave) {
     if (clave != 0)
         Poner(Codigo, {});
@@ -218,8 +213,7 @@ void Vacas::Borrar(double clave) {
 }
 
 void Vacas::DespuesDeBorrar() {
-    VaciarPaginas();
-    Barra().EstadoBotones(0);
+    Vaciar();
     Campo(Codigo).setFocus();
 }
 
@@ -271,7 +265,7 @@ void Vacas::ElegirGanadero() {
     if (!elegido || elegido->clave == 0 || (!Editando() && !PermiteDejar()))
         return;
     if (!Editando())
-        VaciarTodo();
+        Vaciar();
     m_ganadero->Poner(elegido->clave);
     Campo(Editando() ? Nombre : Codigo).setFocus();
 }

@@ -59,7 +59,6 @@ private:
     void AlCambiarDePestaña(int indice);
     void MostrarPaginas();
     void VaciarPaginas();
-    void VaciarTodo();
     void AlCambiarCiclos();
     bool CodigoIntacto(); // false after its box, and the loaded code is back
 
