@@ -1,4 +1,4 @@
-#include "Rebaño.h"
+#include "Rebano.h"
 
 #include "registers/explotacion/Resumen.h"
 #include "store/Esquema.h"

@@ -1,4 +1,4 @@
-#include "Rebaño.h"
+#include "Rebano.h"
 
 #include "registers/Borrados.h"
 #include "registers/vacas/Vacas.h"

@@ -3,7 +3,7 @@
 #include "frame/Ciclo.h"
 #include "frame/Mensajes.h"
 #include "frame/calendario/Calendario.h"
-#include "frame/ficha/Pestañas.h"
+#include "frame/ficha/Pestanas.h"
 #include "registers/Borrados.h"
 #include "registers/DarBaja.h"
 #include "registers/Direccion.h"

@@ -166,4 +166,21 @@ void Conexion::SalirDeGrupo() {
     }
 }
 
+// Savepoints of one name nest: each statement means the innermost.
+void Conexion::PonerMarca() {
+    m->Exigir();
+    EjecutarDirecto(m->base.get(), "SAVEPOINT marca");
+}
+
+void Conexion::SoltarMarca() {
+    m->Exigir();
+    EjecutarDirecto(m->base.get(), "RELEASE marca");
+}
+
+// A full disk may have undone the whole group already, the mark with it; the group says so when it ends.
+void Conexion::VolverALaMarca() noexcept {
+    if (m->base)
+        sqlite3_exec(m->base.get(), "ROLLBACK TO marca; RELEASE marca", nullptr, nullptr, nullptr);
+}
+
 } // namespace pastorix

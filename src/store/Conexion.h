@@ -80,6 +80,11 @@ public:
     void EntrarEnGrupo();
     void SalirDeGrupo();
 
+    // Used by TodoONada only.
+    void PonerMarca();
+    void SoltarMarca();
+    void VolverALaMarca() noexcept;
+
 private:
     struct Interior;
     std::unique_ptr<Interior> m;
@@ -113,6 +118,22 @@ auto EnGrupo(Conexion& conexion, F&& accion) {
             std::rethrow_exception(error);
         return std::move(*resultado);
     }
+}
+
+// Rewrites a set as a whole: rows that are deleted to be written anew come back, all of them, when the action throws, and the
+// exception goes on. Inside a group it is a part of it; alone it is a durable unit of its own.
+template <typename F>
+void TodoONada(Conexion& conexion, F&& accion) {
+    EnGrupo(conexion, [&] {
+        conexion.PonerMarca();
+        try {
+            std::forward<F>(accion)();
+        } catch (...) {
+            conexion.VolverALaMarca();
+            throw;
+        }
+        conexion.SoltarMarca();
+    });
 }
 
 } // namespace pastorix

@@ -122,6 +122,16 @@ struct Recordset::Interior {
             Fallar(CodigoError::SoloLectura, "La consulta es de solo lectura");
     }
 
+    // The column behind a field that is about to be assigned.
+    const ColumnaTabla* Asignable(int columna) const {
+        ExigirEscritura();
+        ExigirFila();
+        const auto& salida = Salida(columna);
+        if (!salida.columna)
+            Fallar(CodigoError::SoloLectura, "La columna se calcula: " + salida.nombre);
+        return salida.columna;
+    }
+
     const Valor* Pendiente(int columna) const {
         const auto it = std::find_if(pendientes.begin(), pendientes.end(),
                                      [&](const auto& p) { return p.first == columna; });
@@ -418,19 +428,23 @@ Valor Campo::Leer() const {
 }
 
 Campo& Campo::operator=(const Valor& v) {
-    m_r.m->ExigirEscritura();
-    m_r.m->ExigirFila();
-    const auto* columna = m_r.m->Salida(m_indice).columna;
-    if (!columna)
-        m_r.m->Fallar(CodigoError::SoloLectura, "La columna se calcula: " + m_r.m->Salida(m_indice).nombre);
-    auto convertido = Convertido(v, *columna);
+    const auto* columna = m_r.m->Asignable(m_indice);
+    Asignar(Convertido(v, *columna));
+    return *this;
+}
+
+void Campo::Reponer(const Valor& leido) {
+    const auto* columna = m_r.m->Asignable(m_indice);
+    Asignar(EsNulo(leido) ? Convertido(leido, *columna) : leido);
+}
+
+void Campo::Asignar(Valor v) {
     auto& p = m_r.m->pendientes;
     const auto it = std::find_if(p.begin(), p.end(), [&](const auto& x) { return x.first == m_indice; });
     if (it != p.end())
-        it->second = std::move(convertido);
+        it->second = std::move(v);
     else
-        p.emplace_back(m_indice, std::move(convertido));
-    return *this;
+        p.emplace_back(m_indice, std::move(v));
 }
 
 double SiguienteId(Conexion& conexion, std::string_view sentencia, int indice) {

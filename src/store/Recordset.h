@@ -31,6 +31,8 @@ public:
     // Converts as the column asks: a typed number or date text is taken in the program's own form. Throws
     // ErrorAlmacen(TipoInadecuado) for a text that is no number in a number column or one that is too long.
     Campo& operator=(const Valor& v);
+    // Puts back what was read from this very column, as it is: a text in a number column, one longer than the column is wide.
+    void Reponer(const Valor& leido);
     Campo& operator=(std::string_view texto) { return *this = Valor(std::string(texto)); }
     Campo& operator=(const char* texto) { return *this = Valor(std::string(texto)); }
     Campo& operator=(const std::string& texto) { return *this = Valor(texto); }
@@ -42,6 +44,7 @@ public:
 
 private:
     friend class Recordset;
+    void Asignar(Valor v);
     Campo(Recordset& r, int indice)
         : m_r(r)
         , m_indice(indice) {}

@@ -4,7 +4,7 @@
 #include "frame/calendario/ErrorDeEjecucion.h"
 #include "registers/vacas/CodigoDeVaca.h"
 #include "registers/vacas/Crotales.h"
-#include "registers/vacas/ObsControlRebaño.h"
+#include "registers/vacas/ObsControlRebano.h"
 #include "registers/vacas/Vacas.h"
 
 #include <QComboBox>

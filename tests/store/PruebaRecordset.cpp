@@ -194,6 +194,48 @@ private Q_SLOTS:
         QCOMPARE(cuenta(), std::string("4"));
     }
 
+    // A set that is deleted to be written anew is whole or as it was; what the group did before stays.
+    void TodoONadaDelConjunto() {
+        Base b;
+        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+        QCOMPARE(Numero([&] {
+                     EnGrupo(b.c, [&] {
+                         b.Poner("T_Vacas", {{"Id_Vaca", 2.0}});
+                         TodoONada(b.c, [&] {
+                             b.c.Execute("DELETE FROM T_Vacas");
+                             TodoONada(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 3.0}}); });
+                             b.Poner("T_Vacas", {{"Id_Vaca", 3.0}});
+                         });
+                     });
+                 }),
+                 long(CodigoError::Restriccion));
+        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), std::string("1/2"));
+        TodoONada(b.c, [&] { b.c.Execute("DELETE FROM T_Vacas WHERE Id_Vaca = 1"); });
+        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas"), std::string("2"));
+        QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
+    }
+
+    // What other programs left in a column goes back into it, though nobody could type it.
+    void ReponerLoLeido() {
+        Base b;
+        const std::string largo(300, 'x');
+        sqlite3_exec(b.c.Manejador(),
+                     ("INSERT INTO T_Vacas (Id_Vaca, Nombre, MG_PN, FechaNac) VALUES (1, '" + largo +
+                      "', 'doce', 'ayer')")
+                         .c_str(),
+                     nullptr, nullptr, nullptr);
+        Recordset leida(b.c, "SELECT * FROM T_Vacas");
+        Recordset nueva(b.c, "SELECT * FROM T_Vacas");
+        nueva.AddNew();
+        nueva["Id_Vaca"] = 2;
+        for (const char* columna : {"Nombre", "MG_PN", "FechaNac", "Crotal"})
+            nueva[columna].Reponer(leida[columna].Leer());
+        nueva.Update();
+        QCOMPARE(b.Texto("SELECT Nombre, MG_PN, FechaNac, Crotal FROM T_Vacas WHERE Id_Vaca = 2"),
+                 b.Texto("SELECT Nombre, MG_PN, FechaNac, Crotal FROM T_Vacas WHERE Id_Vaca = 1"));
+        QCOMPARE(Numero([&] { nueva["MG_PN"] = "doce"; }), long(CodigoError::TipoInadecuado));
+    }
+
     void DiscoLleno() {
         Base b;
         b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});

@@ -1,7 +1,7 @@
 #include "registers/sementales/Sementales.h"
 
 #include "frame/Mensajes.h"
-#include "frame/ficha/Pestañas.h"
+#include "frame/ficha/Pestanas.h"
 #include "registers/EncabezadoGanadero.h"
 #include "registers/sementales/DefinicionSementales.h"
 #include "registers/sementales/ReglasSemental.h"

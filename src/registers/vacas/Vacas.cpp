@@ -10,7 +10,7 @@
 #include "registers/vacas/CamposDeVaca.h"
 #include "registers/vacas/CodigoDeVaca.h"
 #include "registers/vacas/Crotales.h"
-#include "registers/vacas/ObsControlRebaño.h"
+#include "registers/vacas/ObsControlRebano.h"
 #include "registers/vacas/PaginaCiclos.h"
 #include "store/Recordset.h"
 

@@ -1,6 +1,6 @@
 // The cow's sheet: its layout, and what its controls are bound to.
 #include "frame/ficha/Aspecto.h"
-#include "frame/ficha/Pestañas.h"
+#include "frame/ficha/Pestanas.h"
 #include "registers/EncabezadoGanadero.h"
 #include "registers/sanidad/PaginaCC.h"
 #include "registers/sanidad/PaginaIBR.h"

@@ -1,4 +1,4 @@
-#include "Rebaño.h"
+#include "Rebano.h"
 
 #include "store/Esquema.h"
 #include "store/Ficheros.h"

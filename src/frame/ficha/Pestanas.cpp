@@ -1,4 +1,4 @@
-#include "frame/ficha/Pestañas.h"
+#include "frame/ficha/Pestanas.h"
 
 #include <QShortcut>
 #include <QTabWidget>

@@ -1,4 +1,4 @@
-#include "registers/vacas/ObsControlRebaño.h"
+#include "registers/vacas/ObsControlRebano.h"
 
 #include "frame/Mensajes.h"
 #include "frame/ficha/CampoMemo.h"
