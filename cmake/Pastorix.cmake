@@ -19,6 +19,11 @@ endif()
 target_compile_definitions(pastorix_avisos INTERFACE QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
 target_include_directories(pastorix_avisos INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
+# The precompiled Qt headers, some 300 MB: one for all rooms, programs and tests.
+add_library(pastorix_pch OBJECT ${CMAKE_SOURCE_DIR}/cmake/qt_pch.cpp)
+target_link_libraries(pastorix_pch PRIVATE pastorix_avisos Qt6::Widgets)
+target_precompile_headers(pastorix_pch PRIVATE ${CMAKE_SOURCE_DIR}/cmake/qt_pch.h)
+
 # pastorix_sala(name [WIDGETS] FUENTES ... [USA ...]): one library for one room of the house. Includes are written
 # from src/ ("store/Conexion.h"), so that the layering check can read the arrows from them.
 function(pastorix_sala nombre)
@@ -29,7 +34,7 @@ function(pastorix_sala nombre)
     if(S_WIDGETS)
         set_target_properties(${nombre} PROPERTIES AUTOMOC ON)
         target_link_libraries(${nombre} PUBLIC Qt6::Widgets)
-        target_precompile_headers(${nombre} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/qt_pch.h)
+        target_precompile_headers(${nombre} REUSE_FROM pastorix_pch)
     elseif(NOT S_SIN_QT)
         target_link_libraries(${nombre} PUBLIC Qt6::Core)
     endif()
