@@ -1,6 +1,6 @@
 #include "Rebano.h"
 
-#include "registers/Borrados.h"
+#include "registers/datos/Borrados.h"
 #include "reports/indices/IndicesTec.h"
 #include "reports/indices/IndicesTecnicosTablas.h"
 #include "reports/motor/Informe.h"

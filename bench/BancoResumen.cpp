@@ -1,6 +1,6 @@
 #include "Rebano.h"
 
-#include "registers/explotacion/Resumen.h"
+#include "registers/datos/Resumen.h"
 #include "store/Esquema.h"
 #include "store/Recordset.h"
 

@@ -1,6 +1,6 @@
 #include "Rebano.h"
 
-#include "registers/Borrados.h"
+#include "registers/datos/Borrados.h"
 #include "registers/vacas/Vacas.h"
 #include "store/Esquema.h"
 #include "store/Recordset.h"

@@ -8,6 +8,7 @@ namespace {
 
 const QString Organizacion = QStringLiteral("PASTORIX");
 const QString Aplicacion = QStringLiteral("PSTX");
+const QString Ventanas = QStringLiteral("PSTX-ventanas");
 QString Nombre(const QString& clave) {
     return QStringLiteral("Registro/") + clave;
 }
@@ -22,6 +23,14 @@ bool SaveSetting(const QString& clave, const QString& valor) {
     almacen.setValue(Nombre(clave), valor);
     almacen.sync();
     return almacen.status() == QSettings::NoError;
+}
+
+QVariant AjusteDeVentana(const QString& clave) {
+    return QSettings(Organizacion, Ventanas).value(clave);
+}
+
+void GuardarAjusteDeVentana(const QString& clave, const QVariant& valor) {
+    QSettings(Organizacion, Ventanas).setValue(clave, valor);
 }
 
 } // namespace pastorix

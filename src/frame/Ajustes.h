@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
 namespace pastorix {
 
@@ -11,5 +12,9 @@ QString GetSetting(const QString& clave, const QString& defecto = {});
 
 // Writes a setting at once; false when the store cannot be written.
 bool SaveSetting(const QString& clave, const QString& valor);
+
+// How the user left the program's windows: sizes, widths, what was chosen last. Kept in a file of its own, so that it can be thrown away.
+QVariant AjusteDeVentana(const QString& clave);
+void GuardarAjusteDeVentana(const QString& clave, const QVariant& valor);
 
 } // namespace pastorix

@@ -100,6 +100,27 @@ bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto, Tipo
     return caja.clickedButton() == si;
 }
 
+AntesDeDejar PreguntarGuardar(QWidget* padre, const QString& texto) {
+    const Mensaje mensaje{
+        Mensaje::Clase::AntesDeDejar, TipoMensaje::Pregunta, QStringLiteral("Atención"), texto, {}, {}, {}};
+    if (Respuesta respuesta; Responder(mensaje, respuesta))
+        return respuesta.antesDeDejar;
+    QMessageBox caja(padre);
+    Preparar(caja, mensaje);
+    QPushButton* guardar = caja.addButton(QStringLiteral("&Guardar"), QMessageBox::AcceptRole);
+    QPushButton* descartar = caja.addButton(QStringLiteral("&Descartar"), QMessageBox::DestructiveRole);
+    caja.setEscapeButton(caja.addButton(QStringLiteral("&Cancelar"), QMessageBox::RejectRole));
+    caja.setDefaultButton(guardar);
+    caja.exec();
+    return caja.clickedButton() == guardar     ? AntesDeDejar::Guardar
+           : caja.clickedButton() == descartar ? AntesDeDejar::Descartar
+                                               : AntesDeDejar::Cancelar;
+}
+
+void AvisarError(QWidget* padre, const std::exception& error) {
+    Avisar(padre, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(error.what()));
+}
+
 QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
                              const QString& filtro) {
     const Mensaje mensaje{

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <exception>
 #include <functional>
 
 class QWidget;
@@ -16,7 +17,7 @@ enum class TipoMensaje { Critico = 16, Pregunta = 32, Atencion = 48, Informacion
 
 // One box or chooser on its way to the user. Titles and texts are as the sheets wrote them, line breaks included.
 struct Mensaje {
-    enum class Clase { Aviso, Pregunta, FicheroGuardar };
+    enum class Clase { Aviso, Pregunta, AntesDeDejar, FicheroGuardar };
     Clase clase = Clase::Aviso;
     TipoMensaje tipo = TipoMensaje::Informacion;
     QString titulo;
@@ -26,9 +27,13 @@ struct Mensaje {
     QString filtro;    // FicheroGuardar: "Documento PDF (*.pdf)"
 };
 
+// What becomes of changes that nobody has saved.
+enum class AntesDeDejar { Cancelar, Guardar, Descartar };
+
 struct Respuesta {
     bool si = false; // Pregunta
     QString fichero; // FicheroGuardar; empty: cancelled
+    AntesDeDejar antesDeDejar = AntesDeDejar::Cancelar;
 };
 
 using Respondedor = std::function<Respuesta(const Mensaje&)>;
@@ -43,6 +48,12 @@ int Avisar(QWidget* padre, TipoMensaje tipo, const QString& titulo, const QStrin
 // A box with Sí and No; true on Sí. No is the default button and what Escape gives, unless porDefectoSi.
 bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto,
                TipoMensaje tipo = TipoMensaje::Pregunta, bool porDefectoSi = false);
+
+// A box with Guardar, Descartar and Cancelar, the last being what Escape gives.
+AntesDeDejar PreguntarGuardar(QWidget* padre, const QString& texto);
+
+// A failure in an exclamation box "Atención".
+void AvisarError(QWidget* padre, const std::exception& error);
 
 // Asks where to write a file, asking before an existing one is replaced; "" when cancelled.
 QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,

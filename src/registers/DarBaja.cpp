@@ -21,7 +21,6 @@ DarBaja::DarBaja(Conexion& c, double idGanadero, const QString& nombre, QWidget*
     setObjectName(QStringLiteral("DarBaja"));
     setWindowTitle(QStringLiteral("Dar de Baja a: ") + nombre);
     m_fecha->setObjectName(QStringLiteral("CT_Estandar(0)"));
-    m_fecha->setPlaceholderText(QStringLiteral("dd/mm/aa"));
     m_motivo->setObjectName(QStringLiteral("CT_Estandar(1)"));
     m_motivo->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     auto* botones = new QDialogButtonBox(this);

@@ -1,8 +1,8 @@
 #include "registers/EncabezadoGanadero.h"
 
 #include "frame/Iconos.h"
-#include "store/Literales.h"
-#include "store/Recordset.h"
+#include "registers/datos/DatosGanadero.h"
+#include "store/Valor.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,7 +20,7 @@ EncabezadoGanadero::EncabezadoGanadero(Conexion& conexion, int icono, QWidget* p
     m_icono->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
     m_icono->setIcon(pastorix::Icono("ganaderos"));
     m_icono->setCursor(CursorMano());
-    m_icono->setToolTip(QStringLiteral("Seleccionar"));
+    m_icono->setToolTip(QStringLiteral("Seleccionar (F4)"));
     m_icono->setShortcut(QKeySequence(Qt::Key_F4));
     m_icono->setAccessibleDescription(QStringLiteral("F4"));
     m_icono->setAccessibleName(QStringLiteral("Seleccionar ganadero"));
@@ -48,22 +48,11 @@ EncabezadoGanadero::EncabezadoGanadero(Conexion& conexion, int icono, QWidget* p
 
 void EncabezadoGanadero::Poner(double idGanadero) {
     Limpiar(); // should the reading fail, nobody stands there
-    const auto id = NumeroSql(idGanadero);
-    std::string nombre;
-    std::string localidad;
-    Recordset rs(m_c, "Select * FROM T_Ganaderos WHERE Id_Ganadero = " + id);
-    if (!rs.Eof()) {
-        nombre = rs["Apodo"].Texto();
-        if (nombre.empty())
-            nombre = rs["Nombre"].Texto() + " " + rs["Apellidos"].Texto();
-        if (!rs["Id_Direccion"].Nulo())
-            localidad = ValorDeCampo(m_c, "Select Localidad FROM T_Direcciones WHERE Id_Direccion = " +
-                                              NumeroSql(rs["Id_Direccion"].Numero()));
-    }
+    const auto datos = LeerDatosGanadero(m_c, idGanadero);
     m_id = idGanadero;
     m_rotulos[0]->setText(QString::fromStdString(TextoNumero(idGanadero)));
-    m_rotulos[1]->setText(QString::fromStdString(nombre));
-    m_rotulos[2]->setText(QString::fromStdString(localidad));
+    m_rotulos[1]->setText(QString::fromStdString(datos.nombre));
+    m_rotulos[2]->setText(QString::fromStdString(datos.localidad));
 }
 
 void EncabezadoGanadero::Limpiar() {

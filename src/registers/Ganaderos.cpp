@@ -2,12 +2,13 @@
 
 #include "frame/Ciclo.h"
 #include "frame/Mensajes.h"
-#include "frame/calendario/Calendario.h"
+#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/Pestanas.h"
-#include "registers/Borrados.h"
 #include "registers/DarBaja.h"
-#include "registers/Direccion.h"
 #include "registers/Listas.h"
+#include "registers/datos/Borrados.h"
+#include "registers/datos/Direccion.h"
+#include "registers/explotacion/PaginaMateria.h"
 #include "store/Recordset.h"
 
 #include <QComboBox>
@@ -39,8 +40,8 @@ constexpr CampoFicha kCampos[] = {
     {9, nullptr, "Telé&fono", ClaseCampo::Texto, 20, 7, 1},
     {10, nullptr, "Tlf. Móvil", ClaseCampo::Texto, 20, 8, 0},
     {11, nullptr, "e-mail", ClaseCampo::Texto, 25, 8, 1},
-    {12, "FechaAlta", "Fec&ha de Alta", ClaseCampo::Fecha, 10, 9, 0},
-    {13, nullptr, "Fecha de &Baja", ClaseCampo::Fecha, 10, 9, 1},
+    {12, "FechaAlta", "Fec&ha de Alta", ClaseCampo::Fecha, 10, 9, 0, 1, "", 0, SiNoVale::Conserva},
+    {13, "FechaBaja", "Fecha de &Baja", ClaseCampo::Fecha, 10, 9, 1, 1, "", 0, SiNoVale::Vacia},
 };
 
 // Telephone and mobile stand the other way round than on the sheet of veterinarians.
@@ -53,14 +54,12 @@ constexpr int kFechaBaja = 13;
 enum Tab { kTabCebo = 1, kTabIPR, kTabManejo };
 
 constexpr DefinicionFicha kDefinicion{"Ganaderos",
-                                      "CT_Estandar",
-                                      "T_Ganaderos",
+                                      {"CT_Estandar", "T_Ganaderos", kCampos},
                                       "Id_Ganadero",
-                                      kCampos,
-                                      12,
-                                      "dd/mm/yyyy",
                                       "Debe incluir como mínimo el Código y el Nombre",
-                                      2};
+                                      2,
+                                      12,
+                                      "dd/mm/yyyy"};
 
 } // namespace
 
@@ -81,9 +80,8 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     auto lugar = m_encabezado->sizePolicy();
     lugar.setRetainSizeWhenHidden(true); // the tabs stay where they are
     m_encabezado->setSizePolicy(lugar);
-    auto* todo = new QVBoxLayout(this);
-    todo->addWidget(m_encabezado);
-    todo->addWidget(m_tab);
+    Cuerpo()->addWidget(m_encabezado);
+    Cuerpo()->addWidget(m_tab);
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
     m_tab->addTab(new QWidget(m_tab), QStringLiteral(" Cebo "));
     m_tab->addTab(m_datos.CrearIPR(m_tab), QStringLiteral(" Inicio Periodo Reproductivo "));
@@ -93,18 +91,17 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     LlenarVeterinarios();
     RefrescarEncabezado();
     ConectarPestañas(*m_tab);
-    TerminarConstruccion(m_bajas[1]);
     resize(1040, 620); // room for the lists of the yearly data
+    TerminarConstruccion(m_bajas[1]);
 }
 
 QWidget* Ganaderos::CrearGeneral() {
     auto* general = new QWidget(m_tab);
     auto* todo = new QVBoxLayout(general);
     todo->addWidget(CrearRejilla(general));
-    PonerIconoBusDato(0, 0);
-    auto* aviso = new QLabel(
+    PonerIconoBusDato(0, 0, "Seleccionar ganadero");
+    auto* aviso = Explicacion(
         QStringLiteral("(Recuerde que el Ganadero Código 1 siempre se usa para Toros de IA)"), general);
-    aviso->setEnabled(false);
     aviso->setWordWrap(true);
     Rejilla()->addWidget(aviso, 0, 2, 1, 2);
 
@@ -143,28 +140,23 @@ QWidget* Ganaderos::CrearGeneral() {
     for (const int i : {2, 3, 15})
         connect(&Campo(i), &QLineEdit::textChanged, this, [this] { RefrescarEncabezado(); });
     todo->addStretch();
-    todo->addWidget(&Barra());
     return general;
 }
 
 // The farm's data are those of a farmer that is in the database: none while one is being added.
 void Ganaderos::PonerPestañas() {
-    const double ganadero = Accion() == 1 ? 0 : Clave();
+    const double ganadero = Modo() == ModoFicha::Añadiendo ? 0 : Clave();
     for (const int i : {kTabIPR, kTabManejo})
         m_tab->setTabEnabled(i, ganadero != 0);
     m_datos.FijarGanadero(ganadero);
 }
 
-bool Ganaderos::PermiteDejar() {
-    const auto pendientes = m_datos.Pendientes();
-    if (pendientes.isEmpty())
-        return true;
-    if (!Preguntar(this, QStringLiteral("Atención"),
-                   QStringLiteral("Hay cambios sin guardar en «") + pendientes.join(QStringLiteral("», «")) +
-                       QStringLiteral("». ¿Desea perderlos?")))
-        return false;
-    m_datos.Cancelar();
-    return true;
+std::vector<PaginaPendiente> Ganaderos::Pendientes() {
+    std::vector<PaginaPendiente> pendientes;
+    for (auto* pagina : m_datos.Pendientes())
+        pendientes.push_back({QString::fromUtf8(pagina->Hoja().nombre),
+                              [pagina] { return pagina->Guardar(); }, [pagina] { pagina->Cancelar(); }});
+    return pendientes;
 }
 
 void Ganaderos::LlenarVeterinarios() {
@@ -192,7 +184,6 @@ void Ganaderos::LimpiarPropios() {
 }
 
 void Ganaderos::MostrarPropios(Recordset& rs) {
-    Poner(kFechaBaja, rs["FechaBaja"].Texto());
     m_motivoBaja = QString::fromStdString(rs["MotivoBaja"].Texto());
     for (auto* b : m_bajas)
         b->setEnabled(true);
@@ -208,24 +199,23 @@ void Ganaderos::MostrarPropios(Recordset& rs) {
     PonerPestañas();
 }
 
-bool Ganaderos::Comprobar() {
-    // Farmer 1 alone owns the insemination bulls, whatever was chosen.
+// Farmer 1 alone owns the insemination bulls, whatever was chosen.
+void Ganaderos::Completar() {
     m_torosComun->setCurrentIndex(CodigoTecleado() == QLatin1String("1") ? 0 : 1);
+}
+
+bool Ganaderos::Comprobar() {
     if (m_veterinarios->currentIndex() < 0)
         return Rechazar(QStringLiteral("Debe Indicar el Veterinario"), m_veterinarios);
     return true;
 }
 
 void Ganaderos::EscribirPropios(Recordset& rs) {
-    if (EsFechaValida(TextoStd(kFechaBaja))) {
-        rs["FechaBaja"] = TextoStd(kFechaBaja);
-    } else {
-        rs["FechaBaja"] = Valor();
+    if (rs["FechaBaja"].Nulo())
         rs["MotivoBaja"] = Valor(); // without the date the reason is forgotten
-    }
     rs["Id_Veterinario"] = m_idsVeterinarios[static_cast<std::size_t>(m_veterinarios->currentIndex())];
     rs["TorosComun"] = m_torosComun->currentText().toStdString();
-    m_idDireccion = NumerarDireccion(Base(), rs, Accion(), [this](int i) { return TextoStd(i); });
+    m_idDireccion = NumerarDireccion(Base(), rs, [this](int i) { return TextoStd(i); });
 }
 
 void Ganaderos::EscribirHijos(double codigo) {
@@ -234,7 +224,6 @@ void Ganaderos::EscribirHijos(double codigo) {
 
 void Ganaderos::DespuesDeGuardar(double clave) {
     CargarFicha(clave);
-    Barra().EstadoBotones(6);
 }
 
 QString Ganaderos::PreguntaEliminar() const {
@@ -247,8 +236,7 @@ void Ganaderos::Borrar(double clave) {
 }
 
 void Ganaderos::DespuesDeBorrar() {
-    PonerPestañas();
-    Barra().EstadoBotones(0);
+    Vaciar();
 }
 
 void Ganaderos::AbrirDarBaja() {

@@ -19,9 +19,10 @@ public:
     explicit Ganaderos(Sesion& sesion, QWidget* padre = nullptr);
 
 protected:
-    bool PermiteDejar() override;
+    std::vector<PaginaPendiente> Pendientes() override;
     void LimpiarPropios() override;
     void MostrarPropios(Recordset& rs) override;
+    void Completar() override;
     bool Comprobar() override;
     void EscribirPropios(Recordset& rs) override;
     void EscribirHijos(double codigo) override;

@@ -2,8 +2,8 @@
 
 #include "frame/Entrada.h"
 #include "frame/ficha/Aspecto.h"
-#include "registers/Direccion.h"
 #include "registers/Listas.h"
+#include "registers/datos/Direccion.h"
 #include "store/Recordset.h"
 
 #include <QGridLayout>
@@ -20,7 +20,7 @@ constexpr CampoFicha kCampos[] = {
     {2, "NombreVet", "&Nombre", ClaseCampo::Texto, 50, 1, 0},
     {17, "ApellidosVet", "A&pellidos", ClaseCampo::Texto, 50, 1, 1},
     {18, "Concejo", "Conce&jo", ClaseCampo::Texto, 30, 2, 0},
-    {12, "FechaAlta", "Fec&ha de Alta", ClaseCampo::Fecha, 10, 2, 1},
+    {12, "FechaAlta", "Fec&ha de Alta", ClaseCampo::Fecha, 10, 2, 1, 1, "", 0, SiNoVale::Conserva},
     {4, nullptr, "D&irección", ClaseCampo::Texto, 50, 3, 0, 2},
     {5, nullptr, "", ClaseCampo::Texto, 50, 4, 0, 2, "Complemento de la dirección"},
     {6, nullptr, "C. Po&stal", ClaseCampo::Texto, 5, 5, 0},
@@ -38,26 +38,21 @@ constexpr CampoDireccion kDireccion[] = {{"Direccion", 4},  {"Complemento", 5}, 
                                          {"TelefonoP", 10}, {"Email", 11},      {"FAX", 13}};
 
 constexpr DefinicionFicha kDefinicion{"Veterinarios",
-                                      "CT_Estandar",
-                                      "T_Veterinarios",
+                                      {"CT_Estandar", "T_Veterinarios", kCampos},
                                       "Id_Veterinario",
-                                      kCampos,
-                                      12,
-                                      "dd/mm/yy",
                                       "Debe incluir como mínimo el Código y el Nombre",
-                                      2};
+                                      2,
+                                      12};
 
 } // namespace
 
 Veterinarios::Veterinarios(Sesion& sesion, QWidget* padre)
     : Ficha(sesion, kDefinicion, padre) {
     setObjectName(QStringLiteral("Veterinarios"));
-    auto* todo = new QVBoxLayout(this);
-    todo->addWidget(CrearRejilla(this));
+    Cuerpo()->addWidget(CrearRejilla(this));
     Rejilla()->addWidget(Titular(QStringLiteral("Control de Distribución"), this), 9, 0, 1, 4);
-    PonerIconoBusDato(0, 0);
-    todo->addStretch();
-    todo->addWidget(&Barra());
+    PonerIconoBusDato(0, 0, "Seleccionar veterinario");
+    Cuerpo()->addStretch();
     TerminarConstruccion(&Campo(14));
 }
 
@@ -85,7 +80,7 @@ bool Veterinarios::Comprobar() {
 }
 
 void Veterinarios::EscribirPropios(Recordset& rs) {
-    m_idDireccion = NumerarDireccion(Base(), rs, Accion(), [this](int i) { return TextoStd(i); });
+    m_idDireccion = NumerarDireccion(Base(), rs, [this](int i) { return TextoStd(i); });
 }
 
 void Veterinarios::EscribirHijos(double codigo) {

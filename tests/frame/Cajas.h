@@ -23,11 +23,18 @@ public:
                 ventana.exec();
             }
             pastorix::Respuesta respuesta;
-            if (mensaje.clase == pastorix::Mensaje::Clase::Pregunta) {
+            const bool deTres = mensaje.clase == pastorix::Mensaje::Clase::AntesDeDejar;
+            if (deTres || mensaje.clase == pastorix::Mensaje::Clase::Pregunta) {
                 if (m_respuestas.isEmpty())
                     qCritical("question without an answer: %s", qUtf8Printable(mensaje.texto));
+                else if (m_guardar && deTres && m_respuestas.first())
+                    respuesta.antesDeDejar = pastorix::AntesDeDejar::Guardar;
+                else if (deTres && m_respuestas.first())
+                    respuesta.antesDeDejar = pastorix::AntesDeDejar::Descartar;
                 else
-                    respuesta.si = m_respuestas.takeFirst();
+                    respuesta.si = m_respuestas.first();
+                if (!m_respuestas.isEmpty())
+                    m_respuestas.removeFirst();
             }
             return respuesta;
         });
@@ -44,7 +51,10 @@ public:
     // A real window comes and goes with every box, and takes the focus along as the user's would.
     bool conVentana = false;
 
+    // Yes to "do you want to lose this" and to leaving without saving (Descartar); no stays where it is.
     void Responder(bool si) { m_respuestas << si; }
+    // From now on a yes to leaving saves first.
+    void GuardarAlDejar(bool si = true) { m_guardar = si; }
 
     // The boxes since the last look.
     QList<pastorix::Mensaje> Vistas() { return std::exchange(m_vistas, {}); }
@@ -65,6 +75,7 @@ private:
 
     QList<pastorix::Mensaje> m_vistas;
     QList<bool> m_respuestas;
+    bool m_guardar = false;
     pastorix::Respondedor m_anterior;
 };
 

@@ -1,7 +1,7 @@
 #include "BaseDePrueba.h"
 #include "prueba.h"
 
-#include "registers/Borrados.h"
+#include "registers/datos/Borrados.h"
 
 using namespace pastorix;
 using prueba::Base;

@@ -13,21 +13,17 @@ using namespace prueba;
 namespace {
 
 constexpr const char* kGrados[] = {"Bueno", "Aceptable"};
-constexpr ColumnaLinea kColumnas[] = {{"AñoNatural", "Año", ClaseCampo::Numero, 6, "Ct(0)"},
-                                      {"InicioPI", "Inicio", ClaseCampo::Fecha, 10, "Ct(1)"},
-                                      {"AlimVacas", "Vacas", ClaseCampo::Texto, 10, "Cd(2)", kGrados}};
-constexpr DefinicionLineas kDefinicion{"Grid",
-                                       "Líneas",
-                                       kColumnas,
-                                       true,
-                                       0,
-                                       false,
-                                       "Debe indicar el año natual",
-                                       "Ya existe una línea para el año natural ",
-                                       "",
-                                       "Atención",
-                                       "Eliminar la línea para ",
-                                       "Eliminar"};
+constexpr ColumnaLinea kColumnas[] = {{"AñoNatural", ClaseCampo::Numero},
+                                      {"InicioPI", ClaseCampo::Fecha},
+                                      {"AlimVacas", ClaseCampo::Texto, kGrados}};
+constexpr AspectoColumna kAspectos[] = {{"Año", 6, "Ct(0)"}, {"Inicio", 10, "Ct(1)"}, {"Vacas", 10, "Cd(2)"}};
+const DefinicionLineas kDefinicion = [] {
+    DefinicionLineas d{"Grid", "Líneas", kColumnas, kAspectos};
+    d.sinAño = "Debe indicar el año natual";
+    d.repetido = "Ya existe una línea para el año natural ";
+    d.eliminar = "Eliminar la línea para ";
+    return d;
+}();
 
 QString Pintada(LineasEditables& l) {
     auto* t = l.findChild<QTableWidget*>(QStringLiteral("Grid"));
@@ -71,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(foco(), QStringLiteral("Cd(2)"));
         tecla(Qt::Key_Down);
         tecla(Qt::Key_Return);
-        QCOMPARE(Pintada(l), QStringLiteral("2026|1/11/25|Bueno"));
+        QCOMPARE(Pintada(l), QStringLiteral("2026|01/11/25|Bueno"));
         QCOMPARE(foco(), QStringLiteral("Ct(0)")); // ready for the next one
         linea("2025", "31/02/25");
         tecla(Qt::Key_Return);
@@ -80,7 +76,7 @@ private Q_SLOTS:
         l.findChild<QLineEdit*>(QStringLiteral("Ct(1)"))->clear();
         combo->setFocus();
         tecla(Qt::Key_Return);
-        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Bueno")); // by year
+        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|01/11/25|Bueno")); // by year
         linea("2026", "");
         tecla(Qt::Key_Return);
         QCOMPARE(cajas.Vistas()[0].texto, QStringLiteral("Ya existe una línea para el año natural 2026"));
@@ -99,7 +95,7 @@ private Q_SLOTS:
         combo->setCurrentIndex(2);
         combo->setFocus();
         tecla(Qt::Key_Return);
-        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Aceptable"));
+        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|01/11/25|Aceptable"));
         grid->setCurrentCell(0, 0);
         l.findChild<QLineEdit*>(QStringLiteral("Ct(0)"))->setText(QStringLiteral("2026"));
         l.Confirmar();
@@ -112,7 +108,7 @@ private Q_SLOTS:
         grid->setFocus();
         grid->setCurrentCell(1, 0);
         QCOMPARE(cajas.Vistas().size(), 1);
-        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Aceptable/2030||"));
+        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|01/11/25|Aceptable/2030||"));
         cajas.Responder(true);
         grid->setCurrentCell(1, 0);
         tecla(Qt::Key_Delete);
@@ -123,7 +119,7 @@ private Q_SLOTS:
         linea("2026", "1/11/25");
         combo->setCurrentIndex(2);
         tecla(Qt::Key_Return);
-        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|1/11/25|Aceptable/2030||"));
+        QCOMPARE(Pintada(l), QStringLiteral("2025||/2026|01/11/25|Aceptable/2030||"));
         cajas.Responder(true);
         grid->setFocus();
         grid->setCurrentCell(2, 0);
@@ -141,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(preguntas[0].titulo, QStringLiteral("Eliminar"));
         QCOMPARE(preguntas[0].texto, QStringLiteral("Eliminar la línea para 2025"));
         QCOMPARE(quitada, QStringLiteral("2025"));
-        QCOMPARE(Pintada(l), QStringLiteral("2026|1/11/25|Aceptable"));
+        QCOMPARE(Pintada(l), QStringLiteral("2026|01/11/25|Aceptable"));
     }
 
     // What the fields cannot show or the lists do not hold survives an edit of its line.

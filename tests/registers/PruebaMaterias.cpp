@@ -2,7 +2,7 @@
 #include "prueba.h"
 
 #include "registers/Ganaderos.h"
-#include "registers/explotacion/Materia.h"
+#include "registers/datos/Materia.h"
 
 #include <QComboBox>
 #include <QPlainTextEdit>
@@ -84,10 +84,10 @@ private Q_SLOTS:
         QTest::keyClick(rejilla, Qt::Key_Insert);
         QVERIFY(p.De<QLineEdit>("Ct_IPR(0)")->hasFocus());
         p.Linea({"2024", "1/4/2x4", "", "InvOtoño"}); // the letter is dropped
-        QCOMPARE(p.Texto(kIPR), std::string("2024|1/4/24|-|InvOtoño"));
+        QCOMPARE(p.Texto(kIPR), std::string("2024|01/04/24|-|InvOtoño"));
         p.Linea({"2023", "", "2/5/23", ""});
-        QCOMPARE(p.Texto(kIPR), std::string("2023|-|2/5/23|-/2024|1/4/24|-|InvOtoño"));
-        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2023||2/5/23|/2024|1/4/24||InvOtoño"));
+        QCOMPARE(p.Texto(kIPR), std::string("2023|-|02/05/23|-/2024|01/04/24|-|InvOtoño"));
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2023||02/05/23|/2024|01/04/24||InvOtoño"));
 
         const auto antes = p.Texto(kIPR);
         p.Linea({"2024", "", "", "No"});
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(p.De<QComboBox>("CD_IPRpa")->currentText(), QStringLiteral("InvOtoño"));
         QTest::keyClick(rejilla, Qt::Key_Return);
         p.Linea({"2025", "1/4/25", "", "No"});
-        QCOMPARE(p.Texto(kIPR), std::string("2023|-|2/5/23|-/2025|1/4/25|-|No"));
+        QCOMPARE(p.Texto(kIPR), std::string("2023|-|02/05/23|-/2025|01/04/25|-|No"));
 
         for (const bool si : {false, true, true}) {
             rejilla->setCurrentCell(0, 0);
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     // What a subject reads and nobody touches is written back as it was, with whatever has no place in the grid.
     void IdaYVuelta_data() {
-        QTest::addColumn<const DefinicionMateria*>("materia");
+        QTest::addColumn<const Materia*>("materia");
         QTest::addColumn<QString>("filas"); // columns behind Id_Ganadero
         QTest::newRow("IPR") << &kMateriaIPR << "-|1/1/20|-|-|-|-|-|-|suelto;2024|1/4|x|Otro|a|b|c|d|libre";
         QTest::newRow("AI") << &kMateriaAlimentacion << "2023|31/02/23|-|-|Rara|-;2024|01/12/23|-|Bueno|-|-";
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QTest::newRow("PC") << &kMateriaPastos << "2024|Sí|Con Toros|Buena|01/05/24|-|12,5|No|Buena|Sí";
     }
     void IdaYVuelta() {
-        QFETCH(const DefinicionMateria*, materia);
+        QFETCH(const Materia*, materia);
         QFETCH(QString, filas);
         PuestoDeFichas p;
         auto& c = p.sesion.conexion;
@@ -157,8 +157,8 @@ private Q_SLOTS:
                     rs.Update();
                 }
         }
-        const auto sql =
-            std::string("SELECT * FROM ") + materia->tabla + " ORDER BY Id_Ganadero, " + materia->orden;
+        const auto sql = std::string("SELECT * FROM ") + materia->tabla + " ORDER BY Id_Ganadero, " +
+                         (materia->porAños ? "AñoNatural" : "Ln");
         const auto antes = p.Texto(sql);
         QCOMPARE(QString::fromStdString(antes).count(QLatin1String("12|")),
                  filas.count(QLatin1Char(';')) + 1);
@@ -228,7 +228,7 @@ private Q_SLOTS:
             p.cajas.Responder(si);
             QTest::keyClick(CampoDe(*p.ficha, 0), Qt::Key_Return);
             QCOMPARE(p.Caja(),
-                     QStringLiteral("Hay cambios sin guardar en «Abon. y Superf.». ¿Desea perderlos?"));
+                     QStringLiteral("Hay cambios sin guardar en «Abon. y Superf.». ¿Desea guardarlos?"));
             QCOMPARE(p.ficha->Clave(), si ? 14.0 : 12.0);
         }
         QVERIFY(nota().find("zz") == std::string::npos);
@@ -237,10 +237,10 @@ private Q_SLOTS:
         QCOMPARE(p.Celdas("GridMAS"), QStringLiteral("|||||||"));
     }
 
-    // The rows are gone before they are written anew: what failed has to be saved again, and the grid still has all of it.
+    // A rewrite that fails changes nothing, and the grid still has what was typed: it can be saved again.
     void GuardadoRoto() {
         Explotacion p;
-        for (const auto& [año, fecha] : {std::pair{2020, "1/1/20"}, {2021, "1/1/21"}})
+        for (const auto& [año, fecha] : {std::pair{2020, "01/01/20"}, {2021, "01/01/21"}})
             p.Poner("T_IPR",
                     {{"Id_Ganadero", 12.0}, {"AñoNatural", año}, {"IPRPrimNov", fecha}, {"Blanco", "b"}});
         p.Abrir(2);
@@ -248,17 +248,17 @@ private Q_SLOTS:
         p.De<QLineEdit>("Ct_IPR(0)")->setFocus();
         p.Linea({"2019", "1/1/21", "", ""});
         QCOMPARE(p.cajas.Vistas().size(), 1);
-        QCOMPARE(p.Texto("SELECT AñoNatural FROM T_IPR"), std::string("2019/2020"));
-        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2019|1/1/21||/2020|1/1/20||/2021|1/1/21||"));
+        QCOMPARE(p.Texto("SELECT AñoNatural FROM T_IPR"), std::string("2020/2021"));
+        QCOMPARE(p.Celdas("GridIPR"), QStringLiteral("2019|01/01/21||/2020|01/01/20||/2021|01/01/21||"));
         p.cajas.Responder(false);
         p.ficha->close();
         QCOMPARE(
             p.Caja(),
-            QStringLiteral("Hay cambios sin guardar en «Inicio Periodo Reproductivo». ¿Desea perderlos?"));
+            QStringLiteral("Hay cambios sin guardar en «Inicio Periodo Reproductivo». ¿Desea guardarlos?"));
         p.Romper("DROP INDEX roto");
         p.De<QPushButton>("B_GuardarIPR")->click();
         QCOMPARE(p.Texto("SELECT AñoNatural, IPRPrimNov, Blanco FROM T_IPR ORDER BY AñoNatural"),
-                 std::string("2019|1/1/21|-/2020|1/1/20|b/2021|1/1/21|b"));
+                 std::string("2019|01/01/21|-/2020|01/01/20|b/2021|01/01/21|b"));
         QVERIFY(!p.Activo("B_GuardarIPR"));
     }
 

@@ -1,8 +1,8 @@
 #include "PuestoDeFichas.h"
 #include "prueba.h"
 
-#include "registers/sanidad/AsuntosSanidad.h"
-#include "registers/sanidad/Mamitis.h"
+#include "registers/datos/AsuntosSanidad.h"
+#include "registers/datos/Mamitis.h"
 #include "store/Literales.h"
 
 #include <set>

@@ -214,7 +214,7 @@ private Q_SLOTS:
         auto* causa = p.Combo("CD_CBaja");
         auto* otra = p.f->findChild<QLineEdit*>(QStringLiteral("CtextoBaja"));
         QCOMPARE(causa->currentText(), QString()); // unknown: nothing is chosen, and nothing is stored
-        QVERIFY(!otra->isEnabled());
+        QVERIFY(!otra->isHidden());                // what is stored is in sight
         QCOMPARE(p.Combo("CD_Raza")->currentText(), QStringLiteral("A. Valles"));
         Teclear(*p.f, 13, "B+");
         BotonDe(*p.f, "B_Guardar")->click();
@@ -222,11 +222,14 @@ private Q_SLOTS:
         QCOMPARE(p.Texto(fila), std::string("a. valles|-|con nocturnidad"));
         BotonDe(*p.f, "B_Modificar")->click();
         causa->setCurrentIndex(causa->findText(QStringLiteral("Otra")));
-        QVERIFY(otra->isEnabled());
-        causa->setCurrentIndex(0); // taken back
-        QVERIFY(!otra->isEnabled());
+        otra->setFocus();
+        otra->selectAll();
+        QTest::keyClick(otra, Qt::Key_Delete);
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Texto(fila), std::string("a. valles|-|con nocturnidad"));
+        QCOMPARE(p.Texto(fila), std::string("a. valles|Otra|-"));
+        QVERIFY(!otra->isHidden());
+        p.f->CargarFicha(57001);
+        QVERIFY(otra->isHidden());
     }
 
     void Eliminar() {
@@ -309,7 +312,7 @@ private Q_SLOTS:
                  std::string("2019/2021/2023"));
         p.cajas.Responder(false);
         p.f->reject();
-        QVERIFY(p.Caja().startsWith(QStringLiteral("Hay patologías sin guardar")));
+        QVERIFY(p.Caja().startsWith(QStringLiteral("Hay cambios sin guardar en «Patologías»")));
         BotonDe(*p.f, "B_Modificar")->click();
         BotonDe(*p.f, "B_Guardar")->click();
         QCOMPARE(p.Fila(r, 0).left(4), QStringLiteral("2023")); // newest first again

@@ -1,8 +1,10 @@
 #include "BaseDePrueba.h"
 #include "prueba.h"
 
-#include "registers/sementales/PatologiasSemental.h"
-#include "registers/sementales/ReglasSemental.h"
+#include "registers/datos/FechasVacu.h"
+#include "registers/datos/NombreCompuesto.h"
+#include "registers/datos/PatologiasSemental.h"
+#include "registers/datos/ReglasSemental.h"
 
 using namespace pastorix;
 using namespace prueba;
@@ -111,8 +113,8 @@ private Q_SLOTS:
         b.Poner("T_FechasVacu", {{"Id_Ganadero", 57.0}, {"Ln", 1}, {"IBR", F("20/4/2017")}});
         b.Poner("T_FechasVacu", {{"Id_Ganadero", 57.0}, {"Ln", 3}, {"IBR", F("4/5/2021")}});
         b.Poner("T_FechasVacu", {{"Id_Ganadero", 2.0}, {"Ln", 1}, {"IBR", F("9/9/2019")}});
-        QCOMPARE(FechasDeVacuna(b.c, 57, "IBR"), (std::vector<std::string>{"20/04/17", "04/05/21"}));
-        QCOMPARE(FechasDeVacuna(b.c, 57, "NEOSPORA"), std::vector<std::string>{});
+        QCOMPARE(LeerFechasVacu(b.c, "IBR", "Ln", 57)[0], (std::vector<std::string>{"20/04/17", "04/05/21"}));
+        QCOMPARE(LeerFechasVacu(b.c, "NEOSPORA", "Ln", 57)[0], std::vector<std::string>{});
     }
 };
 

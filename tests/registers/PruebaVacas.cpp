@@ -2,8 +2,9 @@
 #include "prueba.h"
 
 #include "frame/calendario/ErrorDeEjecucion.h"
-#include "registers/vacas/CodigoDeVaca.h"
-#include "registers/vacas/Crotales.h"
+#include "registers/datos/CodigoDeVaca.h"
+#include "registers/datos/Crotales.h"
+#include "registers/datos/NombreCompuesto.h"
 #include "registers/vacas/ObsControlRebano.h"
 #include "registers/vacas/Vacas.h"
 
@@ -299,7 +300,7 @@ private Q_SLOTS:
         Teclear(f, 1, "Morena");
         p.cajas.Responder(false);
         tecla(Qt::Key_Up);
-        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar. ¿Desea perderlos?"));
+        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar. ¿Desea guardarlos?"));
         QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Morena"));
         BotonDe(f, "B_Cancelar")->click();
         Teclear(f, 7, "12'4");
@@ -311,8 +312,9 @@ private Q_SLOTS:
         BotonDe(f, "B_Guardar")->click();
         QVERIFY(p.Caja().contains(QStringLiteral("ya no existe")));
         QCOMPARE(CampoDe(f, 7)->text(), QStringLiteral("ES99"));
+        p.cajas.Responder(true); // what stands on the sheet alone is not given up unasked
         BotonDe(f, "B_Cancelar")->click();
-        QVERIFY(p.Caja().startsWith(QStringLiteral("No Encuentro el Codigo")));
+        QVERIFY(p.cajas.Tomar().last().contains(QStringLiteral("No Encuentro el Codigo")));
         f.close();
     }
 
@@ -338,9 +340,9 @@ private Q_SLOTS:
         Teclear(f, 0, "5700001");
         p.cajas.Responder(false);
         Pulsar(CampoDe(f, 0), Qt::Key_Return);
-        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar en «C.C.». ¿Desea perderlos?"));
+        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar en «C.C.». ¿Desea guardarlos?"));
         QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1200002"));
-        QCOMPARE(f.focusWidget(), CampoDe(f, 1)); // Enter passes over the search icon
+        QCOMPARE(f.focusWidget(), CampoDe(f, 0)); // ready for another code
         p.cajas.Responder(true);
         f.close();
         p.cajas.Vistas();

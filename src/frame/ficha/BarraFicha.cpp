@@ -2,7 +2,9 @@
 
 #include "frame/Iconos.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 
 namespace pastorix {
@@ -30,7 +32,9 @@ constexpr std::array<bool, 6> kConRegistro{true, true, true, false, false, true}
 } // namespace
 
 BarraFicha::BarraFicha(QWidget* padre)
-    : QWidget(padre) {
+    : QWidget(padre)
+    , m_estado(new QLabel(this)) {
+    m_estado->setObjectName(QStringLiteral("Estado"));
     auto* fila = new QHBoxLayout(this);
     fila->setContentsMargins(0, 0, 0, 0);
     for (std::size_t i = 0; i < kAspectos.size(); ++i) {
@@ -38,18 +42,27 @@ BarraFicha::BarraFicha(QWidget* padre)
         b->setObjectName(QString::fromUtf8(kAspectos[i].nombre));
         b->setAutoDefault(false); // Enter belongs to the fields
         if (i == Cerrar)
-            fila->addStretch();
+            fila->addWidget(m_estado, 1, Qt::AlignCenter);
         fila->addWidget(b);
         m_botones[i] = b;
     }
 }
 
-void BarraFicha::EstadoBotones(int estado) {
-    if (estado == 3 || estado == 4)
-        return;
-    const auto& activos = estado == 6 ? kConRegistro : estado == 1 || estado == 2 ? kEditando : kVacia;
+void BarraFicha::Poner(ModoFicha modo) {
+    const auto& activos = modo == ModoFicha::Mostrando ? kConRegistro
+                          : modo == ModoFicha::Vacia   ? kVacia
+                                                       : kEditando;
     for (std::size_t i = 0; i < m_botones.size(); ++i)
         m_botones[i]->setEnabled(activos[i]);
+    Decir({});
+}
+
+void BarraFicha::Decir(const QString& texto) {
+    if (texto == m_estado->text())
+        return;
+    m_estado->setText(texto);
+    QAccessibleEvent dicho(m_estado, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&dicho);
 }
 
 } // namespace pastorix

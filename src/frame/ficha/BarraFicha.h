@@ -4,14 +4,20 @@
 
 #include <array>
 
+class QLabel;
 class QPushButton;
 
 namespace pastorix {
 
-// The six standard commands of a sheet and their state machine.
+// What a sheet is doing. It decides which commands are on, and not the other way round.
+#ifndef Q_MOC_RUN // Qt's moc stops at enumerators with an ñ, in whatever header it meets them
+enum class ModoFicha { Vacia, Añadiendo, Modificando, Mostrando };
+#endif
+
+// The six standard commands of a sheet, and a place for what the sheet has to tell between them.
 class BarraFicha : public QWidget {
 public:
-#ifndef Q_MOC_RUN // Qt's moc stops at enumerators with an ñ, in whatever header it meets them
+#ifndef Q_MOC_RUN
     enum Boton { Añadir, Modificar, Eliminar, Guardar, Cancelar, Cerrar };
 #endif
 
@@ -21,11 +27,13 @@ public:
         return m_botones[boton];
     }
 
-    // 0 nothing on screen, 1 adding, 2 modifying, 3 and 4 no change, 5 cancelled (as 0), 6 a record on screen.
-    void EstadoBotones(int estado);
+    void Poner(ModoFicha modo);
+    // A word in passing ("Guardado 10:42"); screen readers hear it too.
+    void Decir(const QString& texto);
 
 private:
     std::array<QPushButton*, 6> m_botones{};
+    QLabel* m_estado;
 };
 
 } // namespace pastorix

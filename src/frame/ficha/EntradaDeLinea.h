@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/ficha/Lineas.h"
+#include "frame/campos/Lineas.h"
 
 #include <QStringList>
 
@@ -11,11 +11,23 @@ namespace pastorix {
 
 class CampoTexto;
 
+// How a column of lines looks: in the grid, and in the strip in which a line is entered. Apart from the column itself, which is data.
+struct AspectoColumna {
+    const char* titulo;            // heading of the grid
+    int caracteres;                // width in the grid; 0 hides the column there
+    const char* control = nullptr; // name of its entry control; nullptr: shown, not entered
+    bool esLista = false; // a combo whose items come from the database; coded columns are combos anyway
+    int maximo = 0;       // most characters that its text box takes; 0 no limit
+    const char* explicacion = ""; // in words, where the heading is a code
+    bool libre = false;           // a combo in which other texts can be typed
+};
+
 // One field of the strip in which a line is entered: a text box or a combo. It belongs to its widget parent's tree.
 class EntradaDeLinea {
 public:
     // `esAño`: the column of the year, which has four digits.
-    EntradaDeLinea(const ColumnaLinea& definicion, std::size_t columna, bool esAño, QWidget* padre);
+    EntradaDeLinea(const ColumnaLinea& dato, const AspectoColumna& aspecto, std::size_t columna, bool esAño,
+                   QWidget* padre);
 
     std::size_t Columna() const { return m_columna; }
     QWidget* Control() const;

@@ -1,51 +1,36 @@
+// The record sheet: its window, its modes, and a record on its way to the screen. What changes the database stands in FichaEscritura.cpp.
 #include "frame/ficha/Ficha.h"
 
 #include "frame/Mensajes.h"
+#include "frame/Ventanas.h"
 #include "frame/ficha/Aspecto.h"
 #include "store/Recordset.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QToolButton>
-
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace pastorix {
-
-namespace {
-
-// A key that changes a text, as against one that moves about or asks for something.
-bool EsDeEscritura(const QKeyEvent& e) {
-    if (e.key() == Qt::Key_Delete || e.key() == Qt::Key_Backspace)
-        return true;
-    if (e.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return false;
-    return !e.text().isEmpty() && e.text().at(0).isPrint();
-}
-
-// A value is found in the list by its text, whatever its case. Where texts outside the list are allowed it shows all the same.
-void MostrarEn(QComboBox& combo, const QString& valor) {
-    const int i = combo.findText(valor, Qt::MatchFixedString);
-    combo.setCurrentIndex(std::max(i, 0)); // the first item is the empty one
-    if (i < 0 && combo.isEditable())
-        combo.setEditText(valor);
-}
-
-} // namespace
 
 Ficha::Ficha(Sesion& sesion, const DefinicionFicha& definicion, QWidget* padre)
     : QDialog(padre)
     , m_sesion(sesion)
     , m_definicion(definicion)
+    , m_hoja(new HojaDeCampos(definicion.hoja, this))
     , m_barra(new BarraFicha(this)) {
     setWindowTitle(QString::fromUtf8(definicion.titulo));
     setWindowModality(Qt::WindowModal);
+    auto* todo = new QVBoxLayout(this);
+    m_cuerpo = CuerpoDesplazable(*this, *todo);
+    todo->addWidget(m_hoja->CrearPie(this));
+    todo->addWidget(m_barra);
     ConectarBarra();
-    m_barra->EstadoBotones(0);
+    ConectarHoja();
+    m_barra->Poner(m_modo);
 }
 
 void Ficha::ConectarBarra() {
@@ -64,130 +49,99 @@ void Ficha::ConectarBarra() {
             [this] { GuardarLoCercano(); });
 }
 
+void Ficha::ConectarHoja() {
+    m_hoja->trasElUltimo = (*m_barra)[BarraFicha::Guardar];
+    m_hoja->alEditar = [this] { EntrarEnModificar(); };
+    m_hoja->alConfirmar = [this](QWidget& campo) { return &campo == &Campo(0) && CodigoConfirmado(); };
+    m_hoja->alDejar = [this](QWidget& campo) {
+        if (&campo == &Campo(0))
+            CodigoDejado();
+        AlDejar(campo);
+    };
+}
+
 void Ficha::TerminarConstruccion(QWidget* ultimo) {
     for (auto* boton : m_barra->findChildren<QPushButton*>()) {
         setTabOrder(ultimo, boton);
         ultimo = boton;
     }
     Campo(0).setFocus();
+    RecordarVentana(*this);
 }
 
-void Ficha::Vigilar(QWidget* control) {
-    if (auto* combo = qobject_cast<QComboBox*>(control))
-        connect(combo, &QComboBox::activated, this, [this] { EntrarEnModificar(); });
-    control->installEventFilter(this);
+void Ficha::PonerIconoBusDato(int icono, int indiceCampo, const char* nombre) {
+    auto* boton = m_hoja->PonerIcono(icono, indiceCampo, QString::fromUtf8(nombre),
+                                     [this, icono] { BuscarDato(icono); });
+    if (icono == 0) {
+        boton->setShortcut(QKeySequence(Qt::Key_F3));
+        boton->setToolTip(QStringLiteral("Seleccionar (F3)"));
+    }
 }
 
-bool Ficha::Editando() const {
-    return (*m_barra)[BarraFicha::Guardar]->isEnabled();
+void Ficha::PonerModo(ModoFicha modo) {
+    m_modo = modo;
+    m_fallo = false;
+    m_barra->Poner(modo);
 }
 
 // A change that is made already cannot be refused: what stood against it (a code typed and not entered) is told and put right.
 void Ficha::EntrarEnModificar() {
-    if (m_clave == 0 || !(*m_barra)[BarraFicha::Modificar]->isEnabled())
+    if (m_modo != ModoFicha::Mostrando)
         return;
     Modificar();
     if (!Editando())
         Modificar();
 }
 
-// Enter goes from field to field, and from the last one to the button that saves; icons, tabs and other buttons have keys of their own.
-void Ficha::PasarAlSiguiente() {
-    const auto esParada = [this](QWidget* w) {
-        return qobject_cast<QLineEdit*>(w) || qobject_cast<QComboBox*>(w) ||
-               qobject_cast<QPlainTextEdit*>(w) || qobject_cast<QAbstractItemView*>(w) ||
-               w == (*m_barra)[BarraFicha::Guardar];
-    };
-    constexpr int kMasQueControles = 200;
-    for (int i = 0; i < kMasQueControles && focusNextChild() && !esParada(focusWidget());)
-        ++i;
-}
-
-// A box or another window over the sheet is no leaving of the field.
-void Ficha::CampoDejado(QWidget& campo, Qt::FocusReason razon) {
-    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason ||
-        razon == Qt::MenuBarFocusReason)
-        return;
-    if (&campo == m_campos.at(0))
-        CodigoDejado();
-    AlDejar(campo);
-}
-
-bool Ficha::eventFilter(QObject* objeto, QEvent* evento) {
-    if (EsRuedaAjena(objeto, *evento))
-        return true;
-    if (evento->type() == QEvent::FocusOut && objeto->isWidgetType())
-        CampoDejado(static_cast<QWidget&>(*objeto), static_cast<QFocusEvent&>(*evento).reason());
-    if (evento->type() == QEvent::KeyPress) {
-        const auto& tecla = static_cast<QKeyEvent&>(*evento);
-        const bool esCodigo = objeto == m_campos.at(0);
-        const bool intro = tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
-        if (const auto* memo = qobject_cast<QPlainTextEdit*>(objeto)) {
-            if (!memo->isReadOnly() && (intro || EsDeEscritura(tecla)))
-                EntrarEnModificar(); // Enter is a line break there
-            return QDialog::eventFilter(objeto, evento);
-        }
-        if (intro) {
-            if (esCodigo)
-                CodigoDejado();
-            PasarAlSiguiente();
-            return true;
-        }
-        const auto* linea = qobject_cast<QLineEdit*>(objeto);
-        if (!esCodigo && linea && !linea->isReadOnly() && EsDeEscritura(tecla))
-            EntrarEnModificar();
-    }
-    return QDialog::eventFilter(objeto, evento);
-}
-
 void Ficha::LimpiarCampos() {
-    for (const auto& [indice, campo] : m_campos)
-        campo->clear();
-    for (const auto& [indice, memo] : m_memos)
-        memo->Poner({});
-    for (const auto& [nombre, combo] : m_combos)
-        MostrarEn(*combo, {});
+    m_hoja->Limpiar();
     LimpiarPropios();
 }
 
 void Ficha::Vaciar() {
     m_clave = 0;
-    m_accion = 0;
     LimpiarCampos();
-    m_barra->EstadoBotones(0);
+    PonerModo(ModoFicha::Vacia);
 }
 
-// A code typed and left, or confirmed with Enter, brings its record, unless an edit is under way.
-void Ficha::CodigoDejado() {
-    if (Editando() || CodigoTecleado().isEmpty())
-        return;
-    const double codigo = CodigoTecleado().toDouble();
-    if (codigo == m_clave)
-        return;
-    if (PermiteDejar())
-        CargarFicha(codigo);
+// --- a code as a way to a record
+
+void Ficha::CargarOtra(double clave) {
+    if (clave == m_clave || PermiteDejar())
+        CargarFicha(clave);
     else
         ReponerCodigo();
 }
 
-QComboBox& Ficha::Combo(std::string_view nombre) const {
-    return *m_combos.find(nombre)->second;
+// Enter reads the record, also the one that is shown; the field keeps the focus, ready for the next code.
+bool Ficha::CodigoConfirmado() {
+    if (Editando() || CodigoTecleado().isEmpty())
+        return false;
+    CargarOtra(CodigoTecleado().toDouble());
+    Campo(0).setFocus();
+    Campo(0).selectAll();
+    return true;
 }
 
-std::string Ficha::TextoStd(int indice) const {
-    const auto memo = m_memos.find(indice);
-    return memo != m_memos.end() ? memo->second->Texto() : Campo(indice).text().toStdString();
-}
-
-void Ficha::Poner(int indice, const std::string& texto) {
-    if (const auto memo = m_memos.find(indice); memo != m_memos.end())
-        memo->second->Poner(texto);
-    else
-        Campo(indice).Mostrar(QString::fromStdString(texto));
+// A code typed and left brings its record, unless an edit is under way.
+void Ficha::CodigoDejado() {
+    if (Editando() || CodigoTecleado().isEmpty())
+        return;
+    if (const double codigo = CodigoTecleado().toDouble(); codigo == 0 || codigo != m_clave)
+        CargarOtra(codigo);
 }
 
 void Ficha::ReponerCodigo() {
     Poner(0, m_clave == 0 ? std::string() : TextoNumero(m_clave));
+}
+
+bool Ficha::CodigoIntacto() {
+    if (CodigoTecleado().toDouble() == m_clave)
+        return true;
+    ReponerCodigo(); // before the box: it takes the focus from the field
+    Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
+           QStringLiteral("El Código no se puede cambiar"));
+    return false;
 }
 
 bool Ficha::CargarFicha(double clave) {
@@ -201,21 +155,16 @@ bool Ficha::CargarFicha(double clave) {
             return false;
         }
         LimpiarCampos();
-        m_barra->EstadoBotones(6);
-        m_accion = 0;
         m_clave = clave;
-        for (const auto& c : m_definicion.campos)
-            if (c.columna)
-                Poner(c.indice, rs[c.columna].Texto());
-        for (const auto& c : m_definicion.combos)
-            MostrarEn(Combo(c.nombre), QString::fromStdString(rs[c.columna].Texto()));
+        PonerModo(ModoFicha::Mostrando);
+        m_hoja->Mostrar(rs);
         MostrarPropios(rs);
+        m_hoja->DarPorGuardado();
         return true;
     } catch (const std::exception& e) {
         // What is shown may be half of one record and half of another: it is none, and nothing of it can be saved.
         m_clave = 0;
-        m_accion = 0;
-        m_barra->EstadoBotones(0);
+        PonerModo(ModoFicha::Vacia);
         MostrarError(e);
         return false;
     }
@@ -231,27 +180,50 @@ void Ficha::AbrirCon(double clave) {
     CargarFicha(clave);
 }
 
+// --- leaving
+
+bool Ficha::PreguntarAntesDeDejar(const QString& donde, const PaginaPendiente& pagina) {
+    switch (
+        PreguntarGuardar(this, QStringLiteral("Hay cambios sin guardar%1. ¿Desea guardarlos?").arg(donde))) {
+    case AntesDeDejar::Guardar:
+        return pagina.guardar();
+    case AntesDeDejar::Descartar:
+        pagina.descartar();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool Ficha::PermiteDejar() {
+    for (const auto& pagina : Pendientes())
+        if (!PreguntarAntesDeDejar(QStringLiteral(" en «%1»").arg(pagina.titulo), pagina))
+            return false;
+    return true;
+}
+
+bool Ficha::PermiteCargarOtro() {
+    const auto guardar = [this] {
+        Guardar();
+        return !Editando();
+    };
+    return (!Editando() || PreguntarAntesDeDejar({}, {{}, guardar, [] {}})) && PermiteDejar();
+}
+
 void Ficha::Cancelar() {
-    m_barra->EstadoBotones(5);
-    m_accion = 0;
+    if (m_fallo &&
+        !Preguntar(this, QStringLiteral("Atención"),
+                   QStringLiteral("Lo que se ve en la ficha no se ha podido guardar. ¿Desea perderlo?")))
+        return;
     LimpiarCampos();
+    PonerModo(ModoFicha::Vacia);
     if (m_clave != 0)
         CargarFicha(m_clave);
 }
 
 void Ficha::reject() {
-    if (Editando() && !Preguntar(this, QStringLiteral("Atención"),
-                                 QStringLiteral("Hay cambios sin guardar. ¿Desea cerrar y perderlos?")))
-        return;
-    if (!PermiteDejar())
-        return;
-    QDialog::reject();
-}
-
-bool Ficha::PermiteCargarOtro() {
-    return (!Editando() || Preguntar(this, QStringLiteral("Atención"),
-                                     QStringLiteral("Hay cambios sin guardar. ¿Desea perderlos?"))) &&
-           PermiteDejar();
+    if (PermiteCargarOtro())
+        QDialog::reject();
 }
 
 bool Ficha::Rechazar(const QString& texto, QWidget* foco) {
@@ -261,7 +233,7 @@ bool Ficha::Rechazar(const QString& texto, QWidget* foco) {
 }
 
 void Ficha::MostrarError(const std::exception& error) {
-    Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(error.what()));
+    AvisarError(this, error);
 }
 
 } // namespace pastorix

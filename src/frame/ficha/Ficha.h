@@ -2,30 +2,31 @@
 
 #include "frame/Sesion.h"
 #include "frame/ficha/BarraFicha.h"
-#include "frame/ficha/CampoFicha.h"
-#include "frame/ficha/CampoMemo.h"
-#include "frame/ficha/CampoTexto.h"
+#include "frame/ficha/HojaDeCampos.h"
 
 #include <QDialog>
 
-#include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
-class QComboBox;
-class QGridLayout;
-class QPushButton;
-class QToolButton;
+class QVBoxLayout;
 
 namespace pastorix {
-
-class Recordset;
 
 // A button that saves a page by itself, apart from the sheet: Ctrl+S presses it while the focus is in the page.
 void MarcarGuardarDePagina(QPushButton& boton);
 
+// A page of a sheet with something typed that is not in the database.
+struct PaginaPendiente {
+    QString titulo;
+    std::function<bool()> guardar; // false when it could not be saved, after its own box
+    std::function<void()> descartar;
+};
+
 // The record sheet: one row of a table, shown, added, changed, deleted. A sheet derives from it with its table of fields, and says through the
-// hooks below only where it differs. The database is written when the user saves, as one durable unit.
+// hooks below only where it differs. The database is written when the user saves, as one durable unit. What the sheet lays out in Cuerpo()
+// scrolls where the screen is too small for it; the commands below stay in sight.
 class Ficha : public QDialog {
 public:
     Ficha(Sesion& sesion, const DefinicionFicha& definicion, QWidget* padre = nullptr);
@@ -36,7 +37,7 @@ public:
     void AbrirCon(double clave);
 
     double Clave() const { return m_clave; } // key of the record on screen, 0 if none
-    int Accion() const { return m_accion; }  // 1 adding, 2 modifying, 0 neither
+    ModoFicha Modo() const { return m_modo; }
 
     void Añadir();
     void Modificar();
@@ -51,9 +52,9 @@ public:
 
 protected:
     // Hooks, in the order in which they come into play.
-    virtual bool PermiteDejar() {
-        return true;
-    } // before another record comes or the sheet goes; false to stay
+    virtual std::vector<PaginaPendiente> Pendientes() {
+        return {};
+    }                                             // asked about before another record comes or the sheet goes
     virtual bool PermiteAñadir() { return true; } // a limit of the sheet; false after its own box
     virtual bool PermiteModificar() { return true; }
     virtual bool PermiteEliminar() { return true; }
@@ -63,11 +64,17 @@ protected:
     virtual void AlAñadir();                   // where the typing begins; by default in field 1
     virtual void LimpiarPropios() {}           // controls beyond the table of fields
     virtual void MostrarPropios(Recordset&) {} // the same, when a record is read
-    virtual bool ComprobarMinimos();           // the code and the mandatory field
-    virtual bool Comprobar() { return true; }  // further checks, each with its box and focus
+    virtual bool Recoger() {
+        return true;
+    }                                // what is open in grids is taken, before the checks; false to stay
+    virtual bool ComprobarMinimos(); // the code and the mandatory field
+    virtual void Completar() {}      // what the sheet decides by itself, whatever was chosen
+    virtual bool Comprobar() {
+        return true;
+    } // further checks, each with its box and focus; they change nothing
     virtual void EscribirPropios(Recordset&) {}      // columns beyond the table of fields, before Update
     virtual void EscribirHijos(double /*codigo*/) {} // child tables, after Update
-    virtual void DespuesDeGuardar(double clave);     // buttons, or load the record again
+    virtual void DespuesDeGuardar(double clave);     // the record on screen, or read again
     virtual QString PreguntaEliminar() const { return QStringLiteral("Desea Eliminar ? "); }
     virtual void Borrar(double clave); // the row; with the cascade of the sheet
     virtual void DespuesDeBorrar() {}
@@ -75,57 +82,55 @@ protected:
     virtual void BuscarDato(int /*icono*/) {} // a search icon was pressed
 
     // For the sheet's constructor.
-    QWidget* CrearRejilla(QWidget* padre, int hoja = 0); // its fields and captions at the places of the table
-    QGridLayout* Rejilla() const { return m_rejilla; }   // of the one made last, for controls between them
-    void PonerIconoBusDato(int icono, int indiceCampo);  // the search icon beside a field
+    QVBoxLayout* Cuerpo() const { return m_cuerpo; } // above the commands
+    QWidget* CrearRejilla(QWidget* padre, int hoja = 0) { return m_hoja->CrearRejilla(padre, hoja); }
+    QGridLayout* Rejilla() const { return m_hoja->Rejilla(); }
+    void PonerIconoBusDato(int icono, int indiceCampo, const char* nombre); // the search icon beside a field
     BarraFicha& Barra() { return *m_barra; }
-    int AnchuraDe(const char* columna) const;   // most characters that the column takes; 0 no limit
     void TerminarConstruccion(QWidget* ultimo); // focus on the code; the buttons come after the last control
-    void Vigilar(QWidget* control);             // a change in it begins a modification
+    void Vigilar(QWidget* control) { m_hoja->Vigilar(control); }
 
     // For its hooks.
-    CampoTexto& Campo(int indice) const { return *m_campos.at(indice); }
-    CampoMemo& Memo(int indice) const { return *m_memos.at(indice); }
-    QComboBox& Combo(std::string_view nombre) const;
-    QString Texto(int indice) const { return QString::fromStdString(TextoStd(indice)); }
-    std::string TextoStd(int indice) const;
-    void Poner(int indice, const std::string& texto);
+    HojaDeCampos& Hoja() const { return *m_hoja; }
+    CampoTexto& Campo(int indice) const { return m_hoja->Campo(indice); }
+    CampoMemo& Memo(int indice) const { return m_hoja->Memo(indice); }
+    QComboBox& Combo(std::string_view nombre) const { return m_hoja->Combo(nombre); }
+    QString Texto(int indice) const { return m_hoja->Texto(indice); }
+    std::string TextoStd(int indice) const { return m_hoja->TextoStd(indice); }
+    void Poner(int indice, const std::string& texto) { m_hoja->Poner(indice, texto); }
     QString CodigoTecleado() const { return Texto(0); }
     Conexion& Base() const { return m_sesion.conexion; }
     Sesion& LaSesion() const { return m_sesion; }
-    bool Editando() const;
+    bool Editando() const { return m_modo == ModoFicha::Añadiendo || m_modo == ModoFicha::Modificando; }
     void EntrarEnModificar(); // as typing does
-    bool PermiteCargarOtro(); // asks before an edit or unsaved pages give way to another record
+    bool PermiteDejar(); // pages with something unsaved: saved or given up, as the user says; false to stay
+    bool PermiteCargarOtro(); // the same for the sheet's own edit and its pages
     void ReponerCodigo();     // the current key back into the code field
+    bool CodigoIntacto();     // false after its box, with the loaded code back in its field
     bool Rechazar(const QString& texto, QWidget* foco); // exclamation box "Atención"; always false
+    void MostrarError(const std::exception& error);
     void LimpiarCampos();
     void Vaciar(); // no record on the sheet
 
-    bool eventFilter(QObject* objeto, QEvent* evento) override;
-
 private:
     void ConectarBarra();
-    QWidget* CrearCampo(const CampoFicha& campo, QWidget* padre);
-    CampoTexto* CrearLinea(const CampoFicha& campo, QWidget* padre);
-    CampoMemo* CrearMemo(QWidget* padre);
-    QComboBox* CrearCombo(const ComboFicha& combo, QWidget* padre);
+    void ConectarHoja();
+    void PonerModo(ModoFicha modo);
+    bool CodigoConfirmado();
     void CodigoDejado();
-    void CampoDejado(QWidget& campo, Qt::FocusReason razon);
-    void PasarAlSiguiente();
-    bool Escribir(double codigo); // false when the code is taken
-    void EscribirCampos(Recordset& rs);
+    void CargarOtra(double clave);
+    bool PreguntarAntesDeDejar(const QString& donde, const PaginaPendiente& pagina);
+    bool Escribir(double codigo, std::exception_ptr& deHijos); // false when the code is taken
     std::string SentenciaDeClave(double clave) const;
-    void MostrarError(const std::exception& error);
 
     Sesion& m_sesion;
     const DefinicionFicha& m_definicion;
+    HojaDeCampos* m_hoja;
     BarraFicha* m_barra;
-    QGridLayout* m_rejilla = nullptr;
-    std::map<int, CampoTexto*> m_campos;
-    std::map<int, CampoMemo*> m_memos;
-    std::map<std::string, QComboBox*, std::less<>> m_combos;
+    QVBoxLayout* m_cuerpo;
     double m_clave = 0;
-    int m_accion = 0;
+    ModoFicha m_modo = ModoFicha::Vacia;
+    bool m_fallo = false; // the last save failed: what is on screen stands nowhere else
 };
 
 } // namespace pastorix

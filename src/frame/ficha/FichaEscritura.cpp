@@ -2,14 +2,13 @@
 #include "frame/ficha/Ficha.h"
 
 #include "frame/Mensajes.h"
-#include "frame/calendario/Calendario.h"
 #include "frame/calendario/Reloj.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
-#include "store/Textos.h"
 
-#include <QComboBox>
 #include <QPushButton>
+
+#include <exception>
 
 namespace pastorix {
 
@@ -43,18 +42,18 @@ void Ficha::GuardarLoCercano() {
 }
 
 std::string Ficha::SentenciaDeClave(double clave) const {
-    return std::string("Select * FROM ") + m_definicion.tabla + " WHERE " + m_definicion.columnaClave +
+    return std::string("Select * FROM ") + m_definicion.hoja.tabla + " WHERE " + m_definicion.columnaClave +
            " = " + NumeroSql(clave);
 }
 
 std::string Ficha::CodigoPropuesto() {
     const std::string clave = m_definicion.columnaClave;
     return TextoNumero(
-        SiguienteId(Base(), "SELECT " + clave + " FROM " + m_definicion.tabla + " ORDER BY " + clave));
+        SiguienteId(Base(), "SELECT " + clave + " FROM " + m_definicion.hoja.tabla + " ORDER BY " + clave));
 }
 
 void Ficha::AlAñadir() {
-    if (m_campos.contains(1))
+    if (m_hoja->Tiene(1))
         Campo(1).setFocus();
 }
 
@@ -63,8 +62,7 @@ void Ficha::Añadir() {
         if (!PermiteDejar() || !PermiteAñadir())
             return;
         const auto propuesto = CodigoPropuesto();
-        m_accion = 1;
-        m_barra->EstadoBotones(1);
+        PonerModo(ModoFicha::Añadiendo);
         LimpiarCampos();
         if (m_definicion.indiceFechaAlta >= 0)
             Poner(m_definicion.indiceFechaAlta, FormatoFecha(Hoy(), m_definicion.mascaraFechaAlta));
@@ -78,13 +76,8 @@ void Ficha::Añadir() {
 void Ficha::Modificar() {
     if (m_clave == 0 || !PermiteModificar())
         return;
-    m_accion = 2;
-    m_barra->EstadoBotones(2);
-    if (CodigoTecleado().toDouble() != m_clave) {
-        Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
-               QStringLiteral("El Código no se puede cambiar"));
-        ReponerCodigo();
-    }
+    PonerModo(ModoFicha::Modificando);
+    CodigoIntacto();
 }
 
 bool Ficha::ComprobarMinimos() {
@@ -101,33 +94,41 @@ void Ficha::Guardar() {
     try {
         if (auto* campo = focusWidget())
             AlDejar(*campo); // by a key: the field was not left
-        if (!ComprobarMinimos() || !Comprobar())
+        if (!Recoger() || !ComprobarMinimos())
             return;
-        m_barra->EstadoBotones(4);
-        if (m_accion == 2 && CodigoTecleado().toDouble() != m_clave) {
-            Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
-                   QStringLiteral("El Código no se puede cambiar"));
-            ReponerCodigo();
-        }
+        Completar();
+        if (!Comprobar())
+            return;
+        if (m_modo == ModoFicha::Modificando)
+            CodigoIntacto();
         const double codigo = CodigoTecleado().toDouble();
-        if (!EnGrupo(Base(), [&] { return Escribir(codigo); })) {
+        std::exception_ptr deHijos;
+        m_fallo = true; // until the commit is through
+        const bool escrito = EnGrupo(Base(), [&] { return Escribir(codigo, deHijos); });
+        m_fallo = deHijos != nullptr;
+        if (!escrito) {
             Avisar(this, TipoMensaje::Critico, QStringLiteral("Atención"),
                    QStringLiteral("Codigo no Valido, Cambielo por Otro"));
             Campo(0).setFocus();
             return;
         }
-        m_accion = 0;
+        m_clave = codigo;
+        if (deHijos) { // the record is there: saving again modifies it
+            m_modo = ModoFicha::Modificando;
+            std::rethrow_exception(deHijos);
+        }
+        PonerModo(ModoFicha::Mostrando);
+        m_hoja->DarPorGuardado();
         DespuesDeGuardar(codigo);
+        m_barra->Decir(QStringLiteral("Guardado ") + QString::fromStdString(FormatoFecha(Ahora(), "hh:nn")));
     } catch (const std::exception& e) {
-        // What was typed stays on the sheet, and the sheet stays in its edit; of a record that was written before a child table failed
-        // it is a modification.
-        MostrarError(e);
+        MostrarError(e); // what was typed stays on the sheet, and the sheet stays in its edit
     }
 }
 
-bool Ficha::Escribir(double codigo) {
+bool Ficha::Escribir(double codigo, std::exception_ptr& deHijos) {
     Recordset rs(Base(), SentenciaDeClave(codigo), Cursor::Dinamico);
-    if (m_accion == 1) {
+    if (m_modo == ModoFicha::Añadiendo) {
         if (!rs.Eof())
             return false;
         rs.AddNew();
@@ -137,42 +138,18 @@ bool Ficha::Escribir(double codigo) {
             CodigoError::SinFilaActual,
             "El registro ya no existe: otro proceso lo ha borrado. Lo escrito sigue en la ficha.");
     }
-    EscribirCampos(rs);
+    m_hoja->Escribir(rs);
     EscribirPropios(rs);
     rs.Update();
-    // Should a child table fail now, the record is there: saving again modifies it.
-    m_clave = codigo;
-    m_accion = 2;
-    EscribirHijos(codigo);
+    try {
+        EscribirHijos(codigo);
+    } catch (...) {
+        deHijos = std::current_exception();
+    }
     return true;
 }
 
-void Ficha::EscribirCampos(Recordset& rs) {
-    for (const auto& c : m_definicion.campos) {
-        if (!c.columna || c.clase == ClaseCampo::Codigo)
-            continue;
-        const auto texto = TextoStd(c.indice);
-        const bool esFecha = c.clase == ClaseCampo::Fecha;
-        const bool esNumero = c.clase == ClaseCampo::Decimal || c.clase == ClaseCampo::ConSigno ||
-                              c.clase == ClaseCampo::Numero;
-        // A number or date that reads as it was shown stays as it is: the sheet shows no more than 15 digits and two of the year.
-        if ((esFecha || esNumero) && !texto.empty() && texto == rs[c.columna].Texto())
-            continue;
-        if (texto.empty() ? !esFecha : !esFecha || EsFechaValida(texto))
-            rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
-        else if (c.vaciaSinFecha)
-            rs[c.columna] = Valor();
-    }
-    for (const auto& c : m_definicion.combos) {
-        const auto texto = Combo(c.nombre).currentText().toStdString();
-        if (texto.empty() || !IgualSinCaso(texto, rs[c.columna].Texto()))
-            rs[c.columna] = texto.empty() ? Valor() : Valor(texto);
-    }
-}
-
-void Ficha::DespuesDeGuardar(double) {
-    m_barra->EstadoBotones(6);
-}
+void Ficha::DespuesDeGuardar(double) {}
 
 void Ficha::Eliminar() {
     ReponerCodigo(); // a code typed and not entered is not what is deleted

@@ -14,6 +14,19 @@
 
 namespace pastorix {
 
+namespace {
+
+// A typed date as the grids show it, dd/mm/yy; one of another century keeps its four figures, and what is no date stays as it is.
+std::string FechaCorta(const std::string& texto) {
+    const auto fecha = EsFechaValida(texto) ? FechaDeTexto(texto) : std::nullopt;
+    if (!fecha)
+        return texto;
+    const auto corta = FormatoFecha(*fecha, "dd/mm/yy");
+    return FechaDeTexto(corta) == fecha ? corta : FormatoFecha(*fecha, "dd/mm/yyyy");
+}
+
+} // namespace
+
 void LineasEditables::Mostrar(std::vector<Linea> lineas) {
     m_lineas = std::move(lineas);
     m_fila = -1;
@@ -28,6 +41,28 @@ void LineasEditables::FijarLista(std::size_t columna, const QStringList& valores
             e.Listar(valores);
             e.Poner(antes);
         }
+}
+
+const EntradaDeLinea* LineasEditables::Entrada(std::size_t columna) const {
+    const auto it = std::find_if(m_entradas.begin(), m_entradas.end(),
+                                 [&](const auto& e) { return e.Columna() == columna; });
+    return it == m_entradas.end() ? nullptr : &*it;
+}
+
+QString LineasEditables::EnCampo(std::size_t columna) const {
+    const auto* entrada = Entrada(columna);
+    return entrada ? entrada->Leer() : QString();
+}
+
+void LineasEditables::PonerEnCampo(std::size_t columna, const QString& texto) {
+    for (auto& e : m_entradas)
+        if (e.Columna() == columna)
+            e.Poner(texto);
+}
+
+QWidget* LineasEditables::Control(std::size_t columna) const {
+    const auto* entrada = Entrada(columna);
+    return entrada ? entrada->Control() : nullptr;
 }
 
 void LineasEditables::Permitir(bool si) {
@@ -81,7 +116,15 @@ void LineasEditables::Elegir(int fila) {
     m_fila = hay ? fila : -1;
     for (auto& e : m_entradas)
         e.Poner(Celda(m_fila, e.Columna()));
+    Ofrecer();
     Rotular();
+}
+
+// What stands in the fields now was not typed.
+void LineasEditables::Ofrecer() {
+    m_ofrecido.clear();
+    for (const auto& e : m_entradas)
+        m_ofrecido << e.Leer();
 }
 
 // Another line is asked for. What stands in the fields goes into the list first, or is given up, as the user says.
@@ -130,6 +173,7 @@ void LineasEditables::LimpiarEntradas() {
     m_fila = -1;
     for (auto& e : m_entradas)
         e.Poner({});
+    Ofrecer();
     Rotular();
 }
 
@@ -142,14 +186,22 @@ void LineasEditables::Rotular() {
 }
 
 QString LineasEditables::AñoDe(const Linea& linea) const {
-    if (m_definicion.columnaAño < 0)
+    const int nombre = m_definicion.columnaAño < 0 ? m_definicion.columnaNombre : m_definicion.columnaAño;
+    if (nombre < 0)
         return QString::number(&linea - m_lineas.data() + 1);
-    return QString::fromStdString(linea.celdas[static_cast<std::size_t>(m_definicion.columnaAño)]);
+    return QString::fromStdString(linea.celdas[static_cast<std::size_t>(nombre)]);
 }
 
 bool LineasEditables::EnCurso() const {
-    return std::any_of(m_entradas.begin(), m_entradas.end(),
-                       [this](const auto& e) { return e.Leer() != Celda(m_fila, e.Columna()); });
+    for (std::size_t i = 0; i < m_entradas.size(); ++i)
+        if (m_entradas[i].Leer() != m_ofrecido.value(static_cast<qsizetype>(i)))
+            return true;
+    return false;
+}
+
+bool LineasEditables::EnBlanco() const {
+    return std::all_of(m_entradas.begin(), m_entradas.end(),
+                       [](const auto& e) { return e.Leer().isEmpty(); });
 }
 
 void LineasEditables::Nueva() {
@@ -160,6 +212,10 @@ void LineasEditables::Nueva() {
     m_rejilla->clearSelection();
     LimpiarEntradas();
     m_entradas.front().Control()->setFocus();
+    if (alProponer) {
+        alProponer();
+        Ofrecer();
+    }
 }
 
 void LineasEditables::Abandonar() {
@@ -218,11 +274,13 @@ bool LineasEditables::Valida(const Linea& linea) {
 
 // What the database would refuse is refused here, while it can be mended; a cell that nobody touched is nobody's fault.
 bool LineasEditables::ValidaCeldas(const Linea& linea) {
+    if (m_definicion.tecleadoVale)
+        return true;
     for (const auto& e : m_entradas) {
         const auto& celda = linea.celdas[e.Columna()];
         const auto clase = m_definicion.columnas[e.Columna()].clase;
         if (celda.empty() || e.Combo() ||
-            (e.Columna() < linea.leidos.size() && TextoDe(linea.leidos[e.Columna()]) == celda))
+            (e.Columna() < linea.leidos.size() && Intacto(linea.leidos[e.Columna()], celda)))
             continue;
         const bool fecha = clase == ClaseCampo::Fecha;
         double n = 0;
@@ -245,28 +303,39 @@ Linea LineasEditables::Escrita() const {
     else
         linea.celdas.resize(m_definicion.columnas.size());
     for (const auto& e : m_entradas)
-        if (const auto texto = e.Leer(); texto != Celda(m_fila, e.Columna()))
-            linea.celdas[e.Columna()] = texto.trimmed().toStdString();
+        if (const auto texto = e.Leer(); texto != Celda(m_fila, e.Columna())) {
+            const auto celda = texto.trimmed().toStdString();
+            const bool fecha = m_definicion.columnas[e.Columna()].clase == ClaseCampo::Fecha;
+            linea.celdas[e.Columna()] = fecha ? FechaCorta(celda) : celda;
+        }
     return linea;
 }
 
+// A new line goes behind the others, or over the last one where there is no room for more; a line emptied of everything goes.
+void LineasEditables::Colocar(Linea linea) {
+    const bool llena = m_definicion.limite > 0 && static_cast<int>(m_lineas.size()) >= m_definicion.limite;
+    const bool vacia = m_definicion.columnaAño < 0 && std::all_of(linea.celdas.begin(), linea.celdas.end(),
+                                                                  [](const auto& c) { return c.empty(); });
+    if (m_fila < 0 && llena)
+        m_lineas.back() = std::move(linea);
+    else if (m_fila < 0)
+        m_lineas.push_back(std::move(linea));
+    else if (vacia)
+        m_lineas.erase(m_lineas.begin() + m_fila);
+    else
+        m_lineas[static_cast<std::size_t>(m_fila)] = std::move(linea);
+    Ordenar();
+}
+
 void LineasEditables::Confirmar() {
-    if (m_fila < 0 && (!m_definicion.conAltas || (m_definicion.columnaAño < 0 && !EnCurso())))
+    if (m_fila < 0 && (!m_definicion.conAltas || (m_definicion.columnaAño < 0 && EnBlanco())))
         return;
     auto linea = Escrita();
     if (!Valida(linea))
         return;
     const auto puesta = linea.celdas;
     const bool nueva = m_fila < 0;
-    const bool vaciada = m_definicion.columnaAño < 0 &&
-                         std::all_of(puesta.begin(), puesta.end(), [](const auto& c) { return c.empty(); });
-    if (nueva)
-        m_lineas.push_back(std::move(linea));
-    else if (vaciada)
-        m_lineas.erase(m_lineas.begin() + m_fila);
-    else
-        m_lineas[static_cast<std::size_t>(m_fila)] = std::move(linea);
-    Ordenar();
+    Colocar(std::move(linea));
     m_fila = -1;
     Pintar();
     const auto it =
@@ -277,7 +346,8 @@ void LineasEditables::Confirmar() {
     if (alCambiar)
         alCambiar();
     // On to the next one: a new line after a new line, the grid after a changed one.
-    (nueva ? m_entradas.front().Control() : static_cast<QWidget*>(m_rejilla))->setFocus();
+    (nueva && !m_definicion.introAcepta ? m_entradas.front().Control() : static_cast<QWidget*>(m_rejilla))
+        ->setFocus();
 }
 
 void LineasEditables::Ordenar() {

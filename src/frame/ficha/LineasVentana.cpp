@@ -32,24 +32,33 @@ LineasEditables::LineasEditables(const DefinicionLineas& definicion, QWidget* pa
 
 void LineasEditables::CrearRejilla() {
     QStringList titulos;
-    for (const auto& c : m_definicion.columnas)
+    for (const auto& c : m_definicion.aspectos)
         titulos << QString::fromUtf8(c.titulo);
     m_rejilla->setObjectName(QString::fromUtf8(m_definicion.rejilla));
     m_rejilla->setAccessibleName(QString::fromUtf8(m_definicion.nombre));
     m_rejilla->setHorizontalHeaderLabels(titulos);
     const auto& metrica = m_rejilla->fontMetrics();
     for (int i = 0; i < m_rejilla->columnCount(); ++i) {
-        const auto& c = m_definicion.columnas[static_cast<std::size_t>(i)];
+        const auto& c = m_definicion.aspectos[static_cast<std::size_t>(i)];
         m_rejilla->setColumnWidth(i, std::max(metrica.averageCharWidth() * (c.caracteres + 2) + 8,
                                               metrica.horizontalAdvance(titulos[i]) + 16));
+        m_rejilla->setColumnHidden(i, c.caracteres == 0);
+        m_rejilla->horizontalHeaderItem(i)->setToolTip(QString::fromUtf8(c.explicacion));
     }
     VestirTabla(*m_rejilla);
     m_rejilla->installEventFilter(this);
-    connect(m_rejilla, &QTableWidget::currentCellChanged, this, [this](int fila, int, int antes, int) {
-        if (fila != antes)
-            Pasar(fila);
-    });
-    connect(m_rejilla, &QTableWidget::cellClicked, this, [this](int fila, int) { Pasar(fila); });
+    if (m_definicion.clicSoloLimpia) {
+        connect(m_rejilla, &QTableWidget::cellClicked, this, [this] {
+            if (Resolver())
+                Abandonar();
+        });
+    } else {
+        connect(m_rejilla, &QTableWidget::currentCellChanged, this, [this](int fila, int, int antes, int) {
+            if (fila != antes)
+                Pasar(fila);
+        });
+        connect(m_rejilla, &QTableWidget::cellClicked, this, [this](int fila, int) { Pasar(fila); });
+    }
     connect(m_rejilla, &QTableWidget::cellDoubleClicked, this,
             [this](int, int) { TeclaDeRejilla(Qt::Key_Return); });
 }
@@ -57,11 +66,13 @@ void LineasEditables::CrearRejilla() {
 void LineasEditables::CrearFranja() {
     auto* franja = new QHBoxLayout;
     for (std::size_t i = 0; i < m_definicion.columnas.size(); ++i) {
-        if (!m_definicion.columnas[i].control)
+        const auto& aspecto = m_definicion.aspectos[i];
+        if (!aspecto.control)
             continue;
-        auto* rotulo = new QLabel(QString::fromUtf8(m_definicion.columnas[i].titulo), this);
+        auto* rotulo = new QLabel(QString::fromUtf8(aspecto.titulo), this);
         auto* control = CrearEntrada(i);
         rotulo->setBuddy(control);
+        rotulo->setVisible(aspecto.caracteres > 0);
         auto* pareja = new QVBoxLayout;
         pareja->setSpacing(1);
         pareja->addWidget(rotulo);
@@ -75,15 +86,21 @@ void LineasEditables::CrearFranja() {
 
 QWidget* LineasEditables::CrearEntrada(std::size_t columna) {
     const bool esAño = static_cast<int>(columna) == m_definicion.columnaAño;
-    const auto& entrada = m_entradas.emplace_back(m_definicion.columnas[columna], columna, esAño, this);
-    const auto tecleado = [this] {
+    const auto& entrada = m_entradas.emplace_back(m_definicion.columnas[columna],
+                                                  m_definicion.aspectos[columna], columna, esAño, this);
+    const auto tecleado = [this, columna] {
+        if (alEntrar)
+            alEntrar(columna);
         if (alTeclear)
             alTeclear();
     };
-    if (entrada.Combo())
+    if (entrada.Combo()) {
         connect(entrada.Combo(), &QComboBox::activated, this, tecleado);
-    else
+        if (entrada.Combo()->isEditable())
+            connect(entrada.Combo()->lineEdit(), &QLineEdit::textEdited, this, tecleado);
+    } else {
         connect(entrada.Texto(), &QLineEdit::textEdited, this, tecleado);
+    }
     entrada.Control()->installEventFilter(this);
     return entrada.Control();
 }
@@ -100,8 +117,7 @@ QLayout* LineasEditables::CrearMandos() {
         connect(b, &QToolButton::clicked, this, [this, orden] { (this->*orden)(); });
         return b;
     };
-    m_estado = new QLabel(this);
-    m_estado->setEnabled(false);
+    m_estado = Explicacion({}, this);
     const bool altas = m_definicion.conAltas;
     m_poner =
         boton("aceptar", QStringLiteral("Poner en la lista (Intro)"), true, &LineasEditables::Confirmar);
@@ -149,7 +165,7 @@ bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
     switch (tecla) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (objeto == m_entradas.back().Control()) {
+        if (m_definicion.introAcepta || objeto == m_entradas.back().Control()) {
             Confirmar();
         } else {
             const auto it = std::find_if(m_entradas.begin(), m_entradas.end(),

@@ -58,11 +58,20 @@ void RejillaHijos::Llenar(std::vector<std::vector<Valor>> filas) {
                 setItem(f, i, celda);
             }
         if (rowCount() > 0)
-            setCurrentCell(0, 0); // screen readers need a current cell
+            setCurrentCell(
+                0,
+                PrimeraVisible()); // screen readers need a current cell, and the arrows one that is in sight
     }
     clearSelection();
     if (alCambiarSeleccion)
         alCambiarSeleccion();
+}
+
+int RejillaHijos::PrimeraVisible() const {
+    int i = 0;
+    while (i + 1 < columnCount() && isColumnHidden(i))
+        ++i;
+    return i;
 }
 
 void RejillaHijos::Vaciar() {

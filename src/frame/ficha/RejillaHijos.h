@@ -44,6 +44,8 @@ protected:
     void focusInEvent(QFocusEvent* evento) override; // by key: the current row is chosen
 
 private:
+    int PrimeraVisible() const;
+
     std::span<const ColumnaHijos> m_columnas;
     std::vector<std::vector<Valor>> m_valores;
 };

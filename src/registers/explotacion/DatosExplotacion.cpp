@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace pastorix {
 
 DatosExplotacion::DatosExplotacion(Conexion& base)
@@ -18,7 +20,7 @@ PaginaMateria* DatosExplotacion::Poner(PaginaMateria* pagina) {
 }
 
 QWidget* DatosExplotacion::CrearIPR(QWidget* padre) {
-    return Poner(new PaginaMateria(m_base, kMateriaIPR, padre));
+    return Poner(new PaginaMateria(m_base, kHojaIPR, padre));
 }
 
 QWidget* DatosExplotacion::CrearManejo(QWidget* padre) {
@@ -26,17 +28,17 @@ QWidget* DatosExplotacion::CrearManejo(QWidget* padre) {
     const auto materia = [&](const DefinicionMateria& m) {
         return Poner(new PaginaMateria(m_base, m, tira));
     };
-    tira->Añadir("invierno", QStringLiteral("Alimentación Invernal"), materia(kMateriaAlimentacion));
+    tira->Añadir("invierno", QStringLiteral("Alimentación Invernal"), materia(kHojaAlimentacion));
 
     auto* vacunas = new QWidget(tira);
     auto* columna = new QVBoxLayout(vacunas);
     columna->setContentsMargins(0, 0, 0, 0);
-    columna->addWidget(materia(kMateriaVacunaciones), 3);
+    columna->addWidget(materia(kHojaVacunaciones), 3);
     const auto* estilo = vacunas->style();
-    auto* fechas = new QGroupBox(QString::fromUtf8(kMateriaFechasVacu.nombre), vacunas);
+    auto* fechas = new QGroupBox(QString::fromUtf8(kHojaFechasVacu.nombre), vacunas);
     auto* dentro = new QVBoxLayout(fechas);
     dentro->setContentsMargins(0, 0, 0, 0);
-    dentro->addWidget(materia(kMateriaFechasVacu));
+    dentro->addWidget(materia(kHojaFechasVacu));
     auto* margen = new QHBoxLayout;
     margen->addSpacing(estilo->pixelMetric(QStyle::PM_LayoutLeftMargin));
     margen->addWidget(fechas);
@@ -44,9 +46,9 @@ QWidget* DatosExplotacion::CrearManejo(QWidget* padre) {
     columna->addLayout(margen, 2);
     tira->Añadir("vacunas", QStringLiteral("Vac&unaciones"), vacunas);
 
-    tira->Añadir("abonado", QStringLiteral("Abon. &y Superf."), materia(kMateriaSuperficie));
+    tira->Añadir("abonado", QStringLiteral("Abon. &y Superf."), materia(kHojaSuperficie));
     tira->Añadir("sistema", QStringLiteral("Sistema de Producción"), Poner(new PaginaSistema(m_base, tira)));
-    tira->Añadir("pastos", QStringLiteral("Pastos Comunales"), materia(kMateriaPastos));
+    tira->Añadir("pastos", QStringLiteral("Pastos Comunales"), materia(kHojaPastos));
     return tira;
 }
 
@@ -55,18 +57,11 @@ void DatosExplotacion::FijarGanadero(double idGanadero) {
         pagina->FijarGanadero(idGanadero);
 }
 
-QStringList DatosExplotacion::Pendientes() const {
-    QStringList nombres;
-    for (const auto* pagina : m_paginas)
-        if (pagina->Pendiente())
-            nombres << QString::fromUtf8(pagina->Materia().nombre);
-    return nombres;
-}
-
-void DatosExplotacion::Cancelar() {
-    for (auto* pagina : m_paginas)
-        if (pagina->Pendiente())
-            pagina->Cancelar();
+std::vector<PaginaMateria*> DatosExplotacion::Pendientes() const {
+    std::vector<PaginaMateria*> pendientes;
+    std::copy_if(m_paginas.begin(), m_paginas.end(), std::back_inserter(pendientes),
+                 [](const auto* pagina) { return pagina->Pendiente(); });
+    return pendientes;
 }
 
 } // namespace pastorix

@@ -2,8 +2,6 @@
 
 #include "store/Conexion.h"
 
-#include <QStringList>
-
 #include <vector>
 
 class QWidget;
@@ -20,9 +18,8 @@ public:
     QWidget* CrearIPR(QWidget* padre);    // tab of the reproductive period
     QWidget* CrearManejo(QWidget* padre); // tab with the sub-sheets of management
 
-    void FijarGanadero(double idGanadero); // 0 for nobody
-    QStringList Pendientes() const;        // names of the subjects with something typed and not saved
-    void Cancelar();                       // forgets all of it
+    void FijarGanadero(double idGanadero);          // 0 for nobody
+    std::vector<PaginaMateria*> Pendientes() const; // with something typed and not saved
 
 private:
     PaginaMateria* Poner(PaginaMateria* pagina);

@@ -3,6 +3,7 @@
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
 #include "frame/ficha/CampoMemo.h"
+#include "frame/ficha/CampoTexto.h"
 #include "frame/ficha/Ficha.h"
 #include "store/Catalogo.h"
 
@@ -12,43 +13,43 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <functional>
+
 namespace pastorix {
 
-PaginaMateria::PaginaMateria(Conexion& base, const DefinicionMateria& materia, QWidget* padre)
+PaginaMateria::PaginaMateria(Conexion& base, const DefinicionMateria& hoja, QWidget* padre)
     : QWidget(padre)
     , m_base(base)
-    , m_materia(materia)
-    , m_lineas(new LineasEditables(materia.lineas, this)) {
+    , m_hoja(hoja)
+    , m_lineas(new LineasEditables(hoja.lineas, this)) {
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(m_lineas, 1);
     setFocusProxy(m_lineas);
     m_lineas->alCambiar = [this] { GuardarTodo(); };
-    PonerAnchuras();
     VigilarEntradas();
-    if (materia.columnaNota)
+    if (hoja.materia.columnaNota)
         CrearNota();
     FijarGanadero(0);
 }
 
 void PaginaMateria::CrearNota() {
     m_nota = new CampoMemo(this);
-    m_nota->setObjectName(QString::fromUtf8(m_materia.campoNota));
+    m_nota->setObjectName(QString::fromUtf8(m_hoja.campoNota));
     m_nota->setAccessibleName(QStringLiteral("Observaciones"));
     m_nota->setMaximumHeight(m_nota->sizeHint().height());
     auto* rotulo = new QLabel(QStringLiteral("Observaciones"), this);
     rotulo->setBuddy(m_nota);
     const auto boton = [this](const char* nombre, const char* icono, const QString& texto,
-                              void (PaginaMateria::*orden)()) {
+                              std::function<void()> orden) {
         auto* b = new QPushButton(Icono(icono), texto, this);
         b->setObjectName(QString::fromUtf8(nombre));
         b->setAutoDefault(false); // Enter belongs to the fields
-        connect(b, &QPushButton::clicked, this, [this, orden] { (this->*orden)(); });
+        connect(b, &QPushButton::clicked, this, std::move(orden));
         return b;
     };
-    m_guardar = boton(m_materia.botonGuardar, "guardar", QStringLiteral("Guardar"), &PaginaMateria::Guardar);
+    m_guardar = boton(m_hoja.botonGuardar, "guardar", QStringLiteral("Guardar"), [this] { Guardar(); });
     MarcarGuardarDePagina(*m_guardar);
-    m_cancelar =
-        boton(m_materia.botonCancelar, "cancelar", QStringLiteral("Cancelar"), &PaginaMateria::Cancelar);
+    m_cancelar = boton(m_hoja.botonCancelar, "cancelar", QStringLiteral("Cancelar"), [this] { Cancelar(); });
     connect(m_nota, &QPlainTextEdit::modificationChanged, this, [this] { EstadoBotones(); });
     auto* botones = new QVBoxLayout;
     botones->addWidget(m_guardar);
@@ -62,28 +63,21 @@ void PaginaMateria::CrearNota() {
     todo->addLayout(fila);
 }
 
-// A text that its column does not take must not get as far as a save, which deletes before it writes.
-void PaginaMateria::PonerAnchuras() {
-    const auto* tabla = CatalogoCanonico(ClaseDeBase::Principal).Buscar(m_materia.tabla);
-    for (const auto& c : m_materia.lineas.columnas) {
-        if (!c.control || !c.columna || c.clase != ClaseCampo::Texto)
-            continue;
-        const int lugar = tabla->Buscar(c.columna);
-        auto* campo = m_lineas->findChild<QLineEdit*>(QString::fromUtf8(c.control));
-        if (campo && lugar >= 0 && tabla->columnas[static_cast<std::size_t>(lugar)].anchura > 0)
-            campo->setMaxLength(tabla->columnas[static_cast<std::size_t>(lugar)].anchura);
-    }
-}
-
+// A text that its column does not take must not get as far as a save: its field takes no more.
 void PaginaMateria::VigilarEntradas() {
-    for (const auto& c : m_materia.lineas.columnas) {
-        if (!c.control)
-            continue;
-        const auto nombre = QString::fromUtf8(c.control);
-        if (auto* campo = m_lineas->findChild<QLineEdit*>(nombre))
-            connect(campo, &QLineEdit::textChanged, this, [this] { EstadoBotones(); });
-        if (auto* combo = m_lineas->findChild<QComboBox*>(nombre))
+    const auto* tabla = CatalogoCanonico(ClaseDeBase::Principal).Buscar(m_hoja.materia.tabla);
+    const auto& columnas = m_hoja.materia.columnas;
+    for (std::size_t i = 0; i < columnas.size(); ++i) {
+        auto* control = m_lineas->Control(i);
+        if (auto* combo = qobject_cast<QComboBox*>(control)) {
             connect(combo, &QComboBox::currentIndexChanged, this, [this] { EstadoBotones(); });
+        } else if (auto* campo = qobject_cast<QLineEdit*>(control)) {
+            connect(campo, &QLineEdit::textChanged, this, [this] { EstadoBotones(); });
+            const int lugar = tabla->Buscar(columnas[i].columna);
+            if (columnas[i].clase == ClaseCampo::Texto && lugar >= 0)
+                static_cast<CampoTexto*>(campo)->FijarAnchura(
+                    tabla->columnas[static_cast<std::size_t>(lugar)].anchura);
+        }
     }
 }
 
@@ -105,7 +99,7 @@ void PaginaMateria::showEvent(QShowEvent* evento) {
 }
 
 DatosMateria PaginaMateria::Leer() {
-    return LeerMateria(m_base, m_materia, m_ganadero);
+    return LeerMateria(m_base, m_hoja.materia, m_ganadero);
 }
 
 void PaginaMateria::Cargar() {
@@ -115,7 +109,7 @@ void PaginaMateria::Cargar() {
         datos = Leer();
         m_leida = true;
     } catch (const std::exception& e) {
-        Avisar(e);
+        AvisarError(this, e);
     }
     Mostrar(std::move(datos));
 }
@@ -147,11 +141,12 @@ std::string PaginaMateria::Nota() const {
     return m_nota ? m_nota->Texto() : std::string();
 }
 
-void PaginaMateria::Guardar() {
+bool PaginaMateria::Guardar() {
     if (!m_lineas->EnCurso())
         GuardarTodo();
     else
         m_lineas->Confirmar(); // which saves, unless the line is refused
+    return !Pendiente();
 }
 
 void PaginaMateria::GuardarTodo() {
@@ -160,24 +155,20 @@ void PaginaMateria::GuardarTodo() {
     try {
         m_porGuardar = true;
         const auto nota = Nota();
-        GuardarMateria(m_base, m_materia, m_ganadero, m_lineas->Lineas(), m_ocultas, nota);
+        GuardarMateria(m_base, m_hoja.materia, m_ganadero, PorGuardar(), m_ocultas, nota);
         m_porGuardar = false;
         if (m_nota && m_nota->Cambiado())
             m_nota->Poner(nota);
         DespuesDeGuardar();
     } catch (const std::exception& e) {
-        Avisar(e); // the grid keeps its lines, so that saving again completes what is missing
+        AvisarError(this,
+                    e); // the rows are as they were, and the grid keeps its lines: they can be saved again
     }
     EstadoBotones();
 }
 
 void PaginaMateria::Cancelar() {
     Cargar();
-}
-
-void PaginaMateria::Avisar(const std::exception& error) {
-    pastorix::Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
-                     QString::fromUtf8(error.what()));
 }
 
 } // namespace pastorix

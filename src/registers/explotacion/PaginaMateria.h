@@ -1,6 +1,6 @@
 #pragma once
 
-#include "registers/explotacion/Materia.h"
+#include "registers/explotacion/Materias.h"
 
 #include <QWidget>
 
@@ -15,18 +15,20 @@ class CampoMemo;
 // is saved the moment it goes into the grid or leaves it, and the note goes with it. The rows are read when the page comes up.
 class PaginaMateria : public QWidget {
 public:
-    PaginaMateria(Conexion& base, const DefinicionMateria& materia, QWidget* padre = nullptr);
+    PaginaMateria(Conexion& base, const DefinicionMateria& hoja, QWidget* padre = nullptr);
 
     // Whose rows to show; 0 nobody's. What was typed for the same farmer and not saved stays.
     void FijarGanadero(double idGanadero);
     bool Pendiente() const; // typed and not in the database
-    const DefinicionMateria& Materia() const { return m_materia; }
+    const DefinicionMateria& Hoja() const { return m_hoja; }
 
-    void Guardar();  // the line in progress too, as Enter in its last field would
+    bool
+    Guardar(); // the line in progress too, as Enter in its last field would; false when something is still not saved
     void Cancelar(); // rows and note as they are in the database
 
 protected:
     virtual DatosMateria Leer();
+    virtual std::vector<Linea> PorGuardar() const { return m_lineas->Lineas(); }
     virtual void DespuesDeGuardar() {}
     void showEvent(QShowEvent* evento) override;
 
@@ -39,16 +41,14 @@ protected:
 
 private:
     void CrearNota();
-    void PonerAnchuras();
     void VigilarEntradas();
     void Mostrar(DatosMateria datos);
     void GuardarTodo();
     void EstadoBotones();
     std::string Nota() const;
-    void Avisar(const std::exception& error);
 
     Conexion& m_base;
-    const DefinicionMateria& m_materia;
+    const DefinicionMateria& m_hoja;
     LineasEditables* m_lineas;
     CampoMemo* m_nota = nullptr;
     QPushButton* m_guardar = nullptr;
@@ -56,7 +56,7 @@ private:
     std::vector<Linea> m_ocultas;
     double m_ganadero = 0;
     bool m_leida = false;      // the grid holds this farmer's rows; without that nothing may be written
-    bool m_porGuardar = false; // the last save failed half way
+    bool m_porGuardar = false; // the last save failed
 };
 
 } // namespace pastorix

@@ -2,7 +2,8 @@
 
 #include "frame/Ciclo.h"
 #include "frame/Mensajes.h"
-#include "registers/explotacion/Resumen.h"
+#include "frame/ficha/Aspecto.h"
+#include "registers/datos/Resumen.h"
 
 #include <QLabel>
 #include <QShowEvent>
@@ -13,13 +14,13 @@
 namespace pastorix {
 
 PaginaSistema::PaginaSistema(Conexion& base, QWidget* padre)
-    : PaginaMateria(base, kMateriaSistema, padre) {
-    auto* aviso = new QLabel(QStringLiteral("(Las cifras se calculan al abrir esta hoja, para los años que "
-                                            "tienen línea en Inicio Periodo Reproductivo)"),
-                             this);
-    aviso->setEnabled(false);
+    : PaginaMateria(base, kHojaSistema, padre) {
+    auto* aviso = Explicacion(QStringLiteral("(Las cifras se calculan al abrir esta hoja, para los años que "
+                                             "tienen línea en Inicio Periodo Reproductivo)"),
+                              this);
     aviso->setWordWrap(true);
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, aviso);
+    Rejilla().alQuitar = [this](const Linea& linea) { m_quitado = linea.celdas[0]; };
     Rejilla().comprobar = [this](const Linea& linea) { return ComprobarAño(linea); };
 }
 
@@ -30,12 +31,13 @@ bool PaginaSistema::ComprobarAño(const Linea& linea) {
                      [&](const Linea& oculta) { return oculta.celdas[0] == linea.celdas[0]; }))
         return true;
     pastorix::Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
-                     QString::fromUtf8(Materia().lineas.repetido) + QString::fromStdString(linea.celdas[0]));
+                     QString::fromUtf8(Hoja().lineas.repetido) + QString::fromStdString(linea.celdas[0]));
     return false;
 }
 
 // The figures beside a type are those of its year: they are worked out again, and a year without any goes out of sight.
 void PaginaSistema::DespuesDeGuardar() {
+    m_quitado.reset();
     const auto antes = Ocultas().size();
     Cargar();
     if (Ocultas().size() > antes)
@@ -47,7 +49,7 @@ void PaginaSistema::DespuesDeGuardar() {
 }
 
 DatosMateria PaginaSistema::Leer() {
-    auto datos = LeerMateria(Base(), Materia(), Ganadero());
+    auto datos = LeerMateria(Base(), Hoja().materia, Ganadero());
     auto guardadas = std::move(datos.lineas);
     datos.lineas.clear();
     CicloTardio ciclo(window(), QStringLiteral("Obteniendo Información..."));
@@ -57,8 +59,13 @@ DatosMateria PaginaSistema::Leer() {
     };
     for (const auto& año : LeerResumen(Base(), Ganadero(), avance)) {
         const auto celdas = año.Celdas();
-        if (!datos.lineas.empty() && datos.lineas.back().celdas[0] == año.año)
-            continue; // the year's second row there; here a year has one type
+        const bool repetido = !datos.lineas.empty() && datos.lineas.back().celdas[0] == año.año;
+        if (repetido) { // the year's second row there: its figures once more, with the one type that a year has
+            auto otra = datos.lineas.back();
+            otra.celdas.assign(celdas.begin(), celdas.end());
+            datos.lineas.push_back(std::move(otra));
+            continue;
+        }
         const auto suya = std::find_if(guardadas.begin(), guardadas.end(),
                                        [&](const Linea& l) { return l.celdas[0] == año.año; });
         Linea linea;
@@ -71,6 +78,20 @@ DatosMateria PaginaSistema::Leer() {
     }
     std::move(guardadas.begin(), guardadas.end(), std::back_inserter(datos.ocultas));
     return datos;
+}
+
+// A year has one type, whichever of its lines it was entered in or removed from.
+std::vector<Linea> PaginaSistema::PorGuardar() const {
+    std::vector<Linea> lineas;
+    for (const auto& linea : Rejilla().Lineas()) {
+        if (linea.celdas[0] == m_quitado)
+            continue;
+        if (lineas.empty() || lineas.back().celdas[0] != linea.celdas[0])
+            lineas.push_back(linea);
+        else if (!Intacto(linea.leidos.empty() ? Valor() : linea.leidos.back(), linea.celdas.back()))
+            lineas.back() = linea;
+    }
+    return lineas;
 }
 
 void PaginaSistema::showEvent(QShowEvent* evento) {

@@ -5,6 +5,7 @@
 #include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoMemo.h"
 #include "frame/ficha/Ficha.h"
+#include "registers/datos/FechasVacu.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -81,21 +82,20 @@ QWidget* PaginaAsunto::CrearPie() {
     rotulo->setBuddy(m_observacion);
     fila->addWidget(rotulo, 0, Qt::AlignTop);
     fila->addWidget(m_observacion, 1);
-    m_aviso = new QLabel(QStringLiteral("Sin cubriciones: lo que se anote aquí no se guarda"), pie);
-    m_aviso->setEnabled(false);
+    m_aviso = Explicacion(QStringLiteral("Sin cubriciones: lo que se anote aquí no se guarda"), pie);
     fila->addWidget(m_aviso);
     const auto boton = [&](const char* nombre, const char* texto, const char* icono,
-                           void (PaginaAsunto::*orden)()) {
+                           std::function<void()> orden) {
         auto* b = new QPushButton(Icono(icono), QString::fromUtf8(texto) + Titulo(), pie);
         b->setObjectName(QString::fromUtf8(nombre));
         b->setAutoDefault(false); // Enter belongs to the fields
-        connect(b, &QPushButton::clicked, this, [this, orden] { (this->*orden)(); });
+        connect(b, &QPushButton::clicked, this, std::move(orden));
         fila->addWidget(b, 0, Qt::AlignBottom);
         return b;
     };
-    m_guardar = boton(m_definicion.guardar, "Guardar ", "guardar", &PaginaAsunto::Guardar);
+    m_guardar = boton(m_definicion.guardar, "Guardar ", "guardar", [this] { Guardar(); });
     MarcarGuardarDePagina(*m_guardar);
-    m_cancelar = boton(m_definicion.cancelar, "Cancelar ", "cancelar", &PaginaAsunto::Cancelar);
+    m_cancelar = boton(m_definicion.cancelar, "Cancelar ", "cancelar", [this] { Cancelar(); });
     return pie;
 }
 
@@ -179,14 +179,15 @@ Valor PaginaAsunto::Observacion() const {
     return texto.empty() ? Valor() : Valor(texto);
 }
 
-void PaginaAsunto::Guardar() {
+bool PaginaAsunto::Guardar() {
     if (!Recoger())
-        return;
+        return false;
     const DatosSanidad datos{m_naturales->Lineas(), m_ciclos->Lineas(), Observacion()};
-    // What the rewrite could not save stays on the page; what it saved before is in the database.
+    // What could not be saved stays on the page, and the tables are as they were.
     if (Intentar([&] { GuardarAsunto(Base(), m_definicion.asunto, Vaca(), datos); }))
         Cancelar();
     RefrescarBotones();
+    return !Pendiente();
 }
 
 // Reads the cow again.

@@ -39,7 +39,7 @@ public:
     bool Pendiente() const override;
     QString Titulo() const override;
 
-    void Guardar();
+    bool Guardar() override;
     void Cancelar();
 
 private:

@@ -1,15 +1,32 @@
 #include "registers/sanidad/PaginaIBR.h"
 
-#include "registers/sanidad/AsuntosSanidad.h"
+#include "registers/datos/AsuntosSanidad.h"
 
 namespace pastorix {
 
 namespace {
 
-const auto kNaturales =
-    PorAñosNaturales("GridIBR", "IBR y BVD por año natural", kIBRBVD.natural, "Eliminar Año Natural: ");
+constexpr AspectoColumna kColumnasNaturales[] = {{"AñoNat", 5, "Ct_E", false, 0, "Año natural"},
+                                                 {"V. IBR", 8, "Cd_VIBR", true, 0, "Vacuna de IBR"},
+                                                 {"IBRsp", 8, "Cd_IBRsp", false, 0, "Resultado de IBR, sp"},
+                                                 {"IBRbp", 8, "Cd_IBRbp", false, 0, "Resultado de IBR, bp"},
+                                                 {"V. BVD", 8, "Cd_VBVD", true, 0, "Vacuna de BVD"},
+                                                 {"BVDsp", 8, "Cd_BVDsp", false, 0, "Resultado de BVD, sp"},
+                                                 {"BVDbp", 8, "Cd_BVDbp", false, 0, "Resultado de BVD, bp"}};
 
-const DefinicionLineas kCiclos{"GridIBR_R", "IBR y BVD por cubrición", kIBRBVD.ciclo.columnas, false};
+constexpr AspectoColumna kColumnasDeCiclo[] = {
+    {"AñoRef", 5, nullptr, false, 0, "Año de referencia"},
+    {"Nº Parto", 5},
+    {"F. Parto", 8, nullptr, false, 0, "Fecha del parto"},
+    {"F. Últ.Servicio", 8, nullptr, false, 0, "Fecha del último servicio"},
+    {"IBR", 8, "Cd_IBR"},
+    {"BVD", 8, "Cd_BVD"}};
+
+const auto kNaturales = PorAñosNaturales("GridIBR", "IBR y BVD por año natural", kIBRBVD.natural,
+                                         kColumnasNaturales, "Eliminar Año Natural: ");
+
+const DefinicionLineas kCiclos{"GridIBR_R", "IBR y BVD por cubrición", kIBRBVD.ciclo.columnas,
+                               kColumnasDeCiclo, false};
 
 constexpr std::size_t kVacunas[] = {1, 4};
 

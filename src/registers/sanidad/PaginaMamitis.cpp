@@ -1,10 +1,10 @@
 #include "registers/sanidad/PaginaMamitis.h"
 
-#include "frame/calendario/Calendario.h"
 #include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoTexto.h"
 #include "frame/ficha/LineasEditables.h"
-#include "registers/sanidad/AsuntosSanidad.h"
+#include "registers/datos/AsuntosSanidad.h"
+#include "registers/datos/FechasVacu.h"
 #include "registers/sanidad/Ubre.h"
 
 #include <QGridLayout>
@@ -20,10 +20,22 @@ constexpr int kFecha = 22; // CT_Estandar(22 + teat) is its date...
 constexpr int kNota = 26;  // ... and this its note
 constexpr int kAnchuraNota = 255;
 
-const DefinicionLineas kLactaciones{"GridMamitis", "Lactaciones", ColumnasDeLactacion(), false};
+constexpr AspectoColumna kColumnasDeLactacion[] = {
+    {"Año Ref.", 5},
+    {"F.Parto", 8},
+    {"Nº Parto", 5},
+    {"F.Destete", 18},
+    {"Trat. Secado", 14, "Ct_CP(0)", false, 100, "Tratamiento de secado"},
+    {"C. Perdidos antesD", 8, "Ct_CP(1)", false, 4, "Cuartos perdidos antes del destete"}};
+const DefinicionLineas kLactaciones{"GridMamitis", "Lactaciones", ColumnasDeLactacion(), kColumnasDeLactacion,
+                                    false};
 
-const auto kVacunas =
-    PorAñosNaturales("Grid_MVacu", "Vacunación contra la mamitis por año natural", kVacunasMamitis);
+constexpr AspectoColumna kColumnasDeVacunas[] = {{"AñoNat", 5, "Ct_CP(3)", false, 0, "Año natural"},
+                                                 {"Vacunación", 8, "CB_VMamitis", true},
+                                                 {"F.Vacuna", 8, "Ct_CP(4)", false, 0, "Fecha de la vacuna"}};
+
+const auto kVacunas = PorAñosNaturales("Grid_MVacu", "Vacunación contra la mamitis por año natural",
+                                       kVacunasMamitis, kColumnasDeVacunas);
 
 } // namespace
 
@@ -77,7 +89,6 @@ QWidget* PaginaMamitis::CrearTeto(std::size_t i, QWidget* padre) {
         return campo;
     };
     campos.fecha = poner("Fecha", ClaseCampo::Fecha, 10, 1, kFecha);
-    campos.fecha->setPlaceholderText(QStringLiteral("dd/mm/aa"));
     campos.nota = poner("Nota", ClaseCampo::Texto, kAnchuraNota, 2, kNota);
     return caja;
 }
@@ -150,11 +161,7 @@ void PaginaMamitis::Tocar() {
 // What stands on the page; a field that nobody touched gives back what was read, a date that is none gives Null.
 Tetos PaginaMamitis::Recogidos() const {
     const auto valor = [](const CampoTexto& campo, const Valor& leido) {
-        const auto texto = campo.text().toStdString();
-        if (texto == TextoDe(leido))
-            return leido;
-        const bool vale = campo.Clase() == ClaseCampo::Fecha ? EsFechaValida(texto) : !texto.empty();
-        return vale ? Valor(texto) : Valor();
+        return ValorDe(campo.text().toStdString(), leido, campo.Clase(), SiNoVale::Vacia);
     };
     auto tetos = m_tetos;
     for (std::size_t i = 0; i < kTetos; ++i) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "registers/sanidad/Mamitis.h"
+#include "registers/datos/Mamitis.h"
 #include "registers/sanidad/PaginaSanidad.h"
 
 class QGridLayout;
@@ -20,6 +20,7 @@ public:
 
     void Mostrar(VacaEnHoja vaca) override;
     bool Pendiente() const override;
+    bool Guardar() override { return Recoger() && !Pendiente(); }
     QString Titulo() const override { return QStringLiteral("Mamitis"); }
 
     // The sheet's own field of lost quarters, with its caption.

@@ -1,14 +1,28 @@
 #include "registers/sanidad/PaginaNeospora.h"
 
-#include "registers/sanidad/AsuntosSanidad.h"
+#include "registers/datos/AsuntosSanidad.h"
 
 namespace pastorix {
 
 namespace {
 
-const auto kNaturales = PorAñosNaturales("Grid_Lep", "Neospora por año natural", kNeospora.natural);
+constexpr AspectoColumna kColumnasNaturales[] = {
+    {"AñoNat", 5, "Ct_Lep", false, 0, "Año natural"},
+    {"V.Neosp", 8, "Cd_VLep", true, 0, "Vacuna de Neospora"},
+    {"NeospSp", 8, "Cd_LepSp", false, 0, "Resultado de Neospora, sp"},
+    {"NeospBp", 8, "Cd_LepBp", false, 0, "Resultado de Neospora, bp"}};
 
-const DefinicionLineas kCiclos{"Grid_Lep_R", "Neospora por cubrición", kNeospora.ciclo.columnas, false};
+constexpr AspectoColumna kColumnasDeCiclo[] = {{"Año Ref.", 5},
+                                               {"Nº Parto", 5},
+                                               {"Fecha Parto", 8},
+                                               {"F. Último Servicio", 8},
+                                               {"Neospora", 8, "CT_LEPR"}};
+
+const auto kNaturales =
+    PorAñosNaturales("Grid_Lep", "Neospora por año natural", kNeospora.natural, kColumnasNaturales);
+
+const DefinicionLineas kCiclos{"Grid_Lep_R", "Neospora por cubrición", kNeospora.ciclo.columnas,
+                               kColumnasDeCiclo, false};
 
 constexpr std::size_t kVacunas[] = {1};
 

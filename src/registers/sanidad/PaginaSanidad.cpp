@@ -18,14 +18,14 @@ bool PaginaSanidad::Intentar(const std::function<void()>& accion) {
         EnGrupo(m_base, accion);
         return true;
     } catch (const std::exception& e) {
-        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+        AvisarError(this, e);
         return false;
     }
 }
 
 DefinicionLineas PorAñosNaturales(const char* rejilla, const char* nombre, const TablaNatural& tabla,
-                                  const char* eliminar) {
-    DefinicionLineas d{rejilla, nombre, tabla.columnas};
+                                  std::span<const AspectoColumna> aspectos, const char* eliminar) {
+    DefinicionLineas d{rejilla, nombre, tabla.columnas, aspectos};
     d.descendente = true;
     d.sinAño = "Debe incluir un año natural";
     d.repetido = "El año: ";

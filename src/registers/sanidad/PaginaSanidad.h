@@ -1,7 +1,7 @@
 #pragma once
 
 #include "frame/ficha/LineasEditables.h"
-#include "registers/sanidad/LineasSanidad.h"
+#include "registers/datos/LineasSanidad.h"
 
 #include <QString>
 #include <QWidget>
@@ -21,6 +21,12 @@ public:
     void Refrescar();
     // Something was typed here that is not in the database.
     virtual bool Pendiente() const = 0;
+    // Saves what the page saves by itself; false when something is still not saved.
+    virtual bool Guardar() = 0;
+    // Throws away what was not saved.
+    void Descartar() {
+        Intentar([this] { Mostrar(m_vaca); });
+    }
     // How the user knows the page: "C.C.".
     virtual QString Titulo() const = 0;
 
@@ -38,6 +44,7 @@ private:
 
 // The lines of a table by natural year, the latest first, with the texts that all of them share.
 DefinicionLineas PorAñosNaturales(const char* rejilla, const char* nombre, const TablaNatural& tabla,
+                                  std::span<const AspectoColumna> aspectos,
                                   const char* eliminar = "Eliminar el Año Natural: ");
 
 // A list of the database as items of a combo.

@@ -14,8 +14,8 @@ constexpr CampoFicha kCampos[] = {
     {3, "RegGenealogico", "Reg. Genealóg&ico", C::Texto, 0, 1, 0, 1, "", 1},
     {4, "RegSaneam", "Reg. &Saneamiento", C::Texto, 0, 1, 1, 1, "", 1},
     {5, "Crotal", "Cro&tal", C::Texto, 0, 1, 2, 1, "", 1},
-    {6, "FechaNac", "&Fecha de Nacimiento", C::Fecha, 10, 2, 0, 1, "", 1},
-    {18, "FechaAlta", "Fec&ha de Alta", C::Fecha, 10, 2, 1, 1, "", 1},
+    {6, "FechaNac", "&Fecha de Nacimiento", C::Fecha, 10, 2, 0, 1, "", 1, SiNoVale::Conserva},
+    {18, "FechaAlta", "Fec&ha de Alta", C::Fecha, 10, 2, 1, 1, "", 1, SiNoVale::Conserva},
     {7, "NombrePadre", "Pa&dre", C::Texto, 0, 4, 0, 1, "", 1},
     {8, "RegGenPadre", "Reg. Genealógico", C::Texto, 0, 4, 1, 1, "Reg. Genealógico del padre", 1},
     {9, "RegSanPadre", "Reg. Saneamiento", C::Texto, 0, 4, 2, 1, "Reg. Saneamiento del padre", 1},
@@ -34,7 +34,8 @@ constexpr CampoFicha kCampos[] = {
 
     {kObsPatologia, "ObsPatologia", "Obser&vaciones", C::Memo, 0, 0, 0, 1, "Observaciones de patologías", 2},
 
-    {19, "FechaBaja", "Fecha de &Baja", C::Fecha, 10, 0, 0, 1, "", 3, true},
+    {19, "FechaBaja", "Fecha de &Baja", C::Fecha, 10, 0, 0, 1, "", 3, SiNoVale::Vacia},
+    {kOtraCausa, "OtraCausa", "Otra Causa", C::Texto, 0, 2, 0, 1, "", 3, SiNoVale::TalCual, "CtextoBaja"},
     {kObsBaja, "ObsBaja", "Observaciones", C::Memo, 0, 3, 0, 1, "Observaciones de la baja", 3},
 };
 
@@ -45,25 +46,22 @@ constexpr const char* kOrigenes[] = {"Compra", "Cría"};
 constexpr const char* kCausas[] = {"Baja Fertilidad", "Consanguinidad", "Mala Descendencia", "Enfermedad",
                                    "Muerte",          "Temperamento",   "Venta Oportunidad", "Otra"};
 
-constexpr ComboFicha kCombos[] = {{"CD_Raza", "Raza", "Ra&za", kRazas, 0, 0, 1},
-                                  {"CD_Cularidad", "Cularidad", "Cu&laridad", kCularidades, 0, 1, 1},
-                                  {"ToroP", "ToroP", "Toro &Probado", kSiNo, 0, 2, 1},
-                                  {"CB_Origen", "Origen", "Origen", kOrigenes, 2, 2, 1},
-                                  {"CD_CBaja", "CBaja", "Causa de la Ba&ja", kCausas, 1, 0, 3}};
+constexpr ComboFicha kCombos[] = {
+    {"CD_Raza", "Raza", "Ra&za", kRazas, 0, 0, 1},
+    {"CD_Cularidad", "Cularidad", "Cu&laridad", kCularidades, 0, 1, 1},
+    {"ToroP", "ToroP", "Toro &Probado", kSiNo, 0, 2, 1},
+    {"CB_Origen", "Origen", "Origen", kOrigenes, 2, 2, 1},
+    {"CD_CBaja", "CBaja", "Causa de la Ba&ja", kCausas, 1, 0, 3, false, "", "Otra", kOtraCausa}};
 
 } // namespace
 
 const DefinicionFicha& DefinicionSementales() {
     static constexpr DefinicionFicha d{"Sementales",
-                                       "CT_Estandar",
-                                       "T_Sementales",
+                                       {"CT_Estandar", "T_Sementales", kCampos, kCombos},
                                        "Id_Semental",
-                                       kCampos,
-                                       18,
-                                       "dd/mm/yy",
                                        "Debe incluir como mínimo el Código y el Nombre",
                                        1,
-                                       kCombos};
+                                       18};
     return d;
 }
 

@@ -10,5 +10,6 @@ const DefinicionFicha& DefinicionSementales();
 inline constexpr int kFechaNac = 6;
 inline constexpr int kObsBaja = 20;
 inline constexpr int kObsPatologia = 21;
+inline constexpr int kOtraCausa = 100; // CtextoBaja: not of the array
 
 } // namespace pastorix

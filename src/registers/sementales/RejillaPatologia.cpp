@@ -14,6 +14,27 @@ namespace pastorix {
 
 namespace {
 
+constexpr AspectoColumna kAspectosSem[] = {
+    {"Año Nat.", 8, "Ct_ANatural", false, 0, "Año natural"},
+    {"Edad", 5},
+    {"IBR sp", 13, "Cb_IBR(0)", false, 0, "IBR, primera muestra (sp)"},
+    {"IBR bp", 13, "Cb_IBR(1)", false, 0, "IBR, segunda muestra (bp)"},
+    {"BVD sp", 13, "Cb_IBR(2)", false, 0, "BVD, primera muestra (sp)"},
+    {"BVD bp", 13, "Cb_IBR(3)", false, 0, "BVD, segunda muestra (bp)"},
+    {"Neosp. sp", 13, "Cb_IBR(4)", false, 0, "Neospora, primera muestra (sp)"},
+    {"Neosp. bp", 13, "Cb_IBR(5)", false, 0, "Neospora, segunda muestra (bp)"},
+};
+
+constexpr AspectoColumna kAspectosSemR[] = {
+    {"Año Nat.", 8, "Ct_ANaturalR", false, 0, "Año natural"},
+    {"V.IBR", 13, "Cb_IBN(0)", true, 0, "Vacuna de IBR"},
+    {"V.BVD", 13, "Cb_IBN(1)", true, 0, "Vacuna de BVD"},
+    {"V.Neospora", 13, "Cb_IBN(2)", true, 0, "Vacuna de Neospora"},
+    {"IBR", 13, "Cb_IBN(3)"},
+    {"BVD", 13, "Cb_IBN(4)"},
+    {"Neospora", 13, "Cb_IBN(5)"},
+};
+
 constexpr int kCifrasDelAño = 4;
 constexpr const char* kDesplegada = "desplegada"; // the editor was opened with its list down
 
@@ -27,10 +48,10 @@ public:
     QWidget* createEditor(QWidget* padre, const QStyleOptionViewItem&,
                           const QModelIndex& celda) const override {
         const auto columna = static_cast<std::size_t>(celda.column());
-        const auto& c = m_rejilla.Definicion().columnas[columna];
+        const auto& c = m_rejilla.Definicion().aspectos[columna];
         QWidget* editor = nullptr;
         if (columna == 0) {
-            editor = new CampoTexto(c.clase, kCifrasDelAño, padre);
+            editor = new CampoTexto(ClaseCampo::Numero, kCifrasDelAño, padre);
         } else {
             auto* combo = new QComboBox(padre);
             combo->addItem(QString());
@@ -74,23 +95,39 @@ private:
 
 } // namespace
 
+const DefinicionPatologia& RejillaSem() {
+    static const DefinicionPatologia d{"GridPatologia", "Serologías por año natural", PatologiaSem(),
+                                       kAspectosSem};
+    return d;
+}
+
+const DefinicionPatologia& RejillaSemR() {
+    static const DefinicionPatologia d{"GridPatologiaR", "Vacunas y resultados por año natural",
+                                       PatologiaSemR(), kAspectosSemR};
+    return d;
+}
+
 RejillaPatologia::RejillaPatologia(const DefinicionPatologia& definicion, QWidget* padre)
-    : QTableWidget(0, static_cast<int>(definicion.columnas.size()), padre)
+    : QTableWidget(0, static_cast<int>(definicion.aspectos.size()), padre)
     , m_definicion(definicion) {
     setObjectName(QString::fromUtf8(definicion.rejilla));
     setAccessibleName(QString::fromUtf8(definicion.nombre));
     setToolTip(QStringLiteral("Supr elimina la línea"));
     QStringList titulos;
-    for (std::size_t i = 0; i < definicion.columnas.size(); ++i) {
-        const auto& c = definicion.columnas[i];
-        titulos << QString::fromUtf8(c.titulo);
-        setColumnWidth(static_cast<int>(i), fontMetrics().averageCharWidth() * (c.caracteres + 2));
+    for (std::size_t i = 0; i < definicion.aspectos.size(); ++i) {
+        const auto& c = definicion.tabla.columnas[i];
+        titulos << QString::fromUtf8(definicion.aspectos[i].titulo);
+        setColumnWidth(static_cast<int>(i),
+                       fontMetrics().averageCharWidth() * (definicion.aspectos[i].caracteres + 2));
         if (c.clase == ClaseCampo::Texto)
             horizontalHeader()->setSectionResizeMode(static_cast<int>(i), QHeaderView::Stretch);
         for (const char* valor : c.lista)
             m_listas[i] << QString::fromUtf8(valor);
     }
     setHorizontalHeaderLabels(titulos);
+    for (std::size_t i = 0; i < definicion.aspectos.size(); ++i)
+        horizontalHeaderItem(static_cast<int>(i))
+            ->setToolTip(QString::fromUtf8(definicion.aspectos[i].explicacion));
     setItemDelegate(new DelegadoPatologia(*this));
     setEditTriggers(AnyKeyPressed);
     setSelectionMode(SingleSelection);
@@ -107,11 +144,10 @@ RejillaPatologia::RejillaPatologia(const DefinicionPatologia& definicion, QWidge
 void RejillaPatologia::Mostrar(std::vector<Linea> lineas) {
     Abandonar(); // its line may no longer be there
     m_lineas = std::move(lineas);
-    // Ages follow a corrected birth date; without one, those that were written then stay.
-    if (m_definicion.columnaEdad >= 0 && edadDe)
+    // Ages follow a corrected birth date; without one there is none.
+    if (m_definicion.tabla.columnaEdad >= 0 && edadDe)
         for (auto& linea : m_lineas)
-            if (auto edad = edadDe(linea.celdas[0]); !edad.empty())
-                linea.celdas[static_cast<std::size_t>(m_definicion.columnaEdad)] = std::move(edad);
+            linea.celdas[static_cast<std::size_t>(m_definicion.tabla.columnaEdad)] = edadDe(linea.celdas[0]);
     Pintar();
     setCurrentCell(0, 0); // screen readers need a current cell
     clearSelection();
@@ -173,7 +209,7 @@ void RejillaPatologia::PintarFila(int fila) {
             setItem(fila, c, celda = new QTableWidgetItem);
             if (!Editable(c))
                 celda->setFlags(celda->flags() & ~Qt::ItemIsEditable);
-            if (m_definicion.columnas[static_cast<std::size_t>(c)].clase == ClaseCampo::Numero)
+            if (m_definicion.tabla.columnas[static_cast<std::size_t>(c)].clase == ClaseCampo::Numero)
                 celda->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
         celda->setText(lugar < m_lineas.size()
@@ -183,7 +219,7 @@ void RejillaPatologia::PintarFila(int fila) {
 }
 
 bool RejillaPatologia::Editable(int columna) const {
-    return m_definicion.columnas[static_cast<std::size_t>(columna)].control != nullptr;
+    return m_definicion.aspectos[static_cast<std::size_t>(columna)].control != nullptr;
 }
 
 void RejillaPatologia::Abrir(const QModelIndex& celda, bool desplegada) {
@@ -224,12 +260,12 @@ void RejillaPatologia::Cambiar(int fila, int columna, const QString& texto) {
         return;
     }
     if (nueva)
-        m_lineas.emplace_back().celdas.resize(m_definicion.columnas.size());
+        m_lineas.emplace_back().celdas.resize(m_definicion.tabla.columnas.size());
     auto& linea = m_lineas[lugar];
     const bool estaba = !linea.celdas[0].empty();
     linea.celdas[static_cast<std::size_t>(columna)] = celda;
-    if (columna == 0 && m_definicion.columnaEdad >= 0)
-        linea.celdas[static_cast<std::size_t>(m_definicion.columnaEdad)] =
+    if (columna == 0 && m_definicion.tabla.columnaEdad >= 0)
+        linea.celdas[static_cast<std::size_t>(m_definicion.tabla.columnaEdad)] =
             edadDe ? edadDe(celda) : std::string();
     const bool seGuarda = estaba || !linea.celdas[0].empty();
     if (nueva)

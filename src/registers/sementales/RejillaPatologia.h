@@ -1,6 +1,7 @@
 #pragma once
 
-#include "registers/sementales/PatologiasSemental.h"
+#include "frame/ficha/EntradaDeLinea.h"
+#include "registers/datos/PatologiasSemental.h"
 
 #include <QStringList>
 #include <QTableWidget>
@@ -10,6 +11,17 @@
 #include <vector>
 
 namespace pastorix {
+
+// How one of a bull's health tables looks.
+struct DefinicionPatologia {
+    const char* rejilla; // object name of the grid
+    const char* nombre;  // accessible name
+    const TablaPatologia& tabla;
+    std::span<const AspectoColumna> aspectos;
+};
+
+const DefinicionPatologia& RejillaSem();
+const DefinicionPatologia& RejillaSemR();
 
 // A grid of yearly health lines edited in place, with an empty line at its end for the next year. A click, Enter, F2 or typing opens a cell's
 // editor, Tab goes on to the next cell, Delete removes the line. A line stays where it was entered until the next Mostrar(). Nothing is

@@ -3,8 +3,9 @@
 #include "frame/Mensajes.h"
 #include "frame/ficha/Pestanas.h"
 #include "registers/EncabezadoGanadero.h"
+#include "registers/datos/NombreCompuesto.h"
+#include "registers/datos/ReglasSemental.h"
 #include "registers/sementales/DefinicionSementales.h"
-#include "registers/sementales/ReglasSemental.h"
 #include "registers/sementales/RejillaPatologia.h"
 #include "store/Recordset.h"
 
@@ -22,13 +23,11 @@ Sementales::Sementales(Sesion& sesion, QWidget* padre)
     setObjectName(QStringLiteral("Sementales"));
     m_tab->setObjectName(QStringLiteral("TabSementales"));
     Barra()[BarraFicha::Eliminar]->setObjectName(QStringLiteral("B_Borrar"));
-    auto* todo = new QVBoxLayout(this);
-    todo->addWidget(CrearEncabezado());
-    todo->addWidget(m_tab, 1);
-    todo->addWidget(&Barra());
+    Cuerpo()->addWidget(CrearEncabezado());
+    Cuerpo()->addWidget(m_tab, 1);
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
     m_tab->addTab(CrearPatologias(), QStringLiteral(" Patologías "));
-    m_tab->addTab(CrearBaja(), QStringLiteral(" Baja "));
+    m_tab->addTab(CrearRejilla(m_tab, 3), QStringLiteral(" Baja "));
     ConectarPestañas(*m_tab);
     OrdenarTabulador();
     Conectar();
@@ -45,7 +44,6 @@ void Sementales::Conectar() {
             Renombrar();
     });
     connect(&clase, &QComboBox::activated, this, [this] { Renombrar(); });
-    connect(&Combo("CD_CBaja"), &QComboBox::currentIndexChanged, this, [this] { RefrescarBaja(); });
 }
 
 // The farmer stays when the sheet is cleared: he is whom the next bull is added to.
@@ -63,38 +61,33 @@ void Sementales::Renombrar() {
                              m_ganadero->Codigo().toStdString()));
 }
 
-// The free text goes with the cause "Otra"; what is stored beside another one is kept all the same.
-void Sementales::RefrescarBaja() {
-    m_otraCausa->setEnabled(Combo("CD_CBaja").currentText() == QLatin1String("Otra"));
-}
-
-QStringList Sementales::Contenido() const {
-    QStringList todo;
-    for (const auto& c : DefinicionSementales().campos)
-        if (c.indice != kObsPatologia)
-            todo << Texto(c.indice);
-    for (const auto& c : DefinicionSementales().combos)
-        todo << Combo(c.nombre).currentText();
-    return todo << m_otraCausa->text() << m_ganadero->Codigo();
-}
-
-// A compound name written by hand stays until the name changes.
+// A compound name written by hand stays until the name changes, or the bull comes to the insemination bulls or leaves them: then it would tell
+// something else than it means.
 void Sementales::AlDejar(QWidget& campo) {
-    if (&campo == &Campo(1) && Editando() && Texto(1) != m_nombre &&
+    const auto deInseminacion = [](const std::optional<double>& id) { return id == 1; };
+    const bool otroDueño = deInseminacion(m_ganadero->Id()) != deInseminacion(m_ganaderoLeido);
+    if (&campo == &Campo(1) && Editando() && (Texto(1) != m_nombre || otroDueño) &&
         !Combo("CD_Cularidad").currentText().isEmpty())
         Renombrar();
 }
 
-// While nothing is being edited, what no save has seen can be lost: lines without a year, grids and remarks that could not be written.
-bool Sementales::PermiteDejar() {
-    if (!TerminarCeldas())
-        return false;
+// What no save has seen: lines without a year, grids and remarks that could not be written. While the sheet is edited the remarks belong to it.
+bool Sementales::SanidadPendiente() const {
     bool pendiente = Clave() != 0 && Memo(kObsPatologia).Cambiado();
     for (std::size_t i = 0; i < m_rejillas.size(); ++i)
         pendiente = pendiente || m_porGuardar[i] || !m_rejillas[i]->SinAño().empty();
-    return Editando() || !pendiente ||
-           Preguntar(this, QStringLiteral("Atención"),
-                     QStringLiteral("Hay patologías sin guardar. ¿Desea seguir y perderlas?"));
+    return pendiente;
+}
+
+std::vector<PaginaPendiente> Sementales::Pendientes() {
+    TerminarCeldas(); // a refused one tells so, and stays a line without year
+    if (Editando() || !SanidadPendiente())
+        return {};
+    const auto guardar = [this] {
+        GuardarPato();
+        return !SanidadPendiente();
+    };
+    return {{QStringLiteral("Patologías"), guardar, [this] { VaciarSanidad(); }}};
 }
 
 bool Sementales::PermiteAñadir() {
@@ -114,23 +107,21 @@ void Sementales::AlAñadir() {
 }
 
 void Sementales::LimpiarPropios() {
-    m_otraCausa->clear();
-    RefrescarBaja();
     PermitirSanidad(false); // the lines stay: they may be of the bull who comes back
 }
 
 void Sementales::MostrarPropios(Recordset& rs) {
-    m_otraCausa->Mostrar(QString::fromStdString(rs["OtraCausa"].Texto()));
-    RefrescarBaja();
     MostrarGanadero(rs["Id_Ganadero"].Nulo() ? std::nullopt : std::optional(rs["Id_Ganadero"].Numero()));
     MostrarSanidad();
-    m_contenido = Contenido();
+    m_ganaderoLeido = m_ganadero->Id();
     m_nombre = Texto(1);
 }
 
+bool Sementales::Recoger() {
+    return TerminarCeldas() && GuardarPendientes();
+}
+
 bool Sementales::ComprobarMinimos() {
-    if (!TerminarCeldas() || !GuardarPendientes())
-        return false;
     if (!m_ganadero->Id())
         return Rechazar(QStringLiteral("Debe indicar el ganadero al que pertenece"), m_ganadero->Icono());
     if (CodigoTecleado().toDouble() != 0 && Texto(1).isEmpty())
@@ -140,8 +131,6 @@ bool Sementales::ComprobarMinimos() {
 
 void Sementales::EscribirPropios(Recordset& rs) {
     rs["Id_Ganadero"] = *m_ganadero->Id();
-    const auto causa = m_otraCausa->text().toStdString();
-    rs["OtraCausa"] = causa.empty() ? Valor() : Valor(causa);
 }
 
 // A name that cannot be carried on is told once the record is on screen again: the bull himself is saved.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "frame/campos/Lineas.h"
 #include "frame/ficha/Ficha.h"
-#include "frame/ficha/Lineas.h"
 
 #include <QStringList>
 
@@ -24,12 +24,13 @@ public:
     explicit Sementales(Sesion& sesion, QWidget* padre = nullptr);
 
 protected:
-    bool PermiteDejar() override;
+    std::vector<PaginaPendiente> Pendientes() override;
     bool PermiteAñadir() override;
     std::string CodigoPropuesto() override;
     void AlAñadir() override;
     void LimpiarPropios() override;
     void MostrarPropios(Recordset& rs) override;
+    bool Recoger() override;
     bool ComprobarMinimos() override;
     void AlDejar(QWidget& campo) override;
     void DespuesDeBorrar() override;
@@ -46,7 +47,6 @@ private:
     QWidget* CrearEncabezado();
     QWidget* CrearGeneral();
     QWidget* CrearPatologias();
-    QWidget* CrearBaja();
     QWidget* CrearObservaciones(QWidget* padre);
     void OrdenarTabulador();
     void Conectar();
@@ -54,8 +54,6 @@ private:
     // The heading and what follows from it
     void MostrarGanadero(std::optional<double> idGanadero);
     void Renombrar(); // the compound name follows name and class
-    void RefrescarBaja();
-    QStringList Contenido() const; // all that can be edited but the health remarks
 
     // SementalesBusqueda.cpp: the five search icons
     void CargarElegido(int icono);
@@ -69,6 +67,7 @@ private:
     void VaciarSanidad();
     bool TerminarCeldas(); // false when what stood in an open one was refused
     bool GuardarPendientes();
+    bool SanidadPendiente() const;
     void LlenarVacunas();
     void GuardarRejilla(RejillaPatologia& rejilla);
     void GuardarPato();
@@ -78,14 +77,13 @@ private:
 
     QTabWidget* m_tab; // TabSementales
     EncabezadoGanadero* m_ganadero = nullptr;
-    CampoTexto* m_otraCausa = nullptr; // CtextoBaja
     std::array<RejillaPatologia*, 2> m_rejillas{};
     std::array<QPushButton*, 2> m_botonesPato{};
     std::array<bool, 2> m_porGuardar{}; // the last save of a grid failed
     double m_deQuien = 0;               // the bull whose lines stand in the grids
     QString m_nombre;                   // the name that the compound one was last made of
-    QStringList m_contenido;            // as it was read
-    std::string m_errorDeNombre;        // why the save at hand could not carry the name on
+    std::optional<double> m_ganaderoLeido;
+    std::string m_errorDeNombre; // why the save at hand could not carry the name on
 };
 
 } // namespace pastorix

@@ -1,5 +1,4 @@
 // The search icons of the bull sheet.
-#include "frame/Mensajes.h"
 #include "frame/selector/Selector.h"
 #include "frame/selector/SentenciasSelector.h"
 #include "registers/EncabezadoGanadero.h"
@@ -31,7 +30,7 @@ void Sementales::BuscarDato(int icono) {
             return CargarElegido(icono);
         }
     } catch (const std::exception& e) {
-        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+        MostrarError(e);
     }
 }
 
@@ -57,6 +56,8 @@ void Sementales::ElegirGanaderoPropietario() {
 }
 
 void Sementales::ElegirPadre() {
+    if (Clave() == 0 && !Editando())
+        return; // no bull on the sheet
     const auto toro = Selector::Elegir(Base(), TipoSelector::PadresParaSementales,
                                        m_ganadero->Codigo().toStdString(), this);
     if (!toro)
@@ -68,6 +69,8 @@ void Sementales::ElegirPadre() {
 }
 
 void Sementales::ElegirMadre() {
+    if (Clave() == 0 && !Editando())
+        return;
     const auto vaca = Selector::Elegir(Base(), TipoSelector::MadresParaSementales,
                                        SentenciaVacas(m_ganadero->Id()).Completa(), this);
     if (!vaca)

@@ -1,8 +1,9 @@
 // The health tab of the bull sheet: its grids are written line by line, apart from the sheet's own save.
 #include "frame/Mensajes.h"
 #include "registers/EncabezadoGanadero.h"
+#include "registers/datos/FechasVacu.h"
+#include "registers/datos/ReglasSemental.h"
 #include "registers/sementales/DefinicionSementales.h"
-#include "registers/sementales/ReglasSemental.h"
 #include "registers/sementales/RejillaPatologia.h"
 #include "registers/sementales/Sementales.h"
 #include "store/Literales.h"
@@ -31,7 +32,7 @@ void Sementales::MostrarSanidad() {
         m_porGuardar[i] = m_porGuardar[i] && elMismo;
         if (m_porGuardar[i])
             continue;
-        auto lineas = LeerPatologias(Base(), rejilla.Definicion(), Clave());
+        auto lineas = LeerPatologias(Base(), rejilla.Definicion().tabla, Clave());
         if (elMismo)
             for (auto& suelta : rejilla.SinAño())
                 lineas.push_back(std::move(suelta));
@@ -63,12 +64,14 @@ bool Sementales::GuardarPendientes() {
     return !m_porGuardar[0] && !m_porGuardar[1];
 }
 
+// The three vaccine columns stand behind the year, in this order.
 void Sementales::LlenarVacunas() {
-    for (const auto& lista : ListasDeVacunas()) {
+    const auto listas = LeerFechasVacu(Base(), "IBR, BVD, NEOSPORA", "Ln", m_ganadero->Id().value_or(0));
+    for (std::size_t i = 0; i < listas.size(); ++i) {
         QStringList fechas;
-        for (const auto& fecha : FechasDeVacuna(Base(), m_ganadero->Id().value_or(0), lista.origen))
+        for (const auto& fecha : listas[i])
             fechas << QString::fromStdString(fecha);
-        m_rejillas[1]->FijarLista(lista.columna, fechas);
+        m_rejillas[1]->FijarLista(i + 1, fechas);
     }
 }
 
@@ -76,7 +79,8 @@ void Sementales::GuardarRejilla(RejillaPatologia& rejilla) {
     auto& porGuardar = m_porGuardar[&rejilla == m_rejillas[0] ? 0 : 1];
     porGuardar = true;
     try {
-        EnGrupo(Base(), [&] { GuardarPatologias(Base(), rejilla.Definicion(), Clave(), rejilla.Lineas()); });
+        EnGrupo(Base(),
+                [&] { GuardarPatologias(Base(), rejilla.Definicion().tabla, Clave(), rejilla.Lineas()); });
         porGuardar = false;
     } catch (const std::exception& e) {
         rejilla.AvisarDespues(QString::fromUtf8(e.what()), rejilla.currentRow(), rejilla.currentColumn());
@@ -84,7 +88,7 @@ void Sementales::GuardarRejilla(RejillaPatologia& rejilla) {
 }
 
 void Sementales::MostrarCausa(const std::exception& error) {
-    Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(error.what()));
+    MostrarError(error);
     Memo(kObsPatologia).setFocus();
 }
 
@@ -124,7 +128,7 @@ void Sementales::CancelarPato() {
 // Ends the editing that the remarks began, unless something else is being changed.
 void Sementales::TerminarObservaciones(const std::string& texto) {
     Poner(kObsPatologia, texto);
-    if (Editando() && Contenido() == m_contenido)
+    if (Editando() && !Hoja().Cambiada(kObsPatologia) && m_ganadero->Id() == m_ganaderoLeido)
         CargarFicha(Clave());
 }
 

@@ -1,8 +1,8 @@
 // The window of the bull sheet: heading and tabs.
 #include "frame/ficha/Aspecto.h"
 #include "registers/EncabezadoGanadero.h"
+#include "registers/datos/ReglasSemental.h"
 #include "registers/sementales/DefinicionSementales.h"
-#include "registers/sementales/ReglasSemental.h"
 #include "registers/sementales/RejillaPatologia.h"
 #include "registers/sementales/Sementales.h"
 
@@ -34,7 +34,7 @@ QWidget* Sementales::CrearEncabezado() {
     m_ganadero = new EncabezadoGanadero(Base(), 1, encabezado);
     todo->addWidget(m_ganadero);
     todo->addWidget(CrearRejilla(encabezado));
-    PonerIconoBusDato(0, 0);
+    PonerIconoBusDato(0, 0, "Seleccionar semental");
     Rejilla()->setContentsMargins(0, 0, 0, 0);
     Rejilla()->setColumnStretch(1, 0); // the code is short
     return encabezado;
@@ -46,13 +46,9 @@ QWidget* Sementales::CrearGeneral() {
     todo->addWidget(CrearRejilla(general, 1));
     Rejilla()->addWidget(Seccion("Genealogía", general), 3, 0, 1, 6);
     Rejilla()->addWidget(Seccion("Valoración", general), 6, 0, 1, 6);
-    for (const auto& [icono, campo, nombre] : {std::tuple{2, 7, "Seleccionar padre"},
-                                               {3, 10, "Seleccionar madre"},
-                                               {4, 13, "Seleccionar por mérito"}}) {
-        PonerIconoBusDato(icono, campo);
-        findChild<QToolButton*>(QStringLiteral("IconoBusDato(%1)").arg(icono))
-            ->setAccessibleName(QString::fromUtf8(nombre));
-    }
+    PonerIconoBusDato(2, 7, "Seleccionar padre");
+    PonerIconoBusDato(3, 10, "Seleccionar madre");
+    PonerIconoBusDato(4, 13, "Seleccionar por mérito");
     todo->addStretch();
     return general;
 }
@@ -61,7 +57,7 @@ QWidget* Sementales::CrearPatologias() {
     auto* patologias = new QWidget(m_tab);
     auto* todo = new QGridLayout(patologias);
     int fila = 0;
-    for (const auto* d : {&PatologiaSem(), &PatologiaSemR()}) {
+    for (const auto* d : {&RejillaSem(), &RejillaSemR()}) {
         auto* rejilla = new RejillaPatologia(*d, patologias);
         rejilla->edadDe = [this](const std::string& año) { return EdadEnAño(TextoStd(kFechaNac), año); };
         rejilla->antesDeQuitar = [this] { EntrarEnModificar(); };
@@ -100,26 +96,6 @@ QWidget* Sementales::CrearObservaciones(QWidget* padre) {
     }
     Rejilla()->addLayout(botones, 2, 0, 1, 2);
     return caja;
-}
-
-QWidget* Sementales::CrearBaja() {
-    auto* baja = new QWidget(m_tab);
-    auto* todo = new QVBoxLayout(baja);
-    auto* caja = CrearRejilla(baja, 3);
-    caja->setMaximumWidth(fontMetrics().averageCharWidth() * 110);
-    todo->addWidget(caja);
-    Combo("CD_CBaja").setMaximumWidth(fontMetrics().averageCharWidth() * 34);
-    auto* rotulo = new QLabel(QStringLiteral("Otra Causa"), caja);
-    m_otraCausa = new CampoTexto(ClaseCampo::Texto, AnchuraDe("OtraCausa"), caja);
-    m_otraCausa->setObjectName(QStringLiteral("CtextoBaja"));
-    m_otraCausa->setAccessibleName(rotulo->text());
-    rotulo->setBuddy(m_otraCausa);
-    Rejilla()->addWidget(rotulo, 2, 0, Qt::AlignRight | Qt::AlignVCenter);
-    Rejilla()->addWidget(m_otraCausa, 2, 1);
-    Vigilar(m_otraCausa);
-    connect(m_otraCausa, &QLineEdit::textEdited, this, [this] { EntrarEnModificar(); });
-    todo->addStretch();
-    return baja;
 }
 
 // Reading order, whatever order the controls were made in.
@@ -175,7 +151,7 @@ void Sementales::OrdenarTabulador() {
             m_botonesPato[1],
             &Campo(19),
             &Combo("CD_CBaja"),
-            m_otraCausa,
+            &Campo(kOtraCausa),
             &Memo(kObsBaja)});
 }
 

@@ -11,10 +11,11 @@ constexpr CampoFicha kCampos[] = {
     {0, "Id_Vaca", "Códig&o Vaca", Codigo, 0, 0, 0, 1, "", Cabecera},
     {1, "Nombre", "&Nombre Vaca", Texto, 0, 0, 1, 1, "", Cabecera},
     {7, "Crotal", "Cro&tal", Texto, 0, 0, 2, 1, "", Cabecera},
-    {21, nullptr, "Baja", Fecha, 10, 0, 3, 1, "Fecha de baja de la vaca", Cabecera},
+    {21, nullptr, "Baja", Fecha, 10, 0, 3, 1, "Fecha de baja de la vaca", Cabecera, SiNoVale::TalCual,
+     nullptr, true},
 
-    {8, "FechaNac", "&Fecha Nacimiento", Fecha, 0, 0, 0, 1, "", General, true},
-    {20, "FechaCompra", "Fecha de Com&pra", Fecha, 0, 0, 1, 1, "", General, true},
+    {8, "FechaNac", "&Fecha Nacimiento", Fecha, 0, 0, 0, 1, "", General, SiNoVale::Vacia},
+    {20, "FechaCompra", "Fecha de Com&pra", Fecha, 0, 0, 1, 1, "", General, SiNoVale::Vacia},
     {34, "CrotalANT", "Crotal Ant.", Texto, 0, 0, 2},
     {4, "NombreC", "Nom&bre-C", Texto, 0, 2, 0},
     {5, "RegGenealogico", "Reg. Genealóg&ico", Texto, 0, 2, 1},
@@ -31,8 +32,8 @@ constexpr CampoFicha kCampos[] = {
     {18, "MG_GD", "MG-Gan. Diaria", ConSigno, 15, 8, 1},
     {19, "MG_DP", "MG-Dif. Parto", ConSigno, 15, 8, 2},
 
-    {31, "FechaDesecho", "Fec&ha de Baja", Fecha, 0, 0, 0, 1, "", Desecho, true},
-    {3, nullptr, "Año de Ref.", Numero, 4, 0, 2, 1, "", Desecho},
+    {31, "FechaDesecho", "Fec&ha de Baja", Fecha, 0, 0, 0, 1, "", Desecho, SiNoVale::Vacia},
+    {3, nullptr, "Año de Ref.", Numero, 4, 0, 2, 1, "", Desecho, SiNoVale::TalCual, nullptr, true},
     {22, "ObsDesecho", "Observaciones", Memo, 0, 1, 0, 3, "", Desecho},
     {32, "cDesecho", "Comentario", Memo, 0, 2, 0, 3, "Comentario sobre la baja", Desecho},
 
@@ -57,11 +58,10 @@ constexpr ComboFicha kCombos[] = {
 
 } // namespace
 
-const DefinicionFicha kFichaDeVaca{
-    "Vacas",   "CT_Estandar",
-    "T_Vacas", "Id_Vaca",
-    kCampos,   -1,
-    "",        "Debe incluir como mínimo el Ganadero, el Código y el Nombre del animal",
-    1,         kCombos};
+const DefinicionFicha kFichaDeVaca{"Vacas",
+                                   {"CT_Estandar", "T_Vacas", kCampos, kCombos},
+                                   "Id_Vaca",
+                                   "Debe incluir como mínimo el Ganadero, el Código y el Nombre del animal",
+                                   1};
 
 } // namespace pastorix

@@ -76,8 +76,12 @@ void ObsControlRebaño::Cargar() {
 
 void ObsControlRebaño::reject() {
     const bool cambiada = m_nota->Cambiado() || m_chequeo->currentIndex() != m_leido;
-    if (!cambiada || Preguntar(this, QStringLiteral("Atención"),
-                               QStringLiteral("Hay cambios sin guardar. ¿Desea cerrar y perderlos?")))
+    const auto salida =
+        cambiada ? PreguntarGuardar(this, QStringLiteral("Hay cambios sin guardar. ¿Desea guardarlos?"))
+                 : AntesDeDejar::Descartar;
+    if (salida == AntesDeDejar::Guardar)
+        Aceptar();
+    else if (salida == AntesDeDejar::Descartar)
         QDialog::reject();
 }
 
@@ -98,7 +102,7 @@ void ObsControlRebaño::Aceptar() {
                QStringLiteral("No Encuentro el Codigo: ") + QString::fromStdString(TextoNumero(m_idVaca)));
     } catch (const ErrorAlmacen& e) {
         // The form stays, with what was typed: an apostrophe cannot be stored by this statement.
-        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+        AvisarError(this, e);
     }
 }
 

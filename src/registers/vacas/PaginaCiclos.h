@@ -1,6 +1,6 @@
 #pragma once
 
-#include "registers/vacas/CiclosDeVaca.h"
+#include "registers/datos/CiclosDeVaca.h"
 
 #include <QWidget>
 

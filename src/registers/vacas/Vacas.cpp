@@ -4,12 +4,13 @@
 #include "frame/Mensajes.h"
 #include "frame/selector/Selector.h"
 #include "frame/selector/SentenciasSelector.h"
-#include "registers/Borrados.h"
 #include "registers/EncabezadoGanadero.h"
+#include "registers/datos/Borrados.h"
+#include "registers/datos/CodigoDeVaca.h"
+#include "registers/datos/Crotales.h"
+#include "registers/datos/NombreCompuesto.h"
 #include "registers/sanidad/PaginaMamitis.h"
 #include "registers/vacas/CamposDeVaca.h"
-#include "registers/vacas/CodigoDeVaca.h"
-#include "registers/vacas/Crotales.h"
 #include "registers/vacas/ObsControlRebano.h"
 #include "registers/vacas/PaginaCiclos.h"
 #include "store/Recordset.h"
@@ -60,23 +61,9 @@ void Vacas::AlAñadir() {
     Ficha::AlAñadir();
 }
 
-bool Vacas::PermiteModificar() {
-    return CodigoIntacto();
-}
-
-bool Vacas::CodigoIntacto() {
-    if (CodigoTecleado().toDouble() == Clave())
-        return true;
-    ReponerCodigo(); // before the box: it takes the focus from the field
-    Avisar(this, TipoMensaje::Informacion, QStringLiteral("Atención"),
-           QStringLiteral("El Código no se puede cambiar"));
-    return false;
-}
-
 // --- showing
 
 void Vacas::LimpiarPropios() {
-    m_huella.clear();
     m_crotal.clear();
     if (Clave() == 0)
         VaciarPaginas(); // what was typed there for a cow that is not to be
@@ -87,10 +74,10 @@ void Vacas::MostrarPropios(Recordset& rs) {
         m_ganadero->Limpiar();
     else
         m_ganadero->Poner(rs["Id_Ganadero"].Numero());
+    m_ganaderoLeido = m_ganadero->Id();
     Poner(FechaBaja, rs["FechaBaja"].Texto());
     Poner(campo_vaca::AñoRef, rs["FechaBaja"].Nulo() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
     MostrarPaginas();
-    m_huella = Huella();
     m_crotal = Texto(Crotal);
     m_nombre = Texto(Nombre);
 }
@@ -101,11 +88,11 @@ void Vacas::MostrarPaginas() {
     m_cubriciones->Mostrar(vaca.idVaca);
     m_mamitis->Mostrar(vaca);
     for (auto* pagina : m_sanidad)
-        if (m_mostrada == vaca.idVaca)
-            pagina->Refrescar(); // what was typed there waits for the tab's own save
+        if (m_mostrada == vaca && pagina->Pendiente())
+            continue; // what was typed there waits for the page's own save
         else
             pagina->Mostrar(vaca);
-    m_mostrada = vaca.idVaca;
+    m_mostrada = vaca;
 }
 
 void Vacas::VaciarPaginas() {
@@ -114,7 +101,7 @@ void Vacas::VaciarPaginas() {
     m_mamitis->Mostrar({});
     for (auto* pagina : m_sanidad)
         pagina->Mostrar({});
-    m_mostrada = 0;
+    m_mostrada = {};
 }
 
 void Vacas::NoEncontrado(double clave) {
@@ -122,18 +109,17 @@ void Vacas::NoEncontrado(double clave) {
         Poner(Codigo, {});
 }
 
-bool Vacas::PermiteDejar() {
+std::vector<PaginaPendiente> Vacas::Pendientes() {
     // What stands on the page of the udder belongs to the sheet's own edit, which is asked about as such.
-    std::vector<const PaginaSanidad*> paginas(m_sanidad.begin(), m_sanidad.end());
+    std::vector<PaginaSanidad*> paginas(m_sanidad.begin(), m_sanidad.end());
     if (!Editando())
         paginas.push_back(m_mamitis);
-    for (const auto* pagina : paginas)
-        if (pagina->Pendiente() &&
-            !Preguntar(
-                this, QStringLiteral("Atención"),
-                QStringLiteral("Hay cambios sin guardar en «%1». ¿Desea perderlos?").arg(pagina->Titulo())))
-            return false;
-    return true;
+    std::vector<PaginaPendiente> pendientes;
+    for (auto* pagina : paginas)
+        if (pagina->Pendiente())
+            pendientes.push_back({pagina->Titulo(), [pagina] { return pagina->Guardar(); },
+                                  [pagina] { pagina->Descartar(); }});
+    return pendientes;
 }
 
 // A cycle was changed by its own sheet, added or removed: what is shown of it elsewhere follows.
@@ -143,7 +129,7 @@ void Vacas::AlCambiarCiclos() {
 }
 
 void Vacas::AlCambiarDePestaña(int) {
-    if (Clave() != 0 && Accion() != 1)
+    if (Clave() != 0 && Modo() != ModoFicha::Añadiendo)
         try {
             m_partos->Mostrar(Clave());
             m_cubriciones->Mostrar(Clave());
@@ -151,11 +137,15 @@ void Vacas::AlCambiarDePestaña(int) {
             for (auto* pagina : m_sanidad)
                 pagina->Refrescar();
         } catch (const ErrorAlmacen& e) {
-            Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+            MostrarError(e);
         }
 }
 
 // --- saving
+
+bool Vacas::Recoger() {
+    return m_mamitis->Recoger();
+}
 
 bool Vacas::ComprobarMinimos() {
     if (CodigoTecleado().trimmed().isEmpty() || Texto(Nombre).trimmed().isEmpty() || !m_ganadero->Id())
@@ -178,13 +168,13 @@ bool Vacas::Comprobar() {
                                    "dígito más para diferenciarlo."),
                 &Campo(Crotal));
     }
-    return (Accion() != 2 || CodigoIntacto()) && m_mamitis->Recoger();
+    return Modo() != ModoFicha::Modificando || CodigoIntacto();
 }
 
 void Vacas::EscribirPropios(Recordset& rs) {
     rs["Id_Ganadero"] = *m_ganadero->Id();
     // Two columns for one date: reports tell the live cows from the others by either.
-    rs["FechaBaja"] = rs["FechaDesecho"].Leer();
+    rs["FechaBaja"].Reponer(rs["FechaDesecho"].Leer());
 }
 
 void Vacas::EscribirHijos(double codigo) {
@@ -259,18 +249,31 @@ void Vacas::ElegirVaca() {
         CargarFicha(elegida->clave);
 }
 
-// While a cow is edited the farmer chosen becomes hers; otherwise the sheet is emptied, ready for a cow of his.
+// While a cow is edited the farmer chosen becomes hers if she has none; otherwise the sheet is emptied, ready for a cow of his. One who has a
+// farmer keeps him: her fattened calves are numbered by him, and her records of health carry him.
 void Vacas::ElegirGanadero() {
+    if (Modo() == ModoFicha::Modificando && m_ganaderoLeido) {
+        Rechazar(
+            QStringLiteral(
+                "La vaca ya tiene ganadero, y no se cambia en su ficha: los registros de sanidad y de cebo "
+                "van con él. Para llevarla a otra explotación, dela de baja aquí y añádala allí."),
+            m_ganadero->Icono());
+        return;
+    }
     const auto elegido = Selector::Elegir(Base(), TipoSelector::GanaderosParaVacas, {}, this);
     if (!elegido || elegido->clave == 0 || (!Editando() && !PermiteDejar()))
         return;
-    if (!Editando())
+    if (!Editando()) {
         Vaciar();
+        m_ganaderoLeido.reset();
+    }
     m_ganadero->Poner(elegido->clave);
     Campo(Editando() ? Nombre : Codigo).setFocus();
 }
 
 void Vacas::ElegirPadre() {
+    if (Clave() == 0 && !Editando())
+        return; // no cow on the sheet
     const auto elegido =
         Selector::Elegir(Base(), TipoSelector::PadresParaVacas, m_ganadero->Codigo().toStdString(), this);
     if (!elegido || elegido->clave == 0)
@@ -282,6 +285,8 @@ void Vacas::ElegirPadre() {
 }
 
 void Vacas::ElegirMadre() {
+    if (Clave() == 0 && !Editando())
+        return;
     const auto elegida = Selector::Elegir(Base(), TipoSelector::MadresParaVacas,
                                           SentenciaVacas(m_ganadero->Id()).Completa(), this);
     if (!elegida || elegida->clave == 0)

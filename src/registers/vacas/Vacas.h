@@ -1,9 +1,11 @@
 #pragma once
 
 #include "frame/ficha/Ficha.h"
-#include "registers/vacas/VacaEnMano.h"
+#include "registers/datos/LineasSanidad.h"
+#include "registers/vacas/OrdenesDeVaca.h"
 
 #include <array>
+#include <optional>
 
 class QLabel;
 class QTabWidget;
@@ -27,9 +29,9 @@ public:
     VacaEnMano EnMano() const;
 
 protected:
-    bool PermiteDejar() override;
+    std::vector<PaginaPendiente> Pendientes() override;
     bool PermiteAñadir() override;
-    bool PermiteModificar() override;
+    bool PermiteModificar() override { return CodigoIntacto(); }
     bool PermiteEliminar() override;
     void AlDejar(QWidget& campo) override;
     std::string CodigoPropuesto() override;
@@ -37,6 +39,7 @@ protected:
     void LimpiarPropios() override;
     void MostrarPropios(Recordset& rs) override;
     void NoEncontrado(double clave) override;
+    bool Recoger() override;
     bool ComprobarMinimos() override;
     bool Comprobar() override;
     void EscribirPropios(Recordset& rs) override;
@@ -52,16 +55,12 @@ private:
     void Construir();
     QWidget* CrearCabecera();
     QWidget* CrearGeneral();
-    QWidget* CrearDesecho();
-    QWidget* CrearPatologia();
     void ConectarCiclos(OrdenesDeVaca ordenes);
     void ConectarTeclas();
     void AlCambiarDePestaña(int indice);
     void MostrarPaginas();
     void VaciarPaginas();
     void AlCambiarCiclos();
-    bool CodigoIntacto(); // false after its box, and the loaded code is back
-
     void ElegirGanadero();
     void ElegirVaca();
     void ElegirPadre();
@@ -74,7 +73,6 @@ private:
     void Hojear(int paso);
     void IrAVaca(double idVaca);
     bool SoloElCrotalCambio() const;
-    QString Huella() const; // what stands in the fields, but for the tag
 
     QTabWidget* m_tab;
     EncabezadoGanadero* m_ganadero = nullptr;
@@ -82,9 +80,9 @@ private:
     PaginaCiclos* m_cubriciones = nullptr;
     PaginaMamitis* m_mamitis = nullptr;
     std::array<PaginaSanidad*, 3> m_sanidad{}; // C.C., IBR/BVD, Neospora: each saves itself
-    double m_mostrada = 0;                     // the cow that they show
-    QString m_huella;                          // as it was when the cow was read
-    QString m_crotal;                          // and her tag
+    VacaEnHoja m_mostrada;                     // the cow that they show
+    std::optional<double> m_ganaderoLeido;     // her farmer in the database
+    QString m_crotal;                          // her tag as it was read
     QString m_nombre;                          // the name that Nombre-C was last composed of
 };
 

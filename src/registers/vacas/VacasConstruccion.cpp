@@ -38,15 +38,13 @@ Vacas::Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre)
     for (auto* w = m_tab->nextInFocusChain(); w != m_tab; w = w->nextInFocusChain())
         if (m_tab->isAncestorOf(w))
             ultimo = w;
-    TerminarConstruccion(ultimo);
     resize(1180, 620); // of 1280 x 720 it leaves the frame its menu
+    TerminarConstruccion(ultimo);
 }
 
 void Vacas::Construir() {
-    auto* todo = new QVBoxLayout(this);
-    todo->addWidget(CrearCabecera());
-    todo->addWidget(m_tab, 1);
-    todo->addWidget(&Barra());
+    Cuerpo()->addWidget(CrearCabecera());
+    Cuerpo()->addWidget(m_tab, 1);
     m_partos = new PaginaCiclos(Base(), kPartosDeVaca, m_tab);
     m_cubriciones = new PaginaCiclos(Base(), kCubricionesDeVaca, m_tab);
     m_mamitis = new PaginaMamitis(Base(), m_tab);
@@ -63,8 +61,8 @@ void Vacas::Construir() {
     m_tab->addTab(m_cubriciones, QStringLiteral(" Cubriciones "));
     m_tab->addTab(m_mamitis, QStringLiteral(" Mamitis "));
     m_tab->addTab(m_sanidad[0], QStringLiteral(" C.C. "));
-    m_tab->addTab(CrearDesecho(), QStringLiteral(" Desecho "));
-    m_tab->addTab(CrearPatologia(), QStringLiteral(" Patología "));
+    m_tab->addTab(CrearRejilla(m_tab, hoja_vaca::Desecho), QStringLiteral(" Desecho "));
+    m_tab->addTab(CrearRejilla(m_tab, hoja_vaca::Patologia), QStringLiteral(" Patología "));
     m_tab->addTab(m_sanidad[1], QStringLiteral(" IBR/BVD "));
     m_tab->addTab(m_sanidad[2], QStringLiteral(" Neospora "));
     connect(m_tab, &QTabWidget::currentChanged, this, [this](int i) { AlCambiarDePestaña(i); });
@@ -76,16 +74,12 @@ QWidget* Vacas::CrearCabecera() {
     todo->setContentsMargins(0, 0, 0, 0);
     m_ganadero = new EncabezadoGanadero(Base(), 1, cabecera);
     m_ganadero->alBuscar = [this] { BuscarDato(1); };
-    auto* teclas = new QLabel(QStringLiteral("CTRL + E para Controles de Rebaño"), m_ganadero);
-    teclas->setEnabled(false);
-    m_ganadero->layout()->addWidget(teclas);
+    m_ganadero->layout()->addWidget(
+        Explicacion(QStringLiteral("CTRL + E para Controles de Rebaño"), m_ganadero));
     todo->addWidget(m_ganadero);
     todo->addWidget(CrearRejilla(cabecera, hoja_vaca::Cabecera));
-    PonerIconoBusDato(0, Codigo);
-    Campo(FechaBaja).setReadOnly(true);
-    Campo(FechaBaja).setFocusPolicy(Qt::NoFocus);
-    Campo(FechaBaja).setPlaceholderText({});
-    Campo(Crotal).setToolTip(QStringLiteral(
+    PonerIconoBusDato(0, Codigo, "Seleccionar vaca");
+    Campo(Crotal).Explicar(QStringLiteral(
         "Intro busca el crotal; las flechas recorren los que acaban en las mismas cuatro cifras"));
     return cabecera;
 }
@@ -99,22 +93,11 @@ QWidget* Vacas::CrearGeneral() {
         titular->setContentsMargins(0, 10, 0, 2);
         Rejilla()->addWidget(titular, fila, 0, 1, 6);
     }
-    PonerIconoBusDato(2, NombrePadre);
-    PonerIconoBusDato(3, NombreMadre);
+    PonerIconoBusDato(2, NombrePadre, "Seleccionar padre");
+    PonerIconoBusDato(3, NombreMadre, "Seleccionar madre");
     todo->addStretch();
     connect(&Combo("CD_Cularidad"), &QComboBox::activated, this, [this] { ComponerNombre(); });
     return general;
-}
-
-QWidget* Vacas::CrearDesecho() {
-    auto* desecho = CrearRejilla(m_tab, hoja_vaca::Desecho);
-    Campo(campo_vaca::AñoRef).setReadOnly(true);
-    Campo(campo_vaca::AñoRef).setFocusPolicy(Qt::NoFocus);
-    return desecho;
-}
-
-QWidget* Vacas::CrearPatologia() {
-    return CrearRejilla(m_tab, hoja_vaca::Patologia);
 }
 
 void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
@@ -143,6 +126,7 @@ void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
 void Vacas::ConectarTeclas() {
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
             [this] { AbrirObservaciones(); });
+    Campo(Crotal).installEventFilter(this); // before the fields' own
     ConectarPestañas(*m_tab);
 }
 

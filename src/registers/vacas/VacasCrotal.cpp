@@ -4,38 +4,24 @@
 
 #include "frame/Mensajes.h"
 #include "registers/EncabezadoGanadero.h"
+#include "registers/datos/Crotales.h"
 #include "registers/sanidad/PaginaMamitis.h"
 #include "registers/vacas/CamposDeVaca.h"
-#include "registers/vacas/Crotales.h"
 
-#include <QComboBox>
 #include <QKeyEvent>
 
 namespace pastorix {
 
 using namespace campo_vaca;
 
-QString Vacas::Huella() const {
-    QStringList todo;
-    for (const auto& c : kFichaDeVaca.campos)
-        if (c.indice != Crotal && c.columna)
-            todo << Texto(c.indice);
-    for (const auto& c : kFichaDeVaca.combos)
-        todo << Combo(c.nombre).currentText();
-    todo << m_ganadero->Codigo();
-    return todo.join(QChar(0x1f));
-}
-
 bool Vacas::SoloElCrotalCambio() const {
-    return Accion() == 2 && Huella() == m_huella && !m_mamitis->Pendiente();
+    return Modo() == ModoFicha::Modificando && !Hoja().Cambiada(Crotal) &&
+           m_ganadero->Id() == m_ganaderoLeido && !m_mamitis->Pendiente();
 }
 
 void Vacas::IrAVaca(double idVaca) {
-    const bool abandonar = Editando() && !SoloElCrotalCambio();
-    if (abandonar && !Preguntar(this, QStringLiteral("Atención"),
-                                QStringLiteral("Hay cambios sin guardar. ¿Desea perderlos?")))
-        return;
-    if (idVaca != Clave() && !PermiteDejar())
+    const bool sinEdicion = !Editando() || SoloElCrotalCambio();
+    if (sinEdicion ? idVaca != Clave() && !PermiteDejar() : !PermiteCargarOtro())
         return;
     if (CargarFicha(idVaca))
         Campo(Crotal).selectAll();
@@ -58,7 +44,7 @@ void Vacas::Hojear(int paso) {
 
 bool Vacas::eventFilter(QObject* objeto, QEvent* evento) {
     // A cow that is being added has a new tag, which is nobody's yet.
-    if (evento->type() == QEvent::KeyPress && objeto == &Campo(Crotal) && Accion() != 1) {
+    if (evento->type() == QEvent::KeyPress && objeto == &Campo(Crotal) && Modo() != ModoFicha::Añadiendo) {
         const int tecla = static_cast<QKeyEvent&>(*evento).key();
         // Her own tag, or none, asks for nothing: Enter moves on.
         const bool intro = (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) && !Texto(Crotal).isEmpty() &&
@@ -67,12 +53,12 @@ bool Vacas::eventFilter(QObject* objeto, QEvent* evento) {
             try {
                 intro ? BuscarPorCrotal() : Hojear(tecla == Qt::Key_Up ? -1 : 1);
             } catch (const ErrorAlmacen& e) {
-                Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+                MostrarError(e);
             }
             return true;
         }
     }
-    return Ficha::eventFilter(objeto, evento);
+    return QDialog::eventFilter(objeto, evento);
 }
 
 } // namespace pastorix

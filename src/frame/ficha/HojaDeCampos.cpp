@@ -1,0 +1,202 @@
+// Fields over a row: what is shown, told and written. How the controls are made stands in HojaConstruccion.cpp.
+#include "frame/ficha/HojaDeCampos.h"
+
+#include "frame/ficha/Aspecto.h"
+#include "store/Catalogo.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace pastorix {
+
+namespace {
+
+// A key that changes a text, as against one that moves about or asks for something.
+bool EsDeEscritura(const QKeyEvent& e) {
+    if (e.key() == Qt::Key_Delete || e.key() == Qt::Key_Backspace)
+        return true;
+    if (e.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
+    return !e.text().isEmpty() && e.text().at(0).isPrint();
+}
+
+// A value is found in the list by its text, whatever its case. Where texts outside the list are allowed it shows all the same.
+void MostrarEn(QComboBox& combo, const QString& valor) {
+    const int i = combo.findText(valor, Qt::MatchFixedString);
+    combo.setCurrentIndex(std::max(i, 0)); // the first item is the empty one
+    if (i < 0 && combo.isEditable())
+        combo.setEditText(valor);
+}
+
+bool EsCero(const Valor& v) {
+    return !EsNulo(v) && !std::holds_alternative<std::string>(v) && NumeroDe(v) == 0;
+}
+
+} // namespace
+
+HojaDeCampos::HojaDeCampos(const DefinicionHoja& definicion, QWidget* ventana)
+    : QObject(ventana)
+    , m_definicion(definicion)
+    , m_ventana(ventana) {}
+
+void HojaDeCampos::Limpiar() {
+    for (const auto& [indice, campo] : m_campos)
+        campo->Mostrar({});
+    for (const auto& [indice, memo] : m_memos)
+        memo->Poner({});
+    for (const auto& [nombre, combo] : m_combos)
+        MostrarEn(*combo, {});
+    for (const auto& [indice, marca] : m_marcas)
+        marca->setChecked(false);
+    for (const auto& combo : m_definicion.combos)
+        MostrarDetalle(combo);
+    DarPorGuardado();
+}
+
+void HojaDeCampos::Mostrar(Recordset& rs) {
+    for (const auto& c : m_definicion.campos)
+        if (c.columna) {
+            const auto valor = rs[c.columna].Leer();
+            Poner(c.indice, c.ceroVacio && EsCero(valor) ? std::string() : TextoDe(valor));
+        }
+    for (const auto& c : m_definicion.combos)
+        if (c.columna)
+            MostrarEn(Combo(c.nombre), QString::fromStdString(rs[c.columna].Texto()));
+    for (const auto& m : m_definicion.marcas)
+        if (m.columna)
+            Marca(m.indice).setChecked(rs[m.columna].Numero() != 0);
+    for (const auto& combo : m_definicion.combos)
+        MostrarDetalle(combo);
+    DarPorGuardado();
+}
+
+void HojaDeCampos::Escribir(Recordset& rs) const {
+    for (const auto& c : m_definicion.campos) {
+        if (!c.columna || c.clase == ClaseCampo::Codigo)
+            continue;
+        const auto texto = TextoStd(c.indice);
+        if (!(c.ceroVacio && texto.empty() && EsCero(rs[c.columna].Leer())))
+            EscribirTexto(rs[c.columna], texto, c.clase, c.siNoVale);
+    }
+    for (const auto& c : m_definicion.combos)
+        if (c.columna)
+            EscribirElegido(rs[c.columna], Combo(c.nombre).currentText().toStdString());
+    for (const auto& m : m_definicion.marcas) {
+        const bool puesta = Marca(m.indice).isChecked();
+        if (m.columna && (rs[m.columna].Nulo() || (rs[m.columna].Numero() != 0) != puesta))
+            rs[m.columna] = puesta ? 1 : 0;
+    }
+}
+
+QMap<QString, QString> HojaDeCampos::Contenido() const {
+    QMap<QString, QString> todo;
+    for (const auto& c : m_definicion.campos)
+        if (!c.derivado && Tiene(c.indice))
+            todo[QString::number(c.indice)] = Texto(c.indice);
+    for (const auto& [nombre, combo] : m_combos)
+        todo[combo->objectName()] = combo->currentText();
+    for (const auto& [indice, marca] : m_marcas)
+        todo[marca->objectName()] = QString::number(marca->isChecked());
+    return todo;
+}
+
+void HojaDeCampos::DarPorGuardado() {
+    m_mostrado = Contenido();
+}
+
+bool HojaDeCampos::Cambiada(int excepto) const {
+    auto ahora = Contenido();
+    if (const auto clave = QString::number(excepto); ahora.contains(clave))
+        ahora[clave] = m_mostrado.value(clave);
+    return ahora != m_mostrado;
+}
+
+QLabel* HojaDeCampos::CrearPie(QWidget* padre) {
+    m_pie = new QLabel(padre);
+    m_pie->setObjectName(QStringLiteral("Reparos"));
+    m_pie->setWordWrap(true);
+    m_pie->hide();
+    return m_pie;
+}
+
+void HojaDeCampos::Reparar() {
+    if (!m_pie)
+        return;
+    QStringList reparos;
+    for (const auto& c : m_definicion.campos)
+        if (const auto it = m_campos.find(c.indice); it != m_campos.end() && it->second->NoEsFecha())
+            reparos << it->second->accessibleName() + QStringLiteral(" «") + it->second->text() +
+                           QStringLiteral("»: ") + it->second->Señal();
+    m_pie->setText(reparos.join(QStringLiteral(". ")));
+    m_pie->setVisible(!reparos.isEmpty());
+}
+
+std::string HojaDeCampos::TextoStd(int indice) const {
+    const auto memo = m_memos.find(indice);
+    return memo != m_memos.end() ? memo->second->Texto() : Campo(indice).text().toStdString();
+}
+
+void HojaDeCampos::Poner(int indice, const std::string& texto) {
+    if (const auto memo = m_memos.find(indice); memo != m_memos.end())
+        memo->second->Poner(texto);
+    else
+        Campo(indice).Mostrar(QString::fromStdString(texto));
+}
+
+void HojaDeCampos::Elegir(std::string_view nombre, const std::string& texto) {
+    MostrarEn(Combo(nombre), QString::fromStdString(texto));
+}
+
+int HojaDeCampos::AnchuraDe(const char* columna) const {
+    const auto* tabla = CatalogoCanonico(ClaseDeBase::Principal).Buscar(m_definicion.tabla);
+    const int lugar = tabla ? tabla->Buscar(columna) : -1;
+    return lugar < 0 ? 0 : tabla->columnas[static_cast<std::size_t>(lugar)].anchura;
+}
+
+// --- keys and focus
+
+void HojaDeCampos::Editar() {
+    if (alEditar)
+        alEditar();
+}
+
+bool HojaDeCampos::Tecla(QWidget& campo, const QKeyEvent& tecla) {
+    const bool intro = tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
+    if (const auto* memo = qobject_cast<QPlainTextEdit*>(&campo)) {
+        if (!memo->isReadOnly() && (intro || EsDeEscritura(tecla)))
+            Editar(); // Enter is a line break there
+        return false;
+    }
+    if (intro) {
+        if (!alConfirmar || !alConfirmar(campo))
+            PasarAlSiguiente(*m_ventana, trasElUltimo);
+        return true;
+    }
+    // A code is typed to go to its record, which changes nothing.
+    const auto* linea = dynamic_cast<const CampoTexto*>(&campo);
+    if (linea && linea->Clase() != ClaseCampo::Codigo && !linea->isReadOnly() && EsDeEscritura(tecla))
+        Editar();
+    return false;
+}
+
+bool HojaDeCampos::eventFilter(QObject* objeto, QEvent* evento) {
+    if (EsRuedaAjena(objeto, *evento))
+        return true;
+    if (!objeto->isWidgetType())
+        return false;
+    auto& campo = static_cast<QWidget&>(*objeto);
+    if (evento->type() == QEvent::KeyPress)
+        return Tecla(campo, static_cast<QKeyEvent&>(*evento));
+    if (evento->type() == QEvent::FocusOut && alDejar) {
+        const auto razon = static_cast<QFocusEvent&>(*evento).reason();
+        if (razon != Qt::ActiveWindowFocusReason && razon != Qt::PopupFocusReason && razon != Qt::MenuBarFocusReason)
+            alDejar(campo);
+    }
+    return false;
+}
+
+} // namespace pastorix

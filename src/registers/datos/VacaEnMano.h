@@ -1,0 +1,20 @@
+#pragma once
+
+#include "registers/datos/CiclosDeVaca.h"
+
+#include <string>
+
+namespace pastorix {
+
+// The cow on the open sheet, as the sheets of her cycles see her: values as they stand in her fields at that moment.
+struct VacaEnMano {
+    double idVaca = 0;
+    double idGanadero = 0;
+    std::string nombreC;
+    std::string añoDeBaja;    // reference year of her last mating record when she is out of the herd, else ""
+    std::string fechaCompra;  // dates as dd/mm/yy
+    std::string fechaBaja;    // as stored
+    std::string fechaDesecho; // as it stands in its field, perhaps not saved yet
+};
+
+} // namespace pastorix
