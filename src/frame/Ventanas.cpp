@@ -26,9 +26,12 @@ public:
         });
     }
     QSize sizeHint() const override {
-        return widget() ? widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) : QScrollArea::sizeHint();
+        return widget() ? widget()->sizeHint().expandedTo(widget()->minimumSizeHint())
+                        : QScrollArea::sizeHint();
     }
-    QSize minimumSizeHint() const override { return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 4}; }
+    QSize minimumSizeHint() const override {
+        return {fontMetrics().averageCharWidth() * 30, fontMetrics().height() * 4};
+    }
 };
 
 QRect Disponible(const QWidget& ventana) {

@@ -106,7 +106,9 @@ private Q_SLOTS:
         QCOMPARE(Encendidos(f), QStringLiteral("AMER"));
         CampoDe(f, 17)->setFocus();
         QGuiApplication::clipboard()->setText(QString(200, QLatin1Char('x')));
-        QTest::keyClick(CampoDe(f, 17), Qt::Key_V, Qt::ControlModifier); // pasting is typing; what does not fit the column does not go in
+        QTest::keyClick(
+            CampoDe(f, 17), Qt::Key_V,
+            Qt::ControlModifier); // pasting is typing; what does not fit the column does not go in
         QCOMPARE(Encendidos(f), QStringLiteral("GC"));
         QCOMPARE(CampoDe(f, 17)->text().size(), 50);
         for (const int i : {7, 13})

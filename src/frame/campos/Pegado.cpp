@@ -29,7 +29,9 @@ QString Filtrado(const QString& texto, ClaseCampo clase) {
 namespace {
 
 bool Casa(const QString& texto, const char* patron) {
-    return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(patron))).match(texto).hasMatch();
+    return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(patron)))
+        .match(texto)
+        .hasMatch();
 }
 
 // Spreadsheets put no-break and thin blanks between thousands.
@@ -40,7 +42,8 @@ QString SinBlancos(QString texto) {
 
 Pegado Fechado(const QString& texto) {
     auto t = texto.simplified();
-    if (const auto iso = QRegularExpression(QStringLiteral("^(\\d{4})-(\\d{1,2})-(\\d{1,2})")).match(t); iso.hasMatch())
+    if (const auto iso = QRegularExpression(QStringLiteral("^(\\d{4})-(\\d{1,2})-(\\d{1,2})")).match(t);
+        iso.hasMatch())
         t = iso.captured(3) + QLatin1Char('/') + iso.captured(2) + QLatin1Char('/') + iso.captured(1);
     t.replace(QRegularExpression(QStringLiteral("[-.]")), QStringLiteral("/"));
     return {Filtrado(t.section(QLatin1Char(' '), 0, 0), ClaseCampo::Fecha), {}, true};
@@ -50,7 +53,8 @@ Pegado Fechado(const QString& texto) {
 Pegado Numerado(const QString& texto, ClaseCampo clase) {
     auto t = SinBlancos(texto);
     const bool entero = clase == ClaseCampo::Numero || clase == ClaseCampo::Codigo;
-    if (Casa(t, "-?\\d{1,3}(\\.\\d{3})+(,\\d*)?") && (entero || t.contains(QLatin1Char(',')) || t.count(QLatin1Char('.')) > 1))
+    if (Casa(t, "-?\\d{1,3}(\\.\\d{3})+(,\\d*)?") &&
+        (entero || t.contains(QLatin1Char(',')) || t.count(QLatin1Char('.')) > 1))
         t.remove(QLatin1Char('.'));
     else if (Casa(t, "-?\\d{1,3}(,\\d{3})+\\.\\d*") || (entero && Casa(t, "\\d{1,3}(,\\d{3}){2,}")))
         t.remove(QLatin1Char(',')).replace(QLatin1Char('.'), QLatin1Char(','));

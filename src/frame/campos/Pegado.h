@@ -16,8 +16,9 @@ QString Filtrado(const QString& texto, ClaseCampo clase);
 // comma for numbers, strokes between the parts of a date.
 struct Pegado {
     QString texto;
-    QString otraLectura; // where a point can be either ("1.234" beside decimals): what it is as a thousands separator
-    bool cabe = true;    // false: the field cannot hold it (12,5 among whole numbers)
+    QString
+        otraLectura; // where a point can be either ("1.234" beside decimals): what it is as a thousands separator
+    bool cabe = true; // false: the field cannot hold it (12,5 among whole numbers)
 };
 Pegado LeerPegado(const QString& texto, ClaseCampo clase);
 

@@ -20,8 +20,8 @@ enum class ClaseCampo {
 };
 
 inline bool EsNumerica(ClaseCampo clase) {
-    return clase == ClaseCampo::Decimal || clase == ClaseCampo::DecimalPunto || clase == ClaseCampo::ConSigno ||
-           clase == ClaseCampo::Numero;
+    return clase == ClaseCampo::Decimal || clase == ClaseCampo::DecimalPunto ||
+           clase == ClaseCampo::ConSigno || clase == ClaseCampo::Numero;
 }
 
 // What a save does with a date or number that is none.

@@ -122,8 +122,8 @@ void HojaDeCampos::Vigilar(QWidget* control) {
 void HojaDeCampos::MostrarDetalle(const ComboFicha& c) {
     if (!c.itemDetallado || !Tiene(c.campoDetalle))
         return;
-    const bool suyo = Combo(c.nombre).currentText().compare(QString::fromUtf8(c.itemDetallado),
-                                                            Qt::CaseInsensitive) == 0;
+    const bool suyo =
+        Combo(c.nombre).currentText().compare(QString::fromUtf8(c.itemDetallado), Qt::CaseInsensitive) == 0;
     const bool visible = suyo || !Texto(c.campoDetalle).isEmpty();
     Campo(c.campoDetalle).setVisible(visible);
     m_rotulos.at(c.campoDetalle)->setVisible(visible);
@@ -135,8 +135,9 @@ QWidget* HojaDeCampos::CrearCampo(const CampoFicha& c, QWidget* padre) {
         campo = m_memos[c.indice] = CrearMemo(padre);
     else
         campo = m_campos[c.indice] = CrearLinea(c, padre);
-    campo->setObjectName(c.control ? QString::fromUtf8(c.control)
-                                   : QStringLiteral("%1(%2)").arg(QString::fromUtf8(m_definicion.arreglo)).arg(c.indice));
+    campo->setObjectName(
+        c.control ? QString::fromUtf8(c.control)
+                  : QStringLiteral("%1(%2)").arg(QString::fromUtf8(m_definicion.arreglo)).arg(c.indice));
     campo->setAccessibleName(SinLetra(*c.nombreAccesible ? c.nombreAccesible : c.rotulo));
     Explicar(*campo, c.explicacion);
     campo->installEventFilter(this);

@@ -119,6 +119,9 @@ QLabel* HojaDeCampos::CrearPie(QWidget* padre) {
     m_pie = new QLabel(padre);
     m_pie->setObjectName(QStringLiteral("Reparos"));
     m_pie->setWordWrap(true);
+    auto sitio = m_pie->sizePolicy();
+    sitio.setRetainSizeWhenHidden(true); // what stands above it does not jump
+    m_pie->setSizePolicy(sitio);
     m_pie->hide();
     return m_pie;
 }
@@ -193,7 +196,8 @@ bool HojaDeCampos::eventFilter(QObject* objeto, QEvent* evento) {
         return Tecla(campo, static_cast<QKeyEvent&>(*evento));
     if (evento->type() == QEvent::FocusOut && alDejar) {
         const auto razon = static_cast<QFocusEvent&>(*evento).reason();
-        if (razon != Qt::ActiveWindowFocusReason && razon != Qt::PopupFocusReason && razon != Qt::MenuBarFocusReason)
+        if (razon != Qt::ActiveWindowFocusReason && razon != Qt::PopupFocusReason &&
+            razon != Qt::MenuBarFocusReason)
             alDejar(campo);
     }
     return false;

@@ -32,7 +32,8 @@ public:
     QWidget* CrearRejilla(QWidget* padre, int hoja = 0);
     QGridLayout* Rejilla() const { return m_rejilla; } // of the one made last, for controls between them
     // The search icon beside a field; it shares the field's cell.
-    QToolButton* PonerIcono(int icono, int indiceCampo, const QString& nombre, std::function<void()> alPulsar);
+    QToolButton* PonerIcono(int icono, int indiceCampo, const QString& nombre,
+                            std::function<void()> alPulsar);
     // A further control, of whose changes the owner hears like of the fields'.
     void Vigilar(QWidget* control);
 
@@ -62,10 +63,12 @@ public:
     // A line that says what will not be stored as it stands; not there while there is nothing to say.
     QLabel* CrearPie(QWidget* padre);
 
-    std::function<void()> alEditar;                  // the user is about to change something, or just has
-    std::function<void(QWidget& campo)> alDejar;     // the focus left a field; a box or another window over the sheet is no leaving
-    std::function<bool(QWidget& campo)> alConfirmar; // Enter in a field; true: it was the owner's affair, else the focus moves on
-    const QWidget* trasElUltimo = nullptr;           // the button that Enter goes to from the last field
+    std::function<void()> alEditar; // the user is about to change something, or just has
+    std::function<void(QWidget& campo)>
+        alDejar; // the focus left a field; a box or another window over the sheet is no leaving
+    std::function<bool(QWidget& campo)>
+        alConfirmar; // Enter in a field; true: it was the owner's affair, else the focus moves on
+    const QWidget* trasElUltimo = nullptr; // the button that Enter goes to from the last field
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;

@@ -6,8 +6,8 @@
 namespace pastorix {
 
 DatosGanadero LeerDatosGanadero(Conexion& c, double idGanadero) {
-    Recordset rs(c, "Select * FROM T_Ganaderos WHERE Id_Ganadero = " + NumeroSql(idGanadero), Cursor::Estatico,
-                 Bloqueo::SoloLectura);
+    Recordset rs(c, "Select * FROM T_Ganaderos WHERE Id_Ganadero = " + NumeroSql(idGanadero),
+                 Cursor::Estatico, Bloqueo::SoloLectura);
     if (rs.Eof())
         return {};
     DatosGanadero datos{rs["Apodo"].Texto(), {}};

@@ -13,23 +13,15 @@ constexpr AspectoColumna kIPR[] = {
 };
 
 constexpr AspectoColumna kAlimentacion[] = {
-    {"Año Natural", 6, "Ct_AI(0)"},
-    {"Inicio Periodo Invernal", 10, "Ct_AI(1)"},
-    {"Fin Periodo Invernal", 10, "Ct_AI(2)"},
-    {"Alimentación Vacas", 12, "Cd_AI(3)"},
-    {"Alimentación Nov.", 12, "Cd_AI(4)"},
-    {"Alimentación Per. Inv.", 12, "Cd_AI(5)"},
+    {"Año Natural", 6, "Ct_AI(0)"},           {"Inicio Periodo Invernal", 10, "Ct_AI(1)"},
+    {"Fin Periodo Invernal", 10, "Ct_AI(2)"}, {"Alimentación Vacas", 12, "Cd_AI(3)"},
+    {"Alimentación Nov.", 12, "Cd_AI(4)"},    {"Alimentación Per. Inv.", 12, "Cd_AI(5)"},
 };
 
 constexpr AspectoColumna kSuperficie[] = {
-    {"Año Natural", 6, "Ct_As(0)"},
-    {"Has. no comunales", 8, "Ct_As(1)"},
-    {"Has. propias", 8, "Ct_As(2)"},
-    {"Has. abonadas", 8, "Ct_As(3)"},
-    {"Abonado N", 8, "Ct_As(4)"},
-    {"Abonado P", 8, "Ct_As(5)"},
-    {"Abonado K", 8, "Ct_As(6)"},
-    {"Abonado", 12, "Cd_As(7)"},
+    {"Año Natural", 6, "Ct_As(0)"},   {"Has. no comunales", 8, "Ct_As(1)"}, {"Has. propias", 8, "Ct_As(2)"},
+    {"Has. abonadas", 8, "Ct_As(3)"}, {"Abonado N", 8, "Ct_As(4)"},         {"Abonado P", 8, "Ct_As(5)"},
+    {"Abonado K", 8, "Ct_As(6)"},     {"Abonado", 12, "Cd_As(7)"},
 };
 
 constexpr AspectoColumna kPastos[] = {
@@ -46,10 +38,8 @@ constexpr AspectoColumna kPastos[] = {
 };
 
 constexpr AspectoColumna kVacunaciones[] = {
-    {"Año Natural", 6, "Ct_Vacu(0)"},
-    {"Proc.Respiratorios", 22, "Ct_Vacu(1)"},
-    {"Proc.Digestivos", 22, "Ct_Vacu(2)"},
-    {"Proc.Reproductivos", 22, "Ct_Vacu(3)"},
+    {"Año Natural", 6, "Ct_Vacu(0)"},      {"Proc.Respiratorios", 22, "Ct_Vacu(1)"},
+    {"Proc.Digestivos", 22, "Ct_Vacu(2)"}, {"Proc.Reproductivos", 22, "Ct_Vacu(3)"},
     {"Parainmunidad", 22, "Ct_Vacu(4)"},
 };
 
@@ -87,27 +77,32 @@ constexpr DefinicionLineas PorAños(const char* rejilla, const char* nombre, con
 }
 
 const auto kLineasIPR = PorAños("GridIPR", "Inicio del periodo reproductivo por años", kMateriaIPR, kIPR);
-const auto kLineasAlimentacion = PorAños("GridAI", "Alimentación invernal por años", kMateriaAlimentacion, kAlimentacion);
-const auto kLineasSuperficie = PorAños("GridMAS", "Abonado y superficie por años", kMateriaSuperficie, kSuperficie);
+const auto kLineasAlimentacion =
+    PorAños("GridAI", "Alimentación invernal por años", kMateriaAlimentacion, kAlimentacion);
+const auto kLineasSuperficie =
+    PorAños("GridMAS", "Abonado y superficie por años", kMateriaSuperficie, kSuperficie);
 const auto kLineasPastos = PorAños("GridPastosC", "Pastos comunales por años", kMateriaPastos, kPastos);
-const auto kLineasVacunaciones = PorAños("GridVacu", "Vacunaciones por años", kMateriaVacunaciones, kVacunaciones);
+const auto kLineasVacunaciones =
+    PorAños("GridVacu", "Vacunaciones por años", kMateriaVacunaciones, kVacunaciones);
 const auto kLineasFechasVacu = PorAños("GridFVacu", "Fechas de vacunación", kMateriaFechasVacu, kFechasVacu);
-const auto kLineasSistema = PorAños("GridSP", "Resumen y sistema de producción por años", kMateriaSistema, kSistema);
+const auto kLineasSistema =
+    PorAños("GridSP", "Resumen y sistema de producción por años", kMateriaSistema, kSistema);
 
 } // namespace
 
 const DefinicionMateria kHojaIPR{
     "Inicio Periodo Reproductivo", kMateriaIPR, kLineasIPR, "Ct_ObsIPR", "B_GuardarIPR", "B_CancelarIPR"};
-const DefinicionMateria kHojaAlimentacion{
-    "Alimentación Invernal", kMateriaAlimentacion, kLineasAlimentacion, "Ct_ObsAI", "B_GuardarObsAI", "B_CancelarObsAI"};
-const DefinicionMateria kHojaVacunaciones{
-    "Vacunaciones", kMateriaVacunaciones, kLineasVacunaciones, "Ct_ObsVacu", "B_GuardarObsVacu", "B_CancelarObsVacu"};
+const DefinicionMateria kHojaAlimentacion{"Alimentación Invernal", kMateriaAlimentacion,
+                                          kLineasAlimentacion,     "Ct_ObsAI",
+                                          "B_GuardarObsAI",        "B_CancelarObsAI"};
+const DefinicionMateria kHojaVacunaciones{"Vacunaciones", kMateriaVacunaciones, kLineasVacunaciones,
+                                          "Ct_ObsVacu",   "B_GuardarObsVacu",   "B_CancelarObsVacu"};
 const DefinicionMateria kHojaFechasVacu{"Fechas de vacunación", kMateriaFechasVacu, kLineasFechasVacu};
-const DefinicionMateria kHojaSuperficie{
-    "Abon. y Superf.", kMateriaSuperficie, kLineasSuperficie, "Ct_ObsAs", "B_GuardarObsAs", "B_CancelarObsAs"};
-const DefinicionMateria kHojaSistema{
-    "Sistema de Producción", kMateriaSistema, kLineasSistema, "Ct_ObsSP", "B_GuardarSP", "B_CancelarSP"};
-const DefinicionMateria kHojaPastos{
-    "Pastos Comunales", kMateriaPastos, kLineasPastos, "CT_ObsPC", "B_GuardarObsPC", "B_CancelarObsPC"};
+const DefinicionMateria kHojaSuperficie{"Abon. y Superf.", kMateriaSuperficie, kLineasSuperficie,
+                                        "Ct_ObsAs",        "B_GuardarObsAs",   "B_CancelarObsAs"};
+const DefinicionMateria kHojaSistema{"Sistema de Producción", kMateriaSistema, kLineasSistema, "Ct_ObsSP",
+                                     "B_GuardarSP",           "B_CancelarSP"};
+const DefinicionMateria kHojaPastos{"Pastos Comunales", kMateriaPastos,   kLineasPastos,
+                                    "CT_ObsPC",         "B_GuardarObsPC", "B_CancelarObsPC"};
 
 } // namespace pastorix
