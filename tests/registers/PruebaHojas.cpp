@@ -6,8 +6,8 @@
 #include "registers/Ganaderos.h"
 #include "registers/Veterinarios.h"
 #include "registers/datos/AsuntosSanidad.h"
-#include "registers/datos/Materia.h"
 #include "registers/datos/Mamitis.h"
+#include "registers/datos/Materia.h"
 #include "registers/datos/PatologiasSemental.h"
 #include "registers/vacas/Vacas.h"
 
@@ -49,7 +49,8 @@ private Q_SLOTS:
         QCOMPARE(p.cajas.Vistas().size(), 1);
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(p.Texto("SELECT NombreVet, Usuario FROM T_Veterinarios"), std::string("Ana|ana"));
-        QVERIFY(f.findChild<QLabel*>(QStringLiteral("Estado"))->text().startsWith(QStringLiteral("Guardado ")));
+        QVERIFY(
+            f.findChild<QLabel*>(QStringLiteral("Estado"))->text().startsWith(QStringLiteral("Guardado ")));
     }
 
     // What a column holds beyond what the field shows: centuries, long texts, texts that are no dates.
@@ -84,18 +85,24 @@ private Q_SLOTS:
         QVERIFY(crudo() == antes);
         Teclear(f, 13, "");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 16"), std::string("-|-"));
+        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 16"),
+                 std::string("-|-"));
     }
 
     // Rows deleted to be written anew, and one of them cannot be: all are as they were.
     void ConjuntosEnteros_data() {
         QTest::addColumn<QString>("indice"); // that the rewrite trips over
         QTest::addColumn<QString>("tabla");
-        QTest::newRow("farm years") << "T_IPR (IPRPrimNov)" << "T_IPR";
-        QTest::newRow("health, cycles") << "T_CCVacas (CCmar)" << "T_CCVacas";
-        QTest::newRow("health, years") << "T_CCNATVACAS (CCmar)" << "T_CCNATVACAS";
-        QTest::newRow("teats") << "T_Mamitis (DescMamitis)" << "T_Mamitis";
-        QTest::newRow("bull") << "T_PatologiaSem (IBRsp)" << "T_PatologiaSem";
+        QTest::newRow("farm years") << "T_IPR (IPRPrimNov)"
+                                    << "T_IPR";
+        QTest::newRow("health, cycles") << "T_CCVacas (CCmar)"
+                                        << "T_CCVacas";
+        QTest::newRow("health, years") << "T_CCNATVACAS (CCmar)"
+                                       << "T_CCNATVACAS";
+        QTest::newRow("teats") << "T_Mamitis (DescMamitis)"
+                               << "T_Mamitis";
+        QTest::newRow("bull") << "T_PatologiaSem (IBRsp)"
+                              << "T_PatologiaSem";
     }
     void ConjuntosEnteros() {
         QFETCH(QString, indice);
@@ -107,7 +114,8 @@ private Q_SLOTS:
             const auto marca = std::to_string(año);
             p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}, {"IPRPrimNov", marca}});
             p.Poner("T_Cubriciones", {{"Id_Vaca", 1.0}, {"Año_Ref", año}, {"N_Parto", año}});
-            p.Poner("T_CCVacas", {{"Id_Vaca", 1.0}, {"AñoRef", año}, {"NumParto", año}, {"CCmar", double(año)}});
+            p.Poner("T_CCVacas",
+                    {{"Id_Vaca", 1.0}, {"AñoRef", año}, {"NumParto", año}, {"CCmar", double(año)}});
             p.Poner("T_CCNATVACAS", {{"Id_Vaca", 1.0}, {"AñoNat", año}, {"CCmar", double(año)}});
             p.Poner("T_PatologiaSem", {{"Id_Animal", 9.0}, {"ANatural", año}, {"IBRsp", marca}});
         }

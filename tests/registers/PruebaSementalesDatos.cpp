@@ -57,7 +57,7 @@ private Q_SLOTS:
                                                 {"", "2017", ""},
                                                 {"31/2/11", "2017", ""},
                                                 {"1/1/11", "", ""}})
-            QCOMPARE(EdadEnAño(nacido, año), std::string(edad));
+            QCOMPARE(EdadEnAño(FechaDeTexto(nacido), año), std::string(edad));
     }
 
     void NombreYBorrado() {

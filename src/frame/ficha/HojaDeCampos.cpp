@@ -54,6 +54,7 @@ void HojaDeCampos::Limpiar() {
         marca->setChecked(false);
     for (const auto& combo : m_definicion.combos)
         MostrarDetalle(combo);
+    m_fechas.clear();
     DarPorGuardado();
 }
 
@@ -61,6 +62,8 @@ void HojaDeCampos::Mostrar(Recordset& rs) {
     for (const auto& c : m_definicion.campos)
         if (c.columna) {
             const auto valor = rs[c.columna].Leer();
+            if (c.clase == ClaseCampo::Fecha)
+                m_fechas[c.indice] = valor;
             Poner(c.indice, c.ceroVacio && EsCero(valor) ? std::string() : TextoDe(valor));
         }
     for (const auto& c : m_definicion.combos)
@@ -148,6 +151,14 @@ void HojaDeCampos::Poner(int indice, const std::string& texto) {
         memo->second->Poner(texto);
     else
         Campo(indice).Mostrar(QString::fromStdString(texto));
+}
+
+std::optional<Fecha> HojaDeCampos::FechaDe(int indice) const {
+    const auto texto = TextoStd(indice);
+    if (const auto leida = m_fechas.find(indice); leida != m_fechas.end() && Intacto(leida->second, texto))
+        if (const auto* fecha = std::get_if<Fecha>(&leida->second))
+            return *fecha;
+    return FechaDeTexto(texto);
 }
 
 void HojaDeCampos::Elegir(std::string_view nombre, const std::string& texto) {

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -56,6 +57,9 @@ public:
     std::string TextoStd(int indice) const;
     QString Texto(int indice) const { return QString::fromStdString(TextoStd(indice)); }
     void Poner(int indice, const std::string& texto);
+    // The date in a field: the stored one while nobody touched it, for the field shows no more than two figures of its year; else what the text
+    // says, if it is a date.
+    std::optional<Fecha> FechaDe(int indice) const;
     // The item of that text, whatever its case; none when the list has no such item.
     void Elegir(std::string_view nombre, const std::string& texto);
     int AnchuraDe(const char* columna) const; // most characters that the column takes; 0 no limit
@@ -95,6 +99,7 @@ private:
     std::map<std::string, QComboBox*, std::less<>> m_combos;
     std::map<int, QCheckBox*> m_marcas;
     QMap<QString, QString> m_mostrado; // what nobody has touched, by field
+    std::map<int, Valor> m_fechas;     // of the row that is shown
 };
 
 } // namespace pastorix

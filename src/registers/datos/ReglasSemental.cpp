@@ -16,13 +16,12 @@ std::string CodigoDeSemental(Conexion& c, double idGanadero) {
     return n >= idGanadero ? TextoNumero(n) : TextoNumero(idGanadero) + FormatoNumero(n, "000");
 }
 
-std::string EdadEnAño(std::string_view fechaNac, std::string_view año) {
-    const auto nacimiento = FechaDeTexto(fechaNac);
+std::string EdadEnAño(std::optional<Fecha> fechaNac, std::string_view año) {
     double n = 0;
-    if (!nacimiento || !NumeroDeTexto(año, n) || n < 0)
+    if (!fechaNac || !NumeroDeTexto(año, n) || n < 0)
         return {};
     const auto julio = FechaDeTexto("1/7/" + FormatoNumero(std::fmod(std::trunc(n), 100), "00"));
-    return julio ? std::to_string(julio->Año() - nacimiento->Año()) : std::string();
+    return julio ? std::to_string(julio->Año() - fechaNac->Año()) : std::string();
 }
 
 void ExtenderNombre(Conexion& c, std::string_view nombreC, double idSemental) {

@@ -2,6 +2,7 @@
 
 #include "store/Conexion.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,7 +14,7 @@ std::string CodigoDeSemental(Conexion& c, double idGanadero);
 
 // Age in whole years on 1 July of a natural year, counted as calendar-year boundaries since the birth date; "" without a valid birth
 // date or year. The year goes by its last two digits, as dates of the sheets do.
-std::string EdadEnAño(std::string_view fechaNac, std::string_view año);
+std::string EdadEnAño(std::optional<Fecha> fechaNac, std::string_view año);
 
 // Carries a bull's name to the copies of it that past services and calvings hold. Throws ErrorAlmacen for a name with an apostrophe.
 void ExtenderNombre(Conexion& c, std::string_view nombreC, double idSemental);

@@ -90,10 +90,10 @@ void PonerInvierno(Conexion& c, const std::string& donde, AñoResumido& r) {
     auto rs = Abrir(c, "Select InicioPI, FinPI, AlimPI FROM T_AlimentacionInvernal" + donde);
     if (rs.Eof())
         return;
-    const auto inicio = rs["InicioPI"].Texto();
-    const auto fin = rs["FinPI"].Texto();
-    if (EsFechaValida(inicio) && EsFechaValida(fin))
-        r.diasPI = DiasEntre(inicio, fin);
+    const auto inicio = rs["InicioPI"].FechaValor();
+    const auto fin = rs["FinPI"].FechaValor();
+    if (inicio && fin)
+        r.diasPI = TextoNumero(fin->dia - inicio->dia);
     r.alimPI = rs["AlimPI"].Texto();
 }
 

@@ -11,10 +11,11 @@ struct VacaEnMano {
     double idVaca = 0;
     double idGanadero = 0;
     std::string nombreC;
-    std::string añoDeBaja;    // reference year of her last mating record when she is out of the herd, else ""
-    std::string fechaCompra;  // dates as dd/mm/yy
-    std::string fechaBaja;    // as stored
-    std::string fechaDesecho; // as it stands in its field, perhaps not saved yet
+    std::string crotal;
+    std::string añoDeBaja; // reference year of her last mating record when she is out of the herd, else ""
+    std::optional<Fecha> fechaCompra;
+    std::optional<Fecha> fechaBaja;    // as stored
+    std::optional<Fecha> fechaDesecho; // as it stands in its field, perhaps not saved yet
 };
 
 } // namespace pastorix

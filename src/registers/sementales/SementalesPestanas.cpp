@@ -59,7 +59,9 @@ QWidget* Sementales::CrearPatologias() {
     int fila = 0;
     for (const auto* d : {&RejillaSem(), &RejillaSemR()}) {
         auto* rejilla = new RejillaPatologia(*d, patologias);
-        rejilla->edadDe = [this](const std::string& año) { return EdadEnAño(TextoStd(kFechaNac), año); };
+        rejilla->edadDe = [this](const std::string& año) {
+            return EdadEnAño(Hoja().FechaDe(kFechaNac), año);
+        };
         rejilla->antesDeQuitar = [this] { EntrarEnModificar(); };
         rejilla->alCambiar = [this, rejilla] { GuardarRejilla(*rejilla); };
         todo->addWidget(Seccion(d->nombre, patologias), fila * 2, 0);

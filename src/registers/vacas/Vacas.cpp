@@ -30,13 +30,9 @@ void Vacas::AbrirParaAñadir(double idGanadero) {
 }
 
 VacaEnMano Vacas::EnMano() const {
-    return {Clave(),
-            m_ganadero->Id().value_or(0),
-            TextoStd(NombreC),
-            TextoStd(campo_vaca::AñoRef),
-            TextoStd(FechaCompra),
-            TextoStd(FechaBaja),
-            TextoStd(FechaDesecho)};
+    return {Clave(),          m_ganadero->Id().value_or(0), TextoStd(NombreC),
+            TextoStd(Crotal), TextoStd(campo_vaca::AñoRef), Hoja().FechaDe(FechaCompra),
+            m_fechaBaja,      Hoja().FechaDe(FechaDesecho)};
 }
 
 // --- adding
@@ -75,6 +71,7 @@ void Vacas::MostrarPropios(Recordset& rs) {
     else
         m_ganadero->Poner(rs["Id_Ganadero"].Numero());
     m_ganaderoLeido = m_ganadero->Id();
+    m_fechaBaja = rs["FechaBaja"].FechaValor();
     Poner(FechaBaja, rs["FechaBaja"].Texto());
     Poner(campo_vaca::AñoRef, rs["FechaBaja"].Nulo() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
     MostrarPaginas();

@@ -81,6 +81,7 @@ private:
     PaginaMamitis* m_mamitis = nullptr;
     std::array<PaginaSanidad*, 3> m_sanidad{}; // C.C., IBR/BVD, Neospora: each saves itself
     VacaEnHoja m_mostrada;                     // the cow that they show
+    std::optional<Fecha> m_fechaBaja;          // as stored
     std::optional<double> m_ganaderoLeido;     // her farmer in the database
     QString m_crotal;                          // her tag as it was read
     QString m_nombre;                          // the name that Nombre-C was last composed of
