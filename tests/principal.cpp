@@ -1,6 +1,12 @@
 #include "prueba.h"
 
+#ifdef QT_WIDGETS_LIB
 #include <QApplication>
+using Aplicacion = QApplication;
+#else
+#include <QCoreApplication>
+using Aplicacion = QCoreApplication;
+#endif
 #include <QDir>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -51,7 +57,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(true);
-    QApplication app(argc, argv);
+    Aplicacion app(argc, argv);
     manejadorAnterior = qInstallMessageHandler(Manejar);
 
     int fallos = 0;

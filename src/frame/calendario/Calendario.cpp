@@ -81,7 +81,11 @@ std::string DiasEntre(std::string_view desde, std::string_view hasta) {
 
 std::string PesoInterpolado(int pesoFinal, int pesoInicial, std::string_view fechaFinal,
                             std::string_view fechaInicial, int edad) {
-    const int dias = FechaExigida(fechaFinal).dia - FechaExigida(fechaInicial).dia;
+    return PesoInterpolado(pesoFinal, pesoInicial,
+                           FechaExigida(fechaFinal).dia - FechaExigida(fechaInicial).dia, edad);
+}
+
+std::string PesoInterpolado(int pesoFinal, int pesoInicial, int dias, int edad) {
     if (dias <= 0)
         return {};
     const double estimado = static_cast<double>(pesoFinal - pesoInicial) / dias * edad + pesoInicial;

@@ -38,4 +38,7 @@ std::string DiasEntre(std::string_view desde, std::string_view hasta);
 std::string PesoInterpolado(int pesoFinal, int pesoInicial, std::string_view fechaFinal,
                             std::string_view fechaInicial, int edad);
 
+// The same with the days between the weighings counted already.
+std::string PesoInterpolado(int pesoFinal, int pesoInicial, int dias, int edad);
+
 } // namespace pastorix

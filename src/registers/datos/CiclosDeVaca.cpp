@@ -11,16 +11,15 @@ std::optional<int> EnteroDe(const Campo& campo) {
     return campo.Nulo() ? std::nullopt : std::optional(static_cast<int>(campo.Entero()));
 }
 
-// " WHERE Id_Vaca = ... " for the cycle; the records of a cycle without year or parity are those without one.
-std::string Donde(const CicloDeVaca& ciclo, const char* año, const char* parto) {
+} // namespace
+
+std::string DondeCiclo(const CicloDeVaca& ciclo, const char* año, const char* parto) {
     const auto igual = [](const std::optional<int>& n) {
         return n ? " = " + NumeroSql(*n) : std::string(" Is Null");
     };
-    return " WHERE ID_Vaca = " + NumeroSql(ciclo.idVaca) + " AND " + año + igual(ciclo.añoRef) + " AND " +
+    return " WHERE Id_Vaca = " + NumeroSql(ciclo.idVaca) + " AND " + año + igual(ciclo.añoRef) + " AND " +
            parto + igual(ciclo.nParto);
 }
-
-} // namespace
 
 std::vector<CicloDeVaca> CubricionesDeVaca(Conexion& c, double idVaca) {
     std::vector<CicloDeVaca> ciclos;
@@ -51,7 +50,7 @@ std::vector<CicloDeVaca> PartosDeVaca(Conexion& c, double idVaca) {
 }
 
 void EliminarParto(Conexion& c, const CicloDeVaca& ciclo) {
-    const auto donde = Donde(ciclo, "Año_Ref", "N_Parto");
+    const auto donde = DondeCiclo(ciclo);
     for (Recordset rs(c, "SELECT * FROM T_Partos" + donde); !rs.Eof(); rs.Siguiente())
         if (!rs["Id_Cebo"].Nulo())
             c.Execute("DELETE FROM T_Cebo WHERE ID_Cebo = " + NumeroSql(rs["Id_Cebo"].Numero()) +
@@ -61,9 +60,9 @@ void EliminarParto(Conexion& c, const CicloDeVaca& ciclo) {
 
 void EliminarCubricion(Conexion& c, const CicloDeVaca& ciclo) {
     for (const char* tabla : {"T_Cubriciones", "T_Servicios"})
-        c.Execute(std::string("DELETE FROM ") + tabla + Donde(ciclo, "Año_Ref", "N_Parto"));
+        c.Execute(std::string("DELETE FROM ") + tabla + DondeCiclo(ciclo));
     for (const char* tabla : {"T_CCVACAS", "T_R_IBRBVD", "T_R_NEOSPIROSIS"})
-        c.Execute(std::string("DELETE FROM ") + tabla + Donde(ciclo, "AñoRef", "NumParto"));
+        c.Execute(std::string("DELETE FROM ") + tabla + DondeCiclo(ciclo, "AñoRef", "NumParto"));
 }
 
 std::string UltimoAñoDeVaca(Conexion& c, double idVaca) {

@@ -18,6 +18,10 @@ struct CicloDeVaca {
     bool completo = false;  // all its data are in
 };
 
+// Condition on a cycle's rows, " WHERE Id_Vaca = ... AND Año_Ref = ... AND N_PARTO = ..."; those of a cycle without year or parity are the rows
+// without. Year and parity go by other names in the health tables.
+std::string DondeCiclo(const CicloDeVaca& ciclo, const char* año = "Año_Ref", const char* parto = "N_PARTO");
+
 // Mating records and calvings of a cow, the latest first. Twins are two rows of one parity and show as one calving.
 std::vector<CicloDeVaca> CubricionesDeVaca(Conexion& c, double idVaca);
 std::vector<CicloDeVaca> PartosDeVaca(Conexion& c, double idVaca);

@@ -1,0 +1,138 @@
+#include "BaseDePrueba.h"
+#include "prueba.h"
+
+#include "reproduction/datos/Causas.h"
+#include "reproduction/datos/DatosDeCiclo.h"
+#include "reproduction/datos/Destete.h"
+
+using namespace pastorix;
+using namespace prueba;
+
+namespace {
+
+// "parto|real|ipr|primer|último|secado|baja", dates or nothing.
+DatosDeCiclo Datos(const QString& fechas, EstadoReproductivo estado, const char* añoRef, const char* añoBaja) {
+    const auto partes = fechas.split(QLatin1Char('|'));
+    const auto fecha = [&](qsizetype i) { return FechaDeTexto(partes.value(i).toStdString()); };
+    return {fecha(0), fecha(1), fecha(2), fecha(3), fecha(4), fecha(5), estado, añoRef, fecha(6), añoBaja, F("22/11/2026")};
+}
+
+std::string Texto(const std::optional<int>& n) {
+    return n ? std::to_string(*n) : "";
+}
+
+} // namespace
+
+// What a mating record and a calf are worth, worked out from dates and texts alone.
+class PruebaDerivados : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Intervalos_data() {
+        QTest::addColumn<QString>("fechas");
+        QTest::addColumn<int>("estado"); // 0 none, 1 pregnant, 2 empty
+        QTest::addColumn<QString>("años"); // of the record, of her last record when she left
+        QTest::addColumn<QString>("iprCp");
+        QTest::addColumn<QString>("iepc");
+        const auto fila = [](const char* caso, const char* fechas, int estado, const char* años, const char* iprCp,
+                             const char* iepc) {
+            QTest::newRow(caso) << QString::fromUtf8(fechas) << estado << años << QString::fromUtf8(iprCp) << iepc;
+        };
+        fila("nothing known", "||||||", 0, "2026|", "No F.IPR", "");
+        // in the herd
+        fila("open 79 days", "4/9/26||||||", 0, "2026|", "No F.IPR", "");
+        fila("open 80 days", "3/9/26||||||", 0, "2026|", "No F.IPR", "366");
+        fila("to today", "1/6/26||11/10/26||||", 2, "2026|", "42", "460");
+        fila("served at once", "1/11/26||1/11/26|5/11/26|5/11/26||", 0, "2026|", "4", "290");
+        fila("last line without a date", "1/11/26||1/11/26|5/11/26|||", 1, "2026|", "21", "");
+        fila("service before the start", "1/6/26||1/10/26||1/9/26||", 1, "2026|", "-30", "378");
+        // she left: this record's year, an earlier one, a later one
+        fila("pregnant, year she left", "1/1/26||1/3/26||1/5/26||1/9/26", 1, "2026|2026", "61", "406");
+        fila("pregnant, no service", "1/1/26||1/3/26||||1/9/26", 1, "2026|2026", "266", "529");
+        fila("pregnant, no start", "1/1/26||||1/5/26||1/9/26", 1, "2026|2026", "", "406");
+        fila("empty, start before she left", "1/1/26||1/3/26||1/5/26||1/9/26", 2, "2026|2026", "184", "406");
+        fila("empty, start the day she left", "1/1/26||1/9/26||1/5/26||1/9/26", 2, "2026|2026", "", "406");
+        fila("no state, no start", "1/1/26||||1/5/26||1/9/26", 0, "2026|2026", "No F.IPR", "406");
+        fila("left 79 days after calving", "1/1/26||1/2/26||1/3/26||21/3/26", 1, "2026|2026", "28", "");
+        fila("left 80 days after calving", "1/1/26||1/2/26||||22/3/26", 1, "2026|2026", "294", "366");
+        fila("earlier record", "1/1/25||1/3/25||1/5/25||1/9/26", 1, "2025|2026", "61", "");
+        fila("later record", "1/1/27||1/3/27||||1/9/26", 2, "2027|2026", "", "");
+        fila("left, date emptied on the sheet", "1/1/26||1/3/26||||", 2, "2026|2026", "", "611");
+    }
+    void Intervalos() {
+        QFETCH(QString, fechas);
+        QFETCH(int, estado);
+        QFETCH(QString, años);
+        const auto d = Datos(fechas, static_cast<EstadoReproductivo>(estado),
+                             qUtf8Printable(años.section(QLatin1Char('|'), 0, 0)),
+                             qUtf8Printable(años.section(QLatin1Char('|'), 1)));
+        QTEST(QString::fromStdString(IPR_CP(d)), "iprCp");
+        QTEST(QString::fromStdString(Texto(IEPc(d))), "iepc");
+    }
+
+    void FechasDelProtocolo() {
+        auto d = Datos(QStringLiteral("10/1/26|5/1/26||1/3/26|2/3/26|1/2/26|"), EstadoReproductivo::Preñada, "2026", "");
+        QCOMPARE(FechaDG22dias(d), std::optional(F("24/3/26")));
+        QCOMPARE(D40PostParto(d), std::optional(F("19/2/26")));
+        QCOMPARE(PrimeraFechaIPR(d), std::optional(F("11/3/26")));
+        QCOMPARE(FechaEspParto(d), std::optional(F("13/12/26")));
+        QCOMPARE(IEP(d), std::optional(-5)); // as it comes
+        QCOMPARE(Amamantamiento(d), std::optional(28));
+        d.estado = EstadoDe("VACÍA");
+        QCOMPARE(FechaEspParto(d), std::nullopt);
+        d.ultimoServicio.reset();
+        d.fechaSecado.reset();
+        QCOMPARE(FechaDG22dias(d), std::nullopt);
+        QCOMPARE(Amamantamiento(d), std::nullopt);
+        QVERIFY(!EsIPRTardia("42") && EsIPRTardia("43") && !EsIPRTardia("No F.IPR") && !EsIPRTardia(""));
+        QCOMPARE(EstadoDe("preñada"), EstadoReproductivo::Preñada);
+        QCOMPARE(EstadoDe("otra"), EstadoReproductivo::Ninguno);
+    }
+
+    void Causas() {
+        QCOMPARE(DescripcionDeCausa(16, "2"), std::string("MortEmbrion 2"));
+        QCOMPARE(DescripcionDeCausa(5, ""), std::string("BVD ")); // the blank goes with the companion, empty or not
+        QCOMPARE(DescripcionDeCausa(22, "x"), std::string(". x"));
+        QCOMPARE(DescripcionDeCausa(7, "x"), std::string("ControlRepNo"));
+        QCOMPARE(NombreDeCausa(24) + NombreDeCausa(0) + NombreDeCausa(26), std::string("Libre"));
+    }
+
+    void Destete_data() {
+        QTest::addColumn<QString>("fechas"); // calving, weaning, weighing
+        QTest::addColumn<QString>("pesos");  // birth, weighing
+        QTest::addColumn<QString>("figuras"); // age, weight, gain
+        const auto fila = [](const char* caso, const char* fechas, const char* pesos, const char* figuras) {
+            QTest::newRow(caso) << QString::fromUtf8(fechas) << QString::fromUtf8(pesos) << QString::fromUtf8(figuras);
+        };
+        fila("weighed at weaning", "1/1/26|30/6/26|30/6/26", "40|220", "180|220|1000");
+        fila("carried along the line", "1/1/26|30/6/26|10/7/26", "40|230", "180|220|1000");
+        fila("41,5 counts as 42", "1/1/26|11/4/26|11/4/26", "41,5|142", "100|142|1000");
+        fila("42,5 counts as 42", "1/1/26|11/4/26|11/4/26", "42,5|142", "100|142|1000");
+        fila("half a gram to the even one", "1/1/26|17/1/26|17/1/26", "40|41", "16|41|62");
+        fila("weighed on the day of birth", "1/1/26|30/6/26|1/1/26", "40|40", "180||");
+        fila("no weighing", "1/1/26|30/6/26|", "40|220", "180||");
+        fila("no number", "1/1/26|30/6/26|30/6/26", "cuarenta|220", "180||");
+        fila("weaned on the day of birth", "1/1/26|1/1/26|30/6/26", "40|220", "0|40|");
+        fila("weaned before", "2/1/26|1/1/26|30/6/26", "40|220", "-1|39|");
+        fila("lost weight", "1/1/26|11/4/26|11/4/26", "40|30", "100|30|-100");
+        fila("no gain", "1/1/26|11/4/26|11/4/26", "40|40", "100|40|");
+        fila("carried under zero", "1/1/26|11/4/26|11/1/26", "40|30", "100||");
+        fila("no calving", "|11/4/26|11/4/26", "40|140", "||");
+    }
+    void Destete() {
+        QFETCH(QString, fechas);
+        QFETCH(QString, pesos);
+        const auto fecha = [&](qsizetype i) { return FechaDeTexto(fechas.section(QLatin1Char('|'), i, i).toStdString()); };
+        const auto f = CalcularDestete({fecha(0), fecha(1), fecha(2), pesos.section(QLatin1Char('|'), 0, 0).toStdString(),
+                                        pesos.section(QLatin1Char('|'), 1).toStdString()});
+        QTEST(QString::fromStdString(f.edadDestete + "|" + f.pesoDestete + "|" + f.gDestete), "figuras");
+    }
+
+    void CerosMostrados() {
+        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false), std::string("010"));
+        QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), std::string("-5"));
+    }
+};
+
+PRUEBA(PruebaDerivados)
+#include "PruebaDerivados.moc"
