@@ -8,6 +8,7 @@
 #include "registers/vacas/Vacas.h"
 #include "reports/ListadoMaestro.h"
 #include "reports/Lst_IndicesTecnicos.h"
+#include "reproduction/AbrirCiclos.h"
 
 #include <QDialog>
 
@@ -30,9 +31,19 @@ void Abrir(Principal& principal, Hacer hacer) {
     }
 }
 
+// What the cow's sheet asks of the sheets of her cycles.
+OrdenesDeVaca OrdenesDeCiclos(Principal& principal) {
+    return {
+        [&](QWidget* w, const VacaEnMano& v, const CicloDeVaca& c) { AbrirCubricion(principal, w, v, c); },
+        [&](QWidget* w, const VacaEnMano& v, const CicloDeVaca& c) { AbrirParto(principal, w, v, c); },
+        [&](QWidget* w, const VacaEnMano& v) { AñadirCubricion(principal, w, v); },
+        [&](QWidget* w, const VacaEnMano& v) { AñadirParto(principal, w, v); }};
+}
+
 } // namespace
 
 void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& informe) {
+    principal.Vincular(QStringLiteral("MnuPpal"), [] {}); // the mating sheet acts on it itself
     const auto listado = [&](int tipo) {
         return [&, tipo] { ListadoMaestro(tipo, sesion, informe, &principal); };
     };
@@ -43,8 +54,7 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     };
     formulario("Mnu_Veterinarios", [&] { return new Veterinarios(sesion, &principal); });
     formulario("Mnu_Ganaderos", [&] { return new Ganaderos(sesion, &principal); });
-    // The sheets of her cycles are not there yet.
-    formulario("Mnu_Vacas", [&] { return new Vacas(sesion, {}, &principal); });
+    formulario("Mnu_Vacas", [&] { return new Vacas(sesion, OrdenesDeCiclos(principal), &principal); });
     formulario("Mnu_Sementales", [&] { return new Sementales(sesion, &principal); });
     formulario("Mnu_IndicesTecnicos", [&] { return new Lst_IndicesTecnicos(sesion, informe, &principal); });
 }

@@ -12,9 +12,11 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDragEnterEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
@@ -28,6 +30,7 @@ Principal::Principal(Sesion& sesion)
     setObjectName(QStringLiteral("Principal"));
     setWindowTitle(QStringLiteral("PASTORIX"));
     setWindowIcon(Icono("pastorix"));
+    setAcceptDrops(true);
     setCentralWidget(new FondoPrincipal(this));
     CrearMenus();
     CrearBarra();
@@ -211,6 +214,21 @@ void Principal::changeEvent(QEvent* evento) {
     // Sessions last for days: the date is looked at whenever the user comes back to the window.
     if (evento->type() == QEvent::ActivationChange || evento->type() == QEvent::FontChange)
         AjustarPaneles();
+}
+
+const char* Principal::TipoDePanel() {
+    return "application/x-pastorix-panel";
+}
+
+void Principal::dragEnterEvent(QDragEnterEvent* evento) {
+    if (alSoltarPanel && evento->mimeData()->hasFormat(QLatin1String(TipoDePanel())))
+        evento->acceptProposedAction();
+}
+
+void Principal::dropEvent(QDropEvent* evento) {
+    evento->acceptProposedAction();
+    if (alSoltarPanel)
+        alSoltarPanel();
 }
 
 } // namespace pastorix

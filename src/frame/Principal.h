@@ -39,6 +39,11 @@ public:
     QAction* Orden(const QString& nombre) const;
     QAction* Boton(int indice) const;
 
+    // The mating sheet's panel of causes, while it is dragged, may be let go over the frame too.
+    std::function<void()> alSoltarPanel;
+    // What such a drag carries.
+    static const char* TipoDePanel();
+
     // The pop-up with MnuPpal, for the mating sheet.
     QMenu* MenuCausaPrincipal() const;
 
@@ -52,6 +57,8 @@ protected:
     void closeEvent(QCloseEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
     void changeEvent(QEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
 
 private:
     struct Estado {

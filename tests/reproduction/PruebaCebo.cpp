@@ -11,8 +11,9 @@ namespace {
 TerneroDeParto Ternero() {
     return {{7, 0, 2026, 3, {}, false}, 1, 12, "Macho", F("1/2/26"), F("1/8/26"), "S1", ""};
 }
-const char* const kCebos = "SELECT Id_Ganadero, Id_Cebo, Origen, Sexo, FechaNac, FechaCebo, Saneamiento, KgCanal FROM T_Cebo "
-                           "ORDER BY Id_Ganadero, Id_Cebo";
+const char* const kCebos =
+    "SELECT Id_Ganadero, Id_Cebo, Origen, Sexo, FechaNac, FechaCebo, Saneamiento, KgCanal FROM T_Cebo "
+    "ORDER BY Id_Ganadero, Id_Cebo";
 
 struct BaseConParto : Base {
     BaseConParto() {
@@ -39,7 +40,8 @@ private Q_SLOTS:
         QCOMPARE(b.Enlaces(), std::string("5/-"));
         b.c.Execute("UPDATE T_Cebo SET KgCanal = 250 WHERE Id_Cebo = 5");
         const auto conTodo = b.Texto(kCebos);
-        QCOMPARE(conTodo, std::string("12|4|-|-|-|-|-|-/12|5|Propio|Macho|01/02/26|01/08/26|S1|250/13|9|-|-|-|-|-|-"));
+        QCOMPARE(conTodo,
+                 std::string("12|4|-|-|-|-|-|-/12|5|Propio|Macho|01/02/26|01/08/26|S1|250/13|9|-|-|-|-|-|-"));
         const auto retirado = QuitarCebo(b.c, t);
         QCOMPARE(b.Enlaces(), std::string("-/-"));
         QCOMPARE(CrearCebo(b.c, t, retirado), 5.0); // whole, its number too
@@ -62,9 +64,11 @@ private Q_SLOTS:
         t.fechaDestete.reset();
         t.origen = "Propio";
         QCOMPARE(ActualizarCebo(b.c, t, false), (std::vector<std::string>{"Fecha de entrada", "Origen"}));
-        QCOMPARE(b.Texto("SELECT FechaCebo, Origen FROM T_Cebo WHERE Id_Cebo = 5"), std::string("01/08/26|Comprado"));
+        QCOMPARE(b.Texto("SELECT FechaCebo, Origen FROM T_Cebo WHERE Id_Cebo = 5"),
+                 std::string("01/08/26|Comprado"));
         ActualizarCebo(b.c, t);
-        QCOMPARE(b.Texto("SELECT FechaCebo, Origen, Sexo FROM T_Cebo WHERE Id_Cebo = 5"), std::string("-|Propio|macho"));
+        QCOMPARE(b.Texto("SELECT FechaCebo, Origen, Sexo FROM T_Cebo WHERE Id_Cebo = 5"),
+                 std::string("-|Propio|macho"));
         b.c.Execute("UPDATE T_Cebo SET Cambiado = -1 WHERE Id_Cebo = 5");
         t.regSaneam = "S2";
         QVERIFY(ActualizarCebo(b.c, t).empty());

@@ -11,10 +11,12 @@ using namespace prueba;
 namespace {
 
 // "parto|real|ipr|primer|último|secado|baja", dates or nothing.
-DatosDeCiclo Datos(const QString& fechas, EstadoReproductivo estado, const char* añoRef, const char* añoBaja) {
+DatosDeCiclo Datos(const QString& fechas, EstadoReproductivo estado, const char* añoRef,
+                   const char* añoBaja) {
     const auto partes = fechas.split(QLatin1Char('|'));
     const auto fecha = [&](qsizetype i) { return FechaDeTexto(partes.value(i).toStdString()); };
-    return {fecha(0), fecha(1), fecha(2), fecha(3), fecha(4), fecha(5), estado, añoRef, fecha(6), añoBaja, F("22/11/2026")};
+    return {fecha(0), fecha(1), fecha(2), fecha(3), fecha(4),       fecha(5),
+            estado,   añoRef,   fecha(6), añoBaja,  F("22/11/2026")};
 }
 
 std::string Texto(const std::optional<int>& n) {
@@ -30,13 +32,14 @@ class PruebaDerivados : public QObject {
 private Q_SLOTS:
     void Intervalos_data() {
         QTest::addColumn<QString>("fechas");
-        QTest::addColumn<int>("estado"); // 0 none, 1 pregnant, 2 empty
+        QTest::addColumn<int>("estado");   // 0 none, 1 pregnant, 2 empty
         QTest::addColumn<QString>("años"); // of the record, of her last record when she left
         QTest::addColumn<QString>("iprCp");
         QTest::addColumn<QString>("iepc");
-        const auto fila = [](const char* caso, const char* fechas, int estado, const char* años, const char* iprCp,
-                             const char* iepc) {
-            QTest::newRow(caso) << QString::fromUtf8(fechas) << estado << años << QString::fromUtf8(iprCp) << iepc;
+        const auto fila = [](const char* caso, const char* fechas, int estado, const char* años,
+                             const char* iprCp, const char* iepc) {
+            QTest::newRow(caso) << QString::fromUtf8(fechas) << estado << años << QString::fromUtf8(iprCp)
+                                << iepc;
         };
         fila("nothing known", "||||||", 0, "2026|", "No F.IPR", "");
         // in the herd
@@ -71,7 +74,8 @@ private Q_SLOTS:
     }
 
     void FechasDelProtocolo() {
-        auto d = Datos(QStringLiteral("10/1/26|5/1/26||1/3/26|2/3/26|1/2/26|"), EstadoReproductivo::Preñada, "2026", "");
+        auto d = Datos(QStringLiteral("10/1/26|5/1/26||1/3/26|2/3/26|1/2/26|"), EstadoReproductivo::Preñada,
+                       "2026", "");
         QCOMPARE(FechaDG22dias(d), std::optional(F("24/3/26")));
         QCOMPARE(D40PostParto(d), std::optional(F("19/2/26")));
         QCOMPARE(PrimeraFechaIPR(d), std::optional(F("11/3/26")));
@@ -91,18 +95,20 @@ private Q_SLOTS:
 
     void Causas() {
         QCOMPARE(DescripcionDeCausa(16, "2"), std::string("MortEmbrion 2"));
-        QCOMPARE(DescripcionDeCausa(5, ""), std::string("BVD ")); // the blank goes with the companion, empty or not
+        QCOMPARE(DescripcionDeCausa(5, ""),
+                 std::string("BVD ")); // the blank goes with the companion, empty or not
         QCOMPARE(DescripcionDeCausa(22, "x"), std::string(". x"));
         QCOMPARE(DescripcionDeCausa(7, "x"), std::string("ControlRepNo"));
         QCOMPARE(NombreDeCausa(24) + NombreDeCausa(0) + NombreDeCausa(26), std::string("Libre"));
     }
 
     void Destete_data() {
-        QTest::addColumn<QString>("fechas"); // calving, weaning, weighing
-        QTest::addColumn<QString>("pesos");  // birth, weighing
+        QTest::addColumn<QString>("fechas");  // calving, weaning, weighing
+        QTest::addColumn<QString>("pesos");   // birth, weighing
         QTest::addColumn<QString>("figuras"); // age, weight, gain
         const auto fila = [](const char* caso, const char* fechas, const char* pesos, const char* figuras) {
-            QTest::newRow(caso) << QString::fromUtf8(fechas) << QString::fromUtf8(pesos) << QString::fromUtf8(figuras);
+            QTest::newRow(caso) << QString::fromUtf8(fechas) << QString::fromUtf8(pesos)
+                                << QString::fromUtf8(figuras);
         };
         fila("weighed at weaning", "1/1/26|30/6/26|30/6/26", "40|220", "180|220|1000");
         fila("carried along the line", "1/1/26|30/6/26|10/7/26", "40|230", "180|220|1000");
@@ -122,14 +128,18 @@ private Q_SLOTS:
     void Destete() {
         QFETCH(QString, fechas);
         QFETCH(QString, pesos);
-        const auto fecha = [&](qsizetype i) { return FechaDeTexto(fechas.section(QLatin1Char('|'), i, i).toStdString()); };
-        const auto f = CalcularDestete({fecha(0), fecha(1), fecha(2), pesos.section(QLatin1Char('|'), 0, 0).toStdString(),
+        const auto fecha = [&](qsizetype i) {
+            return FechaDeTexto(fechas.section(QLatin1Char('|'), i, i).toStdString());
+        };
+        const auto f = CalcularDestete({fecha(0), fecha(1), fecha(2),
+                                        pesos.section(QLatin1Char('|'), 0, 0).toStdString(),
                                         pesos.section(QLatin1Char('|'), 1).toStdString()});
         QTEST(QString::fromStdString(f.edadDestete + "|" + f.pesoDestete + "|" + f.gDestete), "figuras");
     }
 
     void CerosMostrados() {
-        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false), std::string("010"));
+        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false),
+                 std::string("010"));
         QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), std::string("-5"));
     }
 };

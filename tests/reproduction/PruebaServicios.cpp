@@ -53,38 +53,74 @@ private Q_SLOTS:
         BaseConServicios b;
         b.Servicio(1);
         for (const int año : {2025, 2026})
-            b.Poner("T_Servicios", {{"Id_Vaca", 7.0}, {"Año_Ref", año}, {"N_Parto", 2}, {"N_Servicio", 1}, {"Obs", "otra"}});
-        sqlite3_exec(b.c.Manejador(), "UPDATE T_Servicios SET Fecha_Servicio = 'pronto', Prog = printf('%.*c', 300, '1') WHERE N_Parto = 3",
+            b.Poner("T_Servicios",
+                    {{"Id_Vaca", 7.0}, {"Año_Ref", año}, {"N_Parto", 2}, {"N_Servicio", 1}, {"Obs", "otra"}});
+        sqlite3_exec(b.c.Manejador(),
+                     "UPDATE T_Servicios SET Fecha_Servicio = 'pronto', Prog = printf('%.*c', 300, '1') "
+                     "WHERE N_Parto = 3",
                      nullptr, nullptr, nullptr);
         auto lineas = LeerServicios(b.c, kCiclo);
         lineas.resize(3, Linea{std::vector<std::string>(10), {}, {}});
         lineas[1].celdas = {"2", "31/2/26", "O'Toro", "1,5", "No", "1/2/26", "Cubrición", "0", "x", "57001"};
         lineas[2].celdas[servicio::Semental] = "sin número";
-        const char* const sql = "SELECT N_Parto, N_Servicio, Fecha_Servicio, Semental, Tratam, FechaTratam, Id_Semental FROM T_Servicios "
+        const char* const sql = "SELECT N_Parto, N_Servicio, Fecha_Servicio, Semental, Tratam, FechaTratam, "
+                                "Id_Semental FROM T_Servicios "
                                 "ORDER BY N_Parto, Año_Ref, N_Servicio";
         GuardarServicios(b.c, kCiclo, lineas);
         const auto escrito = b.Texto(sql);
-        QCOMPARE(escrito, std::string("2|1|-|-|-|-|-/2|1|-|-|-|-|-/3|1|pronto|-|-|-|-/3|2|31/2/26|O'Toro|No|01/02/26|57001"));
+        QCOMPARE(escrito,
+                 std::string(
+                     "2|1|-|-|-|-|-/2|1|-|-|-|-|-/3|1|pronto|-|-|-|-/3|2|31/2/26|O'Toro|No|01/02/26|57001"));
         lineas[1].celdas[servicio::NumeroInsem] = "dos";
         QVERIFY_EXCEPTION_THROWN(GuardarServicios(b.c, kCiclo, lineas), ErrorAlmacen);
         QCOMPARE(b.Texto(sql), escrito);
     }
 
     void Inseminaciones_data() {
-        QTest::addColumn<QString>("tipo");   // chosen
-        QTest::addColumn<QString>("linea");  // "kind|count" of the line in hand; "" a new one
-        QTest::addColumn<QString>("hay");    // counts in the table
+        QTest::addColumn<QString>("tipo");  // chosen
+        QTest::addColumn<QString>("linea"); // "kind|count" of the line in hand; "" a new one
+        QTest::addColumn<QString>("hay");   // counts in the table
         QTest::addColumn<QString>("numero");
-        QTest::newRow("first") << "1 Insem" << "" << "" << "1";
-        QTest::newRow("one more") << "1 InsCelo" << "" << "3,1" << "4";
-        QTest::newRow("natural, none yet") << "Cubrición" << "" << "" << "0";
-        QTest::newRow("natural keeps the count") << "Cubrición" << "" << "2,1" << "2";
-        QTest::newRow("line of none") << "2 Insem" << "Cubrición|" << "2" << "1";
-        QTest::newRow("stays an insemination") << "2 Insem" << "1 Insem|3" << "3" << "3";
-        QTest::newRow("becomes one") << "1 Insem" << "Cubrición|3" << "3" << "4";
-        QTest::newRow("natural of none") << "Cubrición" << "1 Insem|0" << "3" << "0";
-        QTest::newRow("natural stays") << "Cubrición" << "Cubrición|3" << "3" << "3";
-        QTest::newRow("becomes natural") << "Cubrición" << "1 Insem|3" << "3" << "2";
+        QTest::newRow("first") << "1 Insem"
+                               << ""
+                               << ""
+                               << "1";
+        QTest::newRow("one more") << "1 InsCelo"
+                                  << ""
+                                  << "3,1"
+                                  << "4";
+        QTest::newRow("natural, none yet") << "Cubrición"
+                                           << ""
+                                           << ""
+                                           << "0";
+        QTest::newRow("natural keeps the count") << "Cubrición"
+                                                 << ""
+                                                 << "2,1"
+                                                 << "2";
+        QTest::newRow("line of none") << "2 Insem"
+                                      << "Cubrición|"
+                                      << "2"
+                                      << "1";
+        QTest::newRow("stays an insemination") << "2 Insem"
+                                               << "1 Insem|3"
+                                               << "3"
+                                               << "3";
+        QTest::newRow("becomes one") << "1 Insem"
+                                     << "Cubrición|3"
+                                     << "3"
+                                     << "4";
+        QTest::newRow("natural of none") << "Cubrición"
+                                         << "1 Insem|0"
+                                         << "3"
+                                         << "0";
+        QTest::newRow("natural stays") << "Cubrición"
+                                       << "Cubrición|3"
+                                       << "3"
+                                       << "3";
+        QTest::newRow("becomes natural") << "Cubrición"
+                                         << "1 Insem|3"
+                                         << "3"
+                                         << "2";
     }
     void Inseminaciones() {
         QFETCH(QString, tipo);
@@ -96,7 +132,8 @@ private Q_SLOTS:
         Linea l{std::vector<std::string>(10), {}, {}};
         l.celdas[servicio::Tipo] = linea.section(QLatin1Char('|'), 0, 0).toStdString();
         l.celdas[servicio::NumeroInsem] = linea.section(QLatin1Char('|'), 1).toStdString();
-        QTEST(QString::fromStdString(NumeroDeInseminacion(b.c, kCiclo, tipo.toStdString(), linea.isEmpty() ? nullptr : &l)),
+        QTEST(QString::fromStdString(
+                  NumeroDeInseminacion(b.c, kCiclo, tipo.toStdString(), linea.isEmpty() ? nullptr : &l)),
               "numero");
     }
 
@@ -125,7 +162,8 @@ private Q_SLOTS:
         QCOMPARE(vecino(2027, 4, -1), std::string("2026/3"));
         QCOMPARE(vecino(2027, 4, 1), std::string());
         QCOMPARE(vecino(2025, 2, 1), std::string("2026/3"));
-        QCOMPARE(OtrosAñosDeParidad(b.c, "T_Cubriciones", {7, 0, 2024, 3, {}, false}), std::vector<int>{2026});
+        QCOMPARE(OtrosAñosDeParidad(b.c, "T_Cubriciones", {7, 0, 2024, 3, {}, false}),
+                 std::vector<int>{2026});
     }
 
     void Alta() {
@@ -133,7 +171,8 @@ private Q_SLOTS:
         QVERIFY(AltaCubricion(b.c, kCiclo, F("1/2/26")));
         QVERIFY(!AltaCubricion(b.c, kCiclo, F("9/9/26"))); // there already: left as it is
         QVERIFY(AltaCubricion(b.c, {7, 0, 2027, 0, {}, false}, {}));
-        QCOMPARE(b.Texto("SELECT Id_Cubricion, Año_Ref, N_Parto, Fecha_Parto FROM T_Cubriciones ORDER BY Id_Cubricion"),
+        QCOMPARE(b.Texto("SELECT Id_Cubricion, Año_Ref, N_Parto, Fecha_Parto FROM T_Cubriciones ORDER BY "
+                         "Id_Cubricion"),
                  std::string("1|2026|3|01/02/26/2|2027|0|-"));
         b.Poner("T_Servicios", {{"Id_Vaca", 7.0}, {"Año_Ref", 2026}, {"N_Parto", 3}, {"N_Servicio", 1}});
         b.Poner("T_CCVacas", {{"Id_Vaca", 7.0}, {"AñoRef", 2026}, {"NumParto", 3}});

@@ -9,7 +9,7 @@ int ComaUnica(const QString& texto, int tecla) {
 }
 
 QString Filtrado(const QString& texto, ClaseCampo clase) {
-    if (clase == ClaseCampo::Texto || clase == ClaseCampo::Memo)
+    if (clase == ClaseCampo::Texto || clase == ClaseCampo::Memo || clase == ClaseCampo::NumeroLibre)
         return texto;
     const bool decimal = EsNumerica(clase) && clase != ClaseCampo::Numero;
     QString salida;
@@ -80,6 +80,7 @@ Pegado LeerPegado(const QString& texto, ClaseCampo clase) {
     switch (clase) {
     case ClaseCampo::Memo:
         return {texto, {}, true};
+    case ClaseCampo::NumeroLibre:
     case ClaseCampo::Texto: {
         auto t = texto;
         t.replace(QRegularExpression(QStringLiteral("[\\x00-\\x1F\\x7F\\x{0085}\\x{2028}\\x{2029}]+")),

@@ -16,12 +16,13 @@ enum class ClaseCampo {
     DecimalPunto, // the same; a point becomes the comma
     ConSigno,     // as Decimal, and a minus sign in front
     Numero,       // digits
+    NumeroLibre,  // anything; it counts when it is a number
     Memo,         // text of several lines
 };
 
 inline bool EsNumerica(ClaseCampo clase) {
     return clase == ClaseCampo::Decimal || clase == ClaseCampo::DecimalPunto ||
-           clase == ClaseCampo::ConSigno || clase == ClaseCampo::Numero;
+           clase == ClaseCampo::ConSigno || clase == ClaseCampo::Numero || clase == ClaseCampo::NumeroLibre;
 }
 
 // What a save does with a date or number that is none.

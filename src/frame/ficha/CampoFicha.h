@@ -50,6 +50,7 @@ struct MarcaFicha {
     int hoja = 0;
     int indice = 0; // by which the sheet knows it
     const char* explicacion = "";
+    int si = 1; // what is stored for a tick; -1 in the Yes/No columns
 };
 
 // Fields over a row, as data.

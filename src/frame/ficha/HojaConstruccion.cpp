@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace pastorix {
@@ -41,7 +42,11 @@ QWidget* HojaDeCampos::CrearRejilla(QWidget* padre, int hoja) {
     auto* caja = new QWidget(padre);
     m_rejilla = new QGridLayout(caja);
     m_rejilla->setHorizontalSpacing(12);
-    const int anchuraMinima = caja->fontMetrics().averageCharWidth() * 26;
+    // Three fields to a line may be wide, and more must fit the screen.
+    int columnas = 1;
+    for (const auto& c : m_definicion.campos)
+        columnas = c.hoja == hoja ? std::max(columnas, c.columnaRejilla + c.ancho) : columnas;
+    const int anchuraMinima = caja->fontMetrics().averageCharWidth() * (columnas <= 3 ? 26 : 14);
     std::map<std::pair<int, int>, QWidget*> porLugar; // Tab goes by rows
     const auto poner = [&](QWidget* campo, const char* texto, std::pair<int, int> lugar, int ancho,
                            Qt::Alignment altura) {
@@ -59,7 +64,8 @@ QWidget* HojaDeCampos::CrearRejilla(QWidget* padre, int hoja) {
         if (c.hoja == hoja) {
             auto* rotulo = poner(CrearCampo(c, caja), c.rotulo, {c.fila, c.columnaRejilla}, c.ancho,
                                  c.clase == ClaseCampo::Memo ? Qt::AlignTop : Qt::AlignVCenter);
-            rotulo->setObjectName(QStringLiteral("ET_Estandar(%1)").arg(c.indice));
+            rotulo->setObjectName(
+                QStringLiteral("E%1(%2)").arg(QString::fromUtf8(m_definicion.arreglo + 1)).arg(c.indice));
             m_rotulos[c.indice] = rotulo;
         }
     for (const auto& c : m_definicion.combos)
@@ -114,7 +120,11 @@ QComboBox* HojaDeCampos::CrearCombo(const ComboFicha& c, QWidget* padre) {
 
 void HojaDeCampos::Vigilar(QWidget* control) {
     if (auto* combo = qobject_cast<QComboBox*>(control))
-        connect(combo, &QComboBox::activated, this, [this] { Editar(); });
+        connect(combo, &QComboBox::activated, this, [this, combo] {
+            Editar();
+            if (m_pasando != combo)
+                Decidir(*combo);
+        });
     control->installEventFilter(this);
 }
 

@@ -82,6 +82,13 @@ void HojaDeCampos::Escribir(Recordset& rs) const {
         if (!c.columna || c.clase == ClaseCampo::Codigo)
             continue;
         const auto texto = TextoStd(c.indice);
+        const auto fecha = m_fechas.find(c.indice);
+        if (fecha != m_fechas.end() && std::holds_alternative<Fecha>(fecha->second) &&
+            Intacto(fecha->second, texto)) {
+            if (rs[c.columna].Leer() != fecha->second)
+                rs[c.columna] = fecha->second; // with the century that the text does not show
+            continue;
+        }
         if (!(c.ceroVacio && texto.empty() && EsCero(rs[c.columna].Leer())))
             EscribirTexto(rs[c.columna], texto, c.clase, c.siNoVale);
     }
@@ -91,8 +98,21 @@ void HojaDeCampos::Escribir(Recordset& rs) const {
     for (const auto& m : m_definicion.marcas) {
         const bool puesta = Marca(m.indice).isChecked();
         if (m.columna && (rs[m.columna].Nulo() || (rs[m.columna].Numero() != 0) != puesta))
-            rs[m.columna] = puesta ? 1 : 0;
+            rs[m.columna] = puesta ? m.si : 0;
     }
+}
+
+QStringList HojaDeCampos::Conservados(Recordset& rs) const {
+    QStringList nombres;
+    for (const auto& c : m_definicion.campos) {
+        if (!c.columna || c.siNoVale != SiNoVale::Conserva)
+            continue;
+        const auto leido = rs[c.columna].Leer();
+        if (const auto texto = TextoStd(c.indice);
+            !Intacto(leido, texto) && ValorDe(texto, leido, c.clase, c.siNoVale) == leido)
+            nombres << Campo(c.indice).accessibleName();
+    }
+    return nombres;
 }
 
 QMap<QString, QString> HojaDeCampos::Contenido() const {
@@ -109,6 +129,8 @@ QMap<QString, QString> HojaDeCampos::Contenido() const {
 
 void HojaDeCampos::DarPorGuardado() {
     m_mostrado = Contenido();
+    for (const auto& [nombre, combo] : m_combos)
+        m_decididos[combo] = combo->currentText();
 }
 
 bool HojaDeCampos::Cambiada(int excepto) const {
@@ -153,6 +175,11 @@ void HojaDeCampos::Poner(int indice, const std::string& texto) {
         Campo(indice).Mostrar(QString::fromStdString(texto));
 }
 
+void HojaDeCampos::PonerFecha(int indice, std::optional<Fecha> fecha) {
+    m_fechas[indice] = fecha ? Valor(*fecha) : Valor();
+    Poner(indice, TextoDe(m_fechas[indice]));
+}
+
 std::optional<Fecha> HojaDeCampos::FechaDe(int indice) const {
     const auto texto = TextoStd(indice);
     if (const auto leida = m_fechas.find(indice); leida != m_fechas.end() && Intacto(leida->second, texto))
@@ -176,6 +203,35 @@ int HojaDeCampos::AnchuraDe(const char* columna) const {
 void HojaDeCampos::Editar() {
     if (alEditar)
         alEditar();
+}
+
+void HojaDeCampos::VigilarDecision(QComboBox& combo, const QEvent& evento) {
+    if (evento.type() == QEvent::MouseButtonPress) {
+        m_pasando = nullptr;
+    } else if (evento.type() == QEvent::Wheel) {
+        m_pasando = &combo;
+    } else if (evento.type() == QEvent::KeyPress) {
+        const auto& tecla = static_cast<const QKeyEvent&>(evento);
+        const bool abre = tecla.key() == Qt::Key_F4 || tecla.key() == Qt::Key_Space ||
+                          (tecla.key() == Qt::Key_Down && tecla.modifiers().testFlag(Qt::AltModifier));
+        const bool intro = tecla.key() == Qt::Key_Return || tecla.key() == Qt::Key_Enter;
+        m_pasando = abre || intro ? nullptr : &combo;
+        if (intro)
+            Decidir(combo);
+    } else if (evento.type() == QEvent::FocusOut &&
+               static_cast<const QFocusEvent&>(evento).reason() != Qt::PopupFocusReason) {
+        m_pasando = nullptr;
+        Decidir(combo);
+    }
+}
+
+void HojaDeCampos::Decidir(QComboBox& combo) {
+    auto& decidido = m_decididos[&combo];
+    if (decidido == combo.currentText())
+        return;
+    decidido = combo.currentText();
+    if (alDecidir)
+        alDecidir(combo);
 }
 
 bool HojaDeCampos::Tecla(QWidget& campo, const QKeyEvent& tecla) {
@@ -203,6 +259,8 @@ bool HojaDeCampos::eventFilter(QObject* objeto, QEvent* evento) {
     if (!objeto->isWidgetType())
         return false;
     auto& campo = static_cast<QWidget&>(*objeto);
+    if (auto* combo = qobject_cast<QComboBox*>(objeto))
+        VigilarDecision(*combo, *evento);
     if (evento->type() == QEvent::KeyPress)
         return Tecla(campo, static_cast<QKeyEvent&>(*evento));
     if (evento->type() == QEvent::FocusOut && alDejar) {

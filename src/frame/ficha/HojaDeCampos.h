@@ -47,6 +47,8 @@ public:
     bool Cambiada(int excepto = -1) const;
     // Assigns the fields to the current (or new) row, each by its rule; derived ones too. Fields without column are the owner's.
     void Escribir(Recordset& rs) const;
+    // Names of the fields whose text will not go into the row, which keeps what it has.
+    QStringList Conservados(Recordset& rs) const;
 
     bool Tiene(int indice) const { return m_campos.contains(indice) || m_memos.contains(indice); }
     CampoTexto& Campo(int indice) const { return *m_campos.at(indice); }
@@ -57,6 +59,8 @@ public:
     std::string TextoStd(int indice) const;
     QString Texto(int indice) const { return QString::fromStdString(TextoStd(indice)); }
     void Poner(int indice, const std::string& texto);
+    // Shows a date as dd/mm/yy, and stores it as it is.
+    void PonerFecha(int indice, std::optional<Fecha> fecha);
     // The date in a field: the stored one while nobody touched it, for the field shows no more than two figures of its year; else what the text
     // says, if it is a date.
     std::optional<Fecha> FechaDe(int indice) const;
@@ -67,11 +71,14 @@ public:
     // A line that says what will not be stored as it stands; not there while there is nothing to say.
     QLabel* CrearPie(QWidget* padre);
 
-    std::function<void()> alEditar; // the user is about to change something, or just has
-    std::function<void(QWidget& campo)>
-        alDejar; // the focus left a field; a box or another window over the sheet is no leaving
-    std::function<bool(QWidget& campo)>
-        alConfirmar; // Enter in a field; true: it was the owner's affair, else the focus moves on
+    // The user is about to change something, or just has.
+    std::function<void()> alEditar;
+    // The focus left a field; a box or another window over the sheet is no leaving.
+    std::function<void(QWidget& campo)> alDejar;
+    // An item was decided on: chosen in the open list, or left standing by Enter or by leaving; not one passed with the arrows.
+    std::function<void(QComboBox& combo)> alDecidir;
+    // Enter in a field; true: it was the owner's affair, else the focus moves on.
+    std::function<bool(QWidget& campo)> alConfirmar;
     const QWidget* trasElUltimo = nullptr; // the button that Enter goes to from the last field
 
 protected:
@@ -85,6 +92,8 @@ private:
     QCheckBox* CrearMarca(const MarcaFicha& marca, QWidget* padre);
     void MostrarDetalle(const ComboFicha& combo);
     void Editar();
+    void VigilarDecision(QComboBox& combo, const QEvent& evento);
+    void Decidir(QComboBox& combo);
     bool Tecla(QWidget& campo, const class QKeyEvent& tecla);
     QMap<QString, QString> Contenido() const;
     void Reparar();
@@ -99,7 +108,9 @@ private:
     std::map<std::string, QComboBox*, std::less<>> m_combos;
     std::map<int, QCheckBox*> m_marcas;
     QMap<QString, QString> m_mostrado; // what nobody has touched, by field
-    std::map<int, Valor> m_fechas;     // of the row that is shown
+    std::map<int, Valor> m_fechas;     // of the row that is shown, or worked out since
+    std::map<const QComboBox*, QString> m_decididos;
+    const QComboBox* m_pasando = nullptr; // its items are being gone through by keys or wheel
 };
 
 } // namespace pastorix

@@ -63,6 +63,10 @@ public:
     void Abandonar();     // Escape
     void Confirmar();     // Enter in the last field
     bool EnCurso() const; // something stands in the fields that is not in the grid
+    // Before it is left: the line goes into the list or is given up, as the user says. False when the fields keep what stands in them.
+    bool Resolver();
+    // A further button beside those of the strip.
+    void PonerMando(QWidget* mando);
 
     std::function<void()> alCambiar;            // a line was added, replaced or removed
     std::function<void(const Linea&)> alQuitar; // before that, for one that was removed
@@ -83,7 +87,6 @@ private:
     QString Celda(int fila, std::size_t columna) const; // "" for row -1
     void Elegir(int fila);                              // its values into the fields
     void Pasar(int fila);
-    bool Resolver();
     void Situar(int fila);
     Linea Escrita() const;
     const EntradaDeLinea* Entrada(std::size_t columna) const;
@@ -112,6 +115,7 @@ private:
     QToolButton* m_nueva = nullptr;
     QToolButton* m_quitar = nullptr;
     QToolButton* m_poner = nullptr;
+    QLayout* m_mandos = nullptr;
     bool m_permitido = true;
     int m_fila = -1; // the line in the fields; -1 a new one
 };

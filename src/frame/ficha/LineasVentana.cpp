@@ -124,6 +124,7 @@ QLayout* LineasEditables::CrearMandos() {
     m_nueva = boton("anadir", QStringLiteral("Línea nueva (Insert)"), altas, &LineasEditables::Nueva);
     m_quitar = boton("eliminar", QStringLiteral("Eliminar línea (Supr)"), altas, &LineasEditables::Quitar);
     auto* botones = new QHBoxLayout;
+    m_mandos = botones;
     botones->setSpacing(2);
     for (auto* b : {m_poner, m_nueva, m_quitar})
         botones->addWidget(b);
@@ -132,6 +133,10 @@ QLayout* LineasEditables::CrearMandos() {
     mandos->addWidget(m_estado, 0, Qt::AlignRight);
     mandos->addLayout(botones);
     return mandos;
+}
+
+void LineasEditables::PonerMando(QWidget* mando) {
+    static_cast<QHBoxLayout*>(m_mandos)->insertWidget(0, mando);
 }
 
 // False when there is nothing to abandon: the sheet's own Escape.
@@ -176,6 +181,13 @@ bool LineasEditables::TeclaDeEntrada(QObject* objeto, int tecla) {
     case Qt::Key_Insert:
         Nueva();
         return true;
+    case Qt::Key_Delete: // takes a choice back
+        if (auto* combo = qobject_cast<QComboBox*>(objeto); combo && !combo->isEditable()) {
+            combo->setCurrentIndex(0);
+            Q_EMIT combo->activated(0);
+            return true;
+        }
+        return false;
     default:
         return false;
     }

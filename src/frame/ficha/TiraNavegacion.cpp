@@ -9,8 +9,9 @@
 
 namespace pastorix {
 
-TiraNavegacion::TiraNavegacion(QWidget* padre)
+TiraNavegacion::TiraNavegacion(QWidget* padre, bool baja)
     : QWidget(padre)
+    , m_baja(baja)
     , m_fila(new QHBoxLayout)
     , m_subfichas(new QStackedWidget(this)) {
     auto* todo = new QVBoxLayout(this);
@@ -26,20 +27,26 @@ int TiraNavegacion::Añadir(const char* icono, const QString& rotulo, QWidget* s
     auto* boton = new QToolButton(this);
     boton->setObjectName(QStringLiteral("IconoNav(%1)").arg(indice));
     boton->setIcon(Icono(icono));
-    boton->setIconSize(QSize(28, 28));
+    boton->setIconSize(m_baja ? QSize(18, 18) : QSize(28, 28));
     boton->setText(rotulo);
-    boton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    boton->setToolButtonStyle(m_baja ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonTextUnderIcon);
     boton->setCheckable(true);
     boton->setAutoExclusive(true);
     boton->setAutoRaise(true);
     boton->setFocusPolicy(Qt::TabFocus);
     boton->setCursor(CursorMano());
-    connect(boton, &QToolButton::clicked, this, [this, indice] { Mostrar(indice); });
+    connect(boton, &QToolButton::clicked, this, [this, indice] { Pasar(indice); });
     m_fila->insertWidget(indice, boton);
     m_botones.push_back(boton);
     if (indice == 0)
         Mostrar(0);
     return indice;
+}
+
+void TiraNavegacion::Pasar(int indice) {
+    if (indice != Actual() && alCambiar)
+        alCambiar(indice);
+    Mostrar(indice);
 }
 
 void TiraNavegacion::Mostrar(int indice) {

@@ -14,7 +14,9 @@ struct VacaEnMano {
     std::string crotal;
     std::string añoDeBaja; // reference year of her last mating record when she is out of the herd, else ""
     std::optional<Fecha> fechaCompra;
-    std::optional<Fecha> fechaBaja;    // as stored
+    std::optional<Fecha> fechaBaja; // as stored
+    std::string textoCompra;        // what stands in those two fields
+    std::string textoBaja;
     std::optional<Fecha> fechaDesecho; // as it stands in its field, perhaps not saved yet
 };
 

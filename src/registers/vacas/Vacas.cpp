@@ -30,9 +30,16 @@ void Vacas::AbrirParaAñadir(double idGanadero) {
 }
 
 VacaEnMano Vacas::EnMano() const {
-    return {Clave(),          m_ganadero->Id().value_or(0), TextoStd(NombreC),
-            TextoStd(Crotal), TextoStd(campo_vaca::AñoRef), Hoja().FechaDe(FechaCompra),
-            m_fechaBaja,      Hoja().FechaDe(FechaDesecho)};
+    return {Clave(),
+            m_ganadero->Id().value_or(0),
+            TextoStd(NombreC),
+            TextoStd(Crotal),
+            TextoStd(campo_vaca::AñoRef),
+            Hoja().FechaDe(FechaCompra),
+            m_fechaBaja,
+            TextoStd(FechaCompra),
+            TextoStd(FechaBaja),
+            Hoja().FechaDe(FechaDesecho)};
 }
 
 // --- adding

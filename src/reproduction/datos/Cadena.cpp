@@ -17,14 +17,16 @@ std::vector<int> Años(Conexion& c, const char* tabla, double idVaca, int parida
                           " AND N_Parto = " + NumeroSql(paridad) + " ORDER BY Año_Ref",
                       Cursor::Estatico, Bloqueo::SoloLectura);
          !rs.Eof(); rs.Siguiente())
-        if (const int año = static_cast<int>(rs[0].Entero()); !rs[0].Nulo() && (años.empty() || años.back() != año))
+        if (const int año = static_cast<int>(rs[0].Entero());
+            !rs[0].Nulo() && (años.empty() || años.back() != año))
             años.push_back(año);
     return años;
 }
 
 } // namespace
 
-std::optional<CicloDeVaca> CicloVecino(Conexion& c, const char* tabla, const CicloDeVaca& ciclo, int paridad, int paso) {
+std::optional<CicloDeVaca> CicloVecino(Conexion& c, const char* tabla, const CicloDeVaca& ciclo, int paridad,
+                                       int paso) {
     const auto años = Años(c, tabla, ciclo.idVaca, paridad + paso);
     if (años.empty())
         return std::nullopt;
@@ -35,7 +37,8 @@ std::optional<CicloDeVaca> CicloVecino(Conexion& c, const char* tabla, const Cic
         return salto < 0 ? kAtras - salto : salto;
     };
     CicloDeVaca vecino{ciclo.idVaca, 0, {}, paridad + paso, {}, false};
-    vecino.añoRef = *std::min_element(años.begin(), años.end(), [&](int a, int b) { return lejos(a) < lejos(b); });
+    vecino.añoRef =
+        *std::min_element(años.begin(), años.end(), [&](int a, int b) { return lejos(a) < lejos(b); });
     return vecino;
 }
 

@@ -10,7 +10,7 @@ struct CausaDeDemora {
     int indice;          // of the check box, by which the principal cause is stored
     const char* nombre;  // caption of the check box
     const char* columna; // flag of T_Cubriciones; nullptr for the free slot, which is not stored
-    int acompañante;       // index of that field; 0 none
+    int acompañante;     // index of that field; 0 none
 };
 
 // All of them, by index (5 to 25).

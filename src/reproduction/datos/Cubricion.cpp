@@ -75,8 +75,8 @@ std::vector<FechaOfrecida> FechasIPROfrecidas(Conexion& c, const CicloDeVaca& ci
 
 void LlevarAParidad(Conexion& c, const CicloDeVaca& ciclo, std::optional<int> paridad) {
     const auto mover = [&](const char* tabla, const char* año, const char* parto) {
-        for (Recordset rs(c, std::string("SELECT * FROM ") + tabla + DondeCiclo(ciclo, año, parto)); !rs.Eof();
-             rs.Siguiente()) {
+        for (Recordset rs(c, std::string("SELECT * FROM ") + tabla + DondeCiclo(ciclo, año, parto));
+             !rs.Eof(); rs.Siguiente()) {
             rs[parto] = EnteroONulo(paridad);
             rs.Update();
         }

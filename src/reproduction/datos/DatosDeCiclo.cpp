@@ -63,7 +63,8 @@ std::string IPR_CP(const DatosDeCiclo& d) {
         return d.fechaIPR ? hastaServicioUHoy() : std::string();
     if (!d.fechaIPR)
         return kSinIPR;
-    return d.fechaBajaVaca && *d.fechaIPR < *d.fechaBajaVaca ? Texto(Dias(*d.fechaIPR, *d.fechaBajaVaca)) : std::string();
+    return d.fechaBajaVaca && *d.fechaIPR < *d.fechaBajaVaca ? Texto(Dias(*d.fechaIPR, *d.fechaBajaVaca))
+                                                             : std::string();
 }
 
 bool EsIPRTardia(const std::string& iprCp) {

@@ -8,12 +8,13 @@
 namespace pastorix {
 
 // Days by which a cycle is reckoned. They are those of the breed and of the veterinarians' protocol, fixed in the program.
-inline constexpr int kDiasDiagnostico = 22;  // last service to the early diagnosis
-inline constexpr int kDiasPostParto = 40;    // calving to the control that follows it
-inline constexpr int kDiasPrimerIPR = 60;    // calving to the first start of reproduction that is offered
-inline constexpr int kDiasGestacion = 286;   // service to expected calving
-inline constexpr int kDiasAbierta = 79;      // open time up to which no interval is given: a year less a gestation
-inline constexpr int kDiasIPREnRojo = 43;    // from the start of reproduction to conception: at this and above it is too late
+inline constexpr int kDiasDiagnostico = 22; // last service to the early diagnosis
+inline constexpr int kDiasPostParto = 40;   // calving to the control that follows it
+inline constexpr int kDiasPrimerIPR = 60;   // calving to the first start of reproduction that is offered
+inline constexpr int kDiasGestacion = 286;  // service to expected calving
+inline constexpr int kDiasAbierta = 79; // open time up to which no interval is given: a year less a gestation
+inline constexpr int kDiasIPREnRojo =
+    43; // from the start of reproduction to conception: at this and above it is too late
 
 #ifndef Q_MOC_RUN // Qt's moc stops at enumerators with an ñ, in whatever header it meets them
 enum class EstadoReproductivo { Ninguno, Preñada, Vacia };
@@ -24,16 +25,16 @@ EstadoReproductivo EstadoDe(const std::string& texto);
 
 // What the derived values of a mating record are worked out from. A date that is none is none here.
 struct DatosDeCiclo {
-    std::optional<Fecha> fechaParto;      // calving that opened the cycle
-    std::optional<Fecha> fechaRealParto;  // calving that closed it
-    std::optional<Fecha> fechaIPR;        // start of the reproductive period for this cow
+    std::optional<Fecha> fechaParto;     // calving that opened the cycle
+    std::optional<Fecha> fechaRealParto; // calving that closed it
+    std::optional<Fecha> fechaIPR;       // start of the reproductive period for this cow
     std::optional<Fecha> primerServicio;
-    std::optional<Fecha> ultimoServicio;  // of the last line, also when that one has no date and others have
+    std::optional<Fecha> ultimoServicio; // of the last line, also when that one has no date and others have
     std::optional<Fecha> fechaSecado;
     EstadoReproductivo estado = EstadoReproductivo::Ninguno;
-    std::string añoRef;                   // of the record
-    std::optional<Fecha> fechaBajaVaca;   // she left the herd
-    std::string añoBajaVaca;              // reference year of her last record when she left; else ""
+    std::string añoRef;                 // of the record
+    std::optional<Fecha> fechaBajaVaca; // she left the herd
+    std::string añoBajaVaca;            // reference year of her last record when she left; else ""
     Fecha hoy;
 };
 

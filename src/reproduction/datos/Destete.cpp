@@ -11,7 +11,7 @@ namespace {
 std::optional<int> Entero(const std::string& texto) {
     constexpr double kMaximo = 1e6;
     const auto n = IsNumeric(texto) ? NumeroEscrito(texto) : std::nullopt;
-    return n && *n < kMaximo && *n > -kMaximo ? std::optional(static_cast<int>(AEntero(*n))) : std::nullopt;
+    return n && *n<kMaximo&& * n> - kMaximo ? std::optional(static_cast<int>(AEntero(*n))) : std::nullopt;
 }
 
 } // namespace
@@ -37,8 +37,8 @@ FigurasDeDestete CalcularDestete(const DatosDeDestete& d) {
     f.pesoDestete = PesoInterpolado(*peso, *nacimiento, d.fechaPeso->dia - d.fechaParto->dia, edad);
     const auto destete = Entero(f.pesoDestete);
     if (destete && edad > 0)
-        f.gDestete = GananciaMostrada(
-            TextoNumero(Round(static_cast<double>(*destete - *nacimiento) / edad * 1000)));
+        f.gDestete =
+            GananciaMostrada(TextoNumero(Round(static_cast<double>(*destete - *nacimiento) / edad * 1000)));
     return f;
 }
 

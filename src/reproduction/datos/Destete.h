@@ -19,8 +19,9 @@ struct DatosDeDestete {
 // The figures as their fields show them: "" where one cannot be worked out.
 struct FigurasDeDestete {
     std::string edadDestete; // days
-    std::string pesoDestete; // kg, whole: the weighing carried along the line from the birth weight to the age at weaning
-    std::string gDestete;    // gain in g a day, whole
+    std::string
+        pesoDestete; // kg, whole: the weighing carried along the line from the birth weight to the age at weaning
+    std::string gDestete; // gain in g a day, whole
     friend bool operator==(const FigurasDeDestete&, const FigurasDeDestete&) = default;
 };
 

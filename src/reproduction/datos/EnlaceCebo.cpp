@@ -58,6 +58,10 @@ void Rellenar(Recordset& rs, const TerneroDeParto& t) {
 
 } // namespace
 
+bool TieneCebo(Conexion& c, const TerneroDeParto& t) {
+    return !Recordset(c, "Select * FROM T_Cebo" + DondeCebo(t), Cursor::Estatico, Bloqueo::SoloLectura).Eof();
+}
+
 double CrearCebo(Conexion& c, const TerneroDeParto& t, const CeboRetirado& retirado) {
     if (!ClavesDadas(t))
         return 0;

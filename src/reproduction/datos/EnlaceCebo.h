@@ -28,6 +28,8 @@ using CeboRetirado = std::vector<std::pair<std::string, Valor>>;
 
 // All throw ErrorAlmacen, and are whole or not at all.
 
+bool TieneCebo(Conexion& c, const TerneroDeParto& ternero);
+
 // Sends a calf to fattening: its record is added unless it has one, numbered within the farmer's, or comes back as it was withdrawn. The calf's row
 // names it. Nothing happens for a calf whose keys are not all given (a calving of parity 0 has no fattening record); then 0, else the number.
 double CrearCebo(Conexion& c, const TerneroDeParto& ternero, const CeboRetirado& retirado = {});

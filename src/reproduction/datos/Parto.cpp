@@ -28,7 +28,8 @@ std::string DondeFila(const CicloDeVaca& ciclo, double idParto) {
 
 std::vector<double> FilasDeParto(Conexion& c, const CicloDeVaca& ciclo) {
     std::vector<double> filas;
-    for (Recordset rs(c, "Select * FROM T_Partos" + DondeCiclo(ciclo), Cursor::Estatico, Bloqueo::SoloLectura);
+    for (Recordset rs(c, "Select * FROM T_Partos" + DondeCiclo(ciclo), Cursor::Estatico,
+                      Bloqueo::SoloLectura);
          !rs.Eof(); rs.Siguiente())
         filas.push_back(rs["Id_Parto"].Numero());
     return filas;
@@ -48,7 +49,8 @@ double CrearMellizo(Conexion& c, const CicloDeVaca& ciclo, double idPrimero, std
     TodoONada(c, [&] {
         Recordset rs(c, "Select * FROM T_Partos" + DondeCiclo(ciclo));
         if (rs.Eof())
-            throw ErrorAlmacen(CodigoError::SinFilaActual, "El parto ya no existe: otro proceso lo ha borrado");
+            throw ErrorAlmacen(CodigoError::SinFilaActual,
+                               "El parto ya no existe: otro proceso lo ha borrado");
         id = Añadir(c, rs, ciclo);
         if (fechaParto)
             rs["Fecha_Parto"] = *fechaParto;
@@ -60,7 +62,8 @@ double CrearMellizo(Conexion& c, const CicloDeVaca& ciclo, double idPrimero, std
 }
 
 // Links grow stale: the number may be another animal's by now, so the record must be of this farmer and name this cow, or no cow at all.
-void QuitarMellizo(Conexion& c, const CicloDeVaca& ciclo, double idGanadero, double idPrimero, double idSegundo) {
+void QuitarMellizo(Conexion& c, const CicloDeVaca& ciclo, double idGanadero, double idPrimero,
+                   double idSegundo) {
     TodoONada(c, [&] {
         const auto enlace = ValorDeCampo(c, "SELECT Id_Cebo FROM T_Partos" + DondeFila(ciclo, idSegundo));
         c.Execute("DELETE FROM T_Partos" + DondeFila(ciclo, idSegundo));
@@ -72,7 +75,8 @@ void QuitarMellizo(Conexion& c, const CicloDeVaca& ciclo, double idGanadero, dou
     });
 }
 
-bool AltaParto(Conexion& c, const CicloDeVaca& ciclo, std::optional<Fecha> fecha, const std::string& semental) {
+bool AltaParto(Conexion& c, const CicloDeVaca& ciclo, std::optional<Fecha> fecha,
+               const std::string& semental) {
     return EnGrupo(c, [&] {
         Recordset rs(c, "Select * FROM T_Partos" + DondeCiclo(ciclo));
         if (!rs.Eof())

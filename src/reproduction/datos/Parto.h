@@ -24,11 +24,13 @@ double CrearMellizo(Conexion& c, const CicloDeVaca& ciclo, double idPrimero, std
 // Marks the first row, without touching the other.
 void MarcarGemelar(Conexion& c, const CicloDeVaca& ciclo, double idPrimero, const std::string& gemelar);
 // Removes the second row with the fattening record of that calf. The first one is no twin any more.
-void QuitarMellizo(Conexion& c, const CicloDeVaca& ciclo, double idGanadero, double idPrimero, double idSegundo);
+void QuitarMellizo(Conexion& c, const CicloDeVaca& ciclo, double idGanadero, double idPrimero,
+                   double idSegundo);
 
 // Adds a calving unless there is one of that year and parity, which stays as it is; its date and its sire are those of the mating record that it
 // ends, the sire only with a date. True when it was added.
-bool AltaParto(Conexion& c, const CicloDeVaca& ciclo, std::optional<Fecha> fecha, const std::string& semental);
+bool AltaParto(Conexion& c, const CicloDeVaca& ciclo, std::optional<Fecha> fecha,
+               const std::string& semental);
 
 // Moves the fattening records of a calving's calves to another year or parity; its own rows are its sheet's.
 void LlevarCebo(Conexion& c, const CicloDeVaca& de, const CicloDeVaca& a, double idGanadero);

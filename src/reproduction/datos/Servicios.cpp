@@ -14,16 +14,11 @@ using enum ClaseCampo;
 constexpr const char* kTratamientos[] = {"No", "PGF", "Crestar", "Prid"};
 constexpr const char* kTipos[] = {"Cubrición", "1 InsCelo", "1 Insem", "2 Insem"};
 
-constexpr ColumnaLinea kColumnas[] = {{"N_Servicio", Numero},
-                                      {"Fecha_Servicio", Fecha},
-                                      {"Semental"},
-                                      {"Prog", DecimalPunto},
-                                      {"Tratam", Texto, kTratamientos},
-                                      {"FechaTratam", Fecha},
-                                      {"TipoServicio", Texto, kTipos},
-                                      {"N_Inseminacion", Numero},
-                                      {"Obs"},
-                                      {"Id_Semental", Numero}};
+constexpr ColumnaLinea kColumnas[] = {
+    {"N_Servicio", Numero},          {"Fecha_Servicio", Fecha},        {"Semental"},
+    {"Prog", DecimalPunto},          {"Tratam", Texto, kTratamientos}, {"FechaTratam", Fecha},
+    {"TipoServicio", Texto, kTipos}, {"N_Inseminacion", Numero},       {"Obs"},
+    {"Id_Semental", Numero}};
 
 double ConteoDe(const Linea* linea) {
     return linea ? linea->Numero(servicio::NumeroInsem) : 0;
@@ -40,8 +35,8 @@ std::span<const char* const> Tratamientos() {
 }
 
 std::vector<Linea> LeerServicios(Conexion& c, const CicloDeVaca& ciclo) {
-    Recordset rs(c, "SELECT * FROM T_Servicios" + DondeCiclo(ciclo) + " ORDER BY N_Servicio", Cursor::Estatico,
-                 Bloqueo::SoloLectura);
+    Recordset rs(c, "SELECT * FROM T_Servicios" + DondeCiclo(ciclo) + " ORDER BY N_Servicio",
+                 Cursor::Estatico, Bloqueo::SoloLectura);
     return LeerLineas(rs, kColumnas, OtrosCampos(rs, kColumnas, {"Id_Vaca", "Año_Ref", "N_Parto"}));
 }
 
@@ -81,9 +76,11 @@ std::string SiguienteServicio(Conexion& c, const CicloDeVaca& ciclo) {
         SiguienteId(c, "SELECT N_Servicio FROM T_Servicios" + DondeCiclo(ciclo) + " ORDER BY N_Servicio"));
 }
 
-std::string NumeroDeInseminacion(Conexion& c, const CicloDeVaca& ciclo, const std::string& tipo, const Linea* linea) {
+std::string NumeroDeInseminacion(Conexion& c, const CicloDeVaca& ciclo, const std::string& tipo,
+                                 const Linea* linea) {
     const bool natural = tipo == kTipos[0];
-    const auto consulta = "SELECT N_Inseminacion FROM T_Servicios" + DondeCiclo(ciclo) + " ORDER BY N_Inseminacion";
+    const auto consulta =
+        "SELECT N_Inseminacion FROM T_Servicios" + DondeCiclo(ciclo) + " ORDER BY N_Inseminacion";
     if (!linea) {
         const double ultimo = SiguienteId(c, consulta) - 1;
         return TextoNumero(natural ? ultimo : ultimo + 1);

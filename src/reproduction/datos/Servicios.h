@@ -36,6 +36,7 @@ std::string SiguienteServicio(Conexion& c, const CicloDeVaca& ciclo);
 
 // Running count of inseminations that goes with a kind of service. `linea` is the line in hand, nullptr for a new one. Natural services keep
 // the count reached before them, and changing a line's kind moves its count by one. `tipo` is a text of the list of kinds.
-std::string NumeroDeInseminacion(Conexion& c, const CicloDeVaca& ciclo, const std::string& tipo, const Linea* linea);
+std::string NumeroDeInseminacion(Conexion& c, const CicloDeVaca& ciclo, const std::string& tipo,
+                                 const Linea* linea);
 
 } // namespace pastorix

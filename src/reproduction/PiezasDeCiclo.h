@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QCheckBox;
+class QHBoxLayout;
+class QPushButton;
+
+namespace pastorix {
+
+// What the sheets of matings and calvings have in common.
+
+// The mark of complete data, which the user sets: it says in red that they are.
+void RotularCompletos(QCheckBox& marca);
+
+// One of the buttons below a sheet.
+struct BotonDePie {
+    const char* nombre;
+    const char* icono;
+    const char* texto;
+    const char* ayuda;
+};
+QPushButton* PonerBoton(QHBoxLayout& pie, const BotonDePie& boton, std::function<void()> orden);
+
+} // namespace pastorix
