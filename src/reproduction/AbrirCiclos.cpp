@@ -12,8 +12,8 @@ namespace {
 
 using Abrir = void (*)(Principal&, QWidget*, const VacaEnMano&, const CicloDeVaca&);
 
-void Añadir(const DefinicionAlta& definicion, Abrir abrir, Principal& marco, QWidget* padre, const VacaEnMano& vaca,
-            const PropuestaDeCiclo& propuesta) {
+void Añadir(const DefinicionAlta& definicion, Abrir abrir, Principal& marco, QWidget* padre,
+            const VacaEnMano& vaca, const PropuestaDeCiclo& propuesta) {
     try {
         AltaDeCiclo dialogo(marco.LaSesion().conexion, definicion, vaca.idVaca, propuesta, padre);
         if (dialogo.exec() == QDialog::Accepted)
@@ -37,11 +37,13 @@ void AbrirParto(Principal& marco, QWidget* padre, const VacaEnMano& vaca, const 
         hoja.exec();
 }
 
-void AñadirCubricion(Principal& marco, QWidget* padre, const VacaEnMano& vaca, const PropuestaDeCiclo& propuesta) {
+void AñadirCubricion(Principal& marco, QWidget* padre, const VacaEnMano& vaca,
+                     const PropuestaDeCiclo& propuesta) {
     Añadir(kAltaCubricion, AbrirCubricion, marco, padre, vaca, propuesta);
 }
 
-void AñadirParto(Principal& marco, QWidget* padre, const VacaEnMano& vaca, const PropuestaDeCiclo& propuesta) {
+void AñadirParto(Principal& marco, QWidget* padre, const VacaEnMano& vaca,
+                 const PropuestaDeCiclo& propuesta) {
     Añadir(kAltaParto, AbrirParto, marco, padre, vaca, propuesta);
 }
 

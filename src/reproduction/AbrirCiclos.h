@@ -26,7 +26,9 @@ struct PropuestaDeCiclo {
 };
 
 // The quick additions: year and parity are asked for, the record is added unless it is there, and its sheet opens.
-void AñadirCubricion(Principal& marco, QWidget* padre, const VacaEnMano& vaca, const PropuestaDeCiclo& propuesta = {});
-void AñadirParto(Principal& marco, QWidget* padre, const VacaEnMano& vaca, const PropuestaDeCiclo& propuesta = {});
+void AñadirCubricion(Principal& marco, QWidget* padre, const VacaEnMano& vaca,
+                     const PropuestaDeCiclo& propuesta = {});
+void AñadirParto(Principal& marco, QWidget* padre, const VacaEnMano& vaca,
+                 const PropuestaDeCiclo& propuesta = {});
 
 } // namespace pastorix

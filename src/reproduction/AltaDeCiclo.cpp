@@ -24,26 +24,28 @@ constexpr int kCifrasDelParto = 4; // a cow has fewer; more would not go into th
 
 } // namespace
 
-const DefinicionAlta kAltaCubricion{
-    "AñadirCubricion",
-    "Añadir Cubrición",
-    "GridCubri",
-    "Indique el Año de Referencia para la Cubrición",
-    "Indique el el Nº de Parto para el año ",
-    CubricionesDeVaca,
-    [](Conexion& c, const CicloDeVaca& ciclo, const PropuestaDeCiclo& p) { return AltaCubricion(c, ciclo, p.fecha); }};
+const DefinicionAlta kAltaCubricion{"AñadirCubricion",
+                                    "Añadir Cubrición",
+                                    "GridCubri",
+                                    "Indique el Año de Referencia para la Cubrición",
+                                    "Indique el el Nº de Parto para el año ",
+                                    CubricionesDeVaca,
+                                    [](Conexion& c, const CicloDeVaca& ciclo, const PropuestaDeCiclo& p) {
+                                        return AltaCubricion(c, ciclo, p.fecha);
+                                    }};
 
-const DefinicionAlta kAltaParto{
-    "AñadirParto",
-    "Añadir Parto",
-    "GridPartos",
-    "Indique el Año de Referencia para el Parto",
-    "Indique el Nº de Parto del año ",
-    PartosDeVaca,
-    [](Conexion& c, const CicloDeVaca& ciclo, const PropuestaDeCiclo& p) { return AltaParto(c, ciclo, p.fecha, p.semental); }};
+const DefinicionAlta kAltaParto{"AñadirParto",
+                                "Añadir Parto",
+                                "GridPartos",
+                                "Indique el Año de Referencia para el Parto",
+                                "Indique el Nº de Parto del año ",
+                                PartosDeVaca,
+                                [](Conexion& c, const CicloDeVaca& ciclo, const PropuestaDeCiclo& p) {
+                                    return AltaParto(c, ciclo, p.fecha, p.semental);
+                                }};
 
-AltaDeCiclo::AltaDeCiclo(Conexion& c, const DefinicionAlta& definicion, double idVaca, const PropuestaDeCiclo& propuesta,
-                         QWidget* padre)
+AltaDeCiclo::AltaDeCiclo(Conexion& c, const DefinicionAlta& definicion, double idVaca,
+                         const PropuestaDeCiclo& propuesta, QWidget* padre)
     : QDialog(padre)
     , m_c(c)
     , m_definicion(definicion)

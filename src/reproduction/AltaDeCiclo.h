@@ -30,8 +30,8 @@ extern const DefinicionAlta kAltaParto;
 class AltaDeCiclo : public QDialog {
 public:
     // Throws ErrorAlmacen.
-    AltaDeCiclo(Conexion& c, const DefinicionAlta& definicion, double idVaca, const PropuestaDeCiclo& propuesta,
-                QWidget* padre);
+    AltaDeCiclo(Conexion& c, const DefinicionAlta& definicion, double idVaca,
+                const PropuestaDeCiclo& propuesta, QWidget* padre);
 
     // The cycle that was asked for, once the dialog is accepted.
     const CicloDeVaca& Ciclo() const { return m_ciclo; }

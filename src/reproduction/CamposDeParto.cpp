@@ -17,8 +17,10 @@ constexpr CampoFicha kCampos[] = {
     {g::NParto, "N_Parto", "&Nº de Parto", Numero, 4, 0, 0, 1, "", 0, kVacia},
     {g::AñoRef, "Año_Ref", "Año de &Ref.", Numero, 4, 0, 1, 1, "", 0, kVacia},
     {g::Fecha, "Fecha_Parto", "&Fecha de Parto", Fecha, 0, 1, 0, 1, "", 0, kVacia},
-    {g::FechaCompra, nullptr, "F.Compra", Fecha, 10, 3, 0, 1, "Fecha de compra de la vaca", 0, kVacia, nullptr, true},
-    {g::FechaBaja, nullptr, "F.Baja", Fecha, 10, 3, 1, 1, "Fecha de baja de la vaca", 0, kVacia, nullptr, true},
+    {g::FechaCompra, nullptr, "F.Compra", Fecha, 10, 3, 0, 1, "Fecha de compra de la vaca", 0, kVacia,
+     nullptr, true},
+    {g::FechaBaja, nullptr, "F.Baja", Fecha, 10, 3, 1, 1, "Fecha de baja de la vaca", 0, kVacia, nullptr,
+     true},
 };
 constexpr const char* kDificultades[] = {"Fácil", "Difícil", "MuyDif.", "Cesárea"};
 constexpr const char* kNoSi[] = {"No", "Sí"};
@@ -50,22 +52,72 @@ constexpr CampoDeTernero kCamposDeTernero[] = {
     {t::Semental, "Semental", "Semental Padre", Texto, 1, 0, 1, 0, {"Ct_Toro(0)", "Ct_Toro(1)"}},
     {t::IdSemental, "Id_Semental", "", Numero, 1, 4, 1, 0, {"Id_Toro(0)", "Id_Toro(1)"}},
     {t::FechaMuerte, "FechaMuerte", "Fecha &Muerte", Fecha, 3, 1, 1, 0, {"Ct_T1(2)", "Ct_T1(23)"}},
-    {t::OtraCausaMuerte, "OtraCausaMuerte", "", Texto, 3, 3, 1, 0, {"Ct_T1(3)", "Ct_T1(24)"}, false, false, "Otra causa de muerte"},
+    {t::OtraCausaMuerte,
+     "OtraCausaMuerte",
+     "",
+     Texto,
+     3,
+     3,
+     1,
+     0,
+     {"Ct_T1(3)", "Ct_T1(24)"},
+     false,
+     false,
+     "Otra causa de muerte"},
     {t::FVentaAD, "FVentaAD", "F. VentaAD", Fecha, 4, 1, 1, 0, {"Ct_Destino(0)", "Ct_Destino(1)"}},
     {t::FechaSecado, "FechaSecado", "Fecha Secado", Fecha, 4, 2, 1, 0, {"Ct_T1(11)", "Ct_T1(4)"}},
-    {t::CuartosPerdidos, "CuartosPerdidos", "Cuartos Perdidos", Numero, 4, 3, 1, 0, {"Ct_T1(8)", "Ct_T1(29)"}},
+    {t::CuartosPerdidos,
+     "CuartosPerdidos",
+     "Cuartos Perdidos",
+     Numero,
+     4,
+     3,
+     1,
+     0,
+     {"Ct_T1(8)", "Ct_T1(29)"}},
     {t::FechaDestete, "FechaDestete", "Fecha D&estete", Fecha, 0, 0, 1, 1, {"Ct_T1(9)", "Ct_T1(41)"}},
     {t::FechaPeso, "FechaPeso", "Fec&ha Pesada", Fecha, 0, 1, 1, 1, {"Ct_T1(14)", "Ct_T1(16)"}},
     {t::Peso, "Peso", "Pes&o", DecimalPunto, 0, 2, 1, 1, {"Ct_T1(15)", "Ct_T1(17)"}, false, true},
-    {t::PesoDestete, "PesoDestete", "Peso DesteteE", NumeroLibre, 1, 0, 1, 1, {"Ct_T1(10)", "Ct_T1(40)"}, true, true},
-    {t::EdadDestete, "EdadDestete", "Edad Destete (días)", NumeroLibre, 1, 1, 1, 1, {"Ct_T1(6)", "Ct_T1(27)"}, true, true},
-    {t::GDestete, "GDestete", "Gan. Destete (g/día)", NumeroLibre, 1, 2, 1, 1, {"Ct_T1(7)", "Ct_T1(28)"}, true, true},
+    {t::PesoDestete,
+     "PesoDestete",
+     "Peso DesteteE",
+     NumeroLibre,
+     1,
+     0,
+     1,
+     1,
+     {"Ct_T1(10)", "Ct_T1(40)"},
+     true,
+     true},
+    {t::EdadDestete,
+     "EdadDestete",
+     "Edad Destete (días)",
+     NumeroLibre,
+     1,
+     1,
+     1,
+     1,
+     {"Ct_T1(6)", "Ct_T1(27)"},
+     true,
+     true},
+    {t::GDestete,
+     "GDestete",
+     "Gan. Destete (g/día)",
+     NumeroLibre,
+     1,
+     2,
+     1,
+     1,
+     {"Ct_T1(7)", "Ct_T1(28)"},
+     true,
+     true},
     {t::Observaciones, "ObsTernero", "Observaciones Ternero", Memo, 0, 0, 1, 2, {"Ct_T1(5)", "Ct_T1(30)"}},
 };
 
 constexpr const char* kSexos[] = {"Macho", "Hembra"};
 constexpr const char* kMuere[] = {"No", "Perinatal", "Antes30d", "AntesD", "DespuésD", "NaceM"};
-constexpr const char* kCausas[] = {"Debilidad", "EnfDigest", "EnfRespirat", "PartoDist", "PartoNoAten", "Súbita", "Otra"};
+constexpr const char* kCausas[] = {"Debilidad",   "EnfDigest", "EnfRespirat", "PartoDist",
+                                   "PartoNoAten", "Súbita",    "Otra"};
 constexpr const char* kCria[] = {"DPrecoz", "Exterior", "Estab2t", "EstabVol", "OtraVaca", "Mamona"};
 constexpr const char* kOrigenes[] = {"Propio", "Comprado"};
 constexpr const char* kDestinos[] = {"VentaD", "VentaV", "VentaAD", "Recría", "Cebo", "Testaje"};
@@ -104,12 +156,12 @@ struct HojaDeUnTernero {
 
     explicit HojaDeUnTernero(std::size_t ternero) {
         for (const auto& c : kCamposDeTernero)
-            campos.push_back({c.indice, c.columna, c.rotulo, c.clase, c.indice == t::CuartosPerdidos ? 2 : 0, c.fila,
-                              c.columnaRejilla, c.ancho, c.nombreAccesible, c.hoja, kVacia, c.controles[ternero],
-                              c.derivado, "", c.ceroVacio});
+            campos.push_back({c.indice, c.columna, c.rotulo, c.clase, c.indice == t::CuartosPerdidos ? 2 : 0,
+                              c.fila, c.columnaRejilla, c.ancho, c.nombreAccesible, c.hoja, kVacia,
+                              c.controles[ternero], c.derivado, "", c.ceroVacio});
         for (const auto& c : kCombosDeTernero)
-            combos.push_back({c.controles[ternero], c.columna, c.rotulo, c.lista, c.fila, c.columnaRejilla, 0, false, "",
-                              c.itemDetallado, c.campoDetalle});
+            combos.push_back({c.controles[ternero], c.columna, c.rotulo, c.lista, c.fila, c.columnaRejilla, 0,
+                              false, "", c.itemDetallado, c.campoDetalle});
         hoja = {"Ct_T1", "T_Partos", campos, combos};
     }
 };
@@ -128,7 +180,8 @@ const DefinicionHoja& HojaDeTernero(int ternero) {
 
 const CombosDeTernero& CombosDe(int ternero) {
     static constexpr std::array<CombosDeTernero, 2> combos{
-        CombosDeTernero{"Cd_T1(0)", "Cd_T1(5)", "Cd_T1(6)"}, CombosDeTernero{"Cd_T1(13)", "Cd_T1(18)", "Cd_T1(17)"}};
+        CombosDeTernero{"Cd_T1(0)", "Cd_T1(5)", "Cd_T1(6)"},
+        CombosDeTernero{"Cd_T1(13)", "Cd_T1(18)", "Cd_T1(17)"}};
     return combos[static_cast<std::size_t>(ternero)];
 }
 

@@ -20,8 +20,23 @@ namespace {
 
 using C = ClaseCampo;
 
-enum { Saneamiento, FechaNac, FechaCebo, Obs, AñoRef, FechaSacrif, EdadSacrif, TiempoCebo, Categoria, KgCanal, PrecioKg, FechaMuerte,
-       Engrasamiento, OtroTipo, OtraCausa };
+enum {
+    Saneamiento,
+    FechaNac,
+    FechaCebo,
+    Obs,
+    AñoRef,
+    FechaSacrif,
+    EdadSacrif,
+    TiempoCebo,
+    Categoria,
+    KgCanal,
+    PrecioKg,
+    FechaMuerte,
+    Engrasamiento,
+    OtroTipo,
+    OtraCausa
+};
 
 constexpr auto kConserva = SiNoVale::Conserva;
 
@@ -30,16 +45,20 @@ constexpr CampoFicha kCampos[] = {
     {Saneamiento, "Saneamiento", "&Saneamiento", C::Texto, 0, 0, 1},
     {FechaNac, "FechaNac", "Fecha &Nac.", C::Fecha, 0, 1, 1, 1, "Fecha de nacimiento", 0, kConserva},
     {FechaCebo, "FechaCebo", "Fecha C&ebo", C::Fecha, 0, 1, 2, 1, "Fecha de entrada en cebo", 0, kConserva},
-    {OtroTipo, "OtroTipoCebo", "", C::Texto, 0, 2, 1, 2, "Otro tipo de cebo", 0, SiNoVale::TalCual, "TxtTipoCebo"},
+    {OtroTipo, "OtroTipoCebo", "", C::Texto, 0, 2, 1, 2, "Otro tipo de cebo", 0, SiNoVale::TalCual,
+     "TxtTipoCebo"},
     {FechaSacrif, "FechaSacrif", "&Fecha Sacrif.", C::Fecha, 0, 3, 0, 1, "Fecha de sacrificio", 0, kConserva},
-    {EdadSacrif, "EdadSacrif", "Edad Sacrif. (días)", C::NumeroLibre, 8, 3, 1, 1, "", 0, SiNoVale::Vacia, nullptr, true},
-    {TiempoCebo, "TiempoCebo", "Tiempo Cebo (días)", C::NumeroLibre, 8, 3, 2, 1, "", 0, SiNoVale::Vacia, nullptr, true},
+    {EdadSacrif, "EdadSacrif", "Edad Sacrif. (días)", C::NumeroLibre, 8, 3, 1, 1, "", 0, SiNoVale::Vacia,
+     nullptr, true},
+    {TiempoCebo, "TiempoCebo", "Tiempo Cebo (días)", C::NumeroLibre, 8, 3, 2, 1, "", 0, SiNoVale::Vacia,
+     nullptr, true},
     {Categoria, "Categoria", "Ca&tegoría", C::Texto, 0, 4, 0},
     {Engrasamiento, "Engrasamiento", "Engrasamiento", C::Texto, 0, 4, 1},
     {KgCanal, "KgCanal", "&Kg Canal", C::DecimalPunto, 12, 5, 0, 1, "", 0, kConserva},
     {PrecioKg, "PrecioKg", "&Precio Kg", C::DecimalPunto, 12, 5, 1, 1, "", 0, kConserva},
     {FechaMuerte, "FechaMuerte", "Fecha M&uerte", C::Fecha, 0, 6, 0, 1, "", 0, kConserva},
-    {OtraCausa, "OtraCausaMuerte", "", C::Texto, 0, 6, 2, 1, "Otra causa de muerte", 0, SiNoVale::TalCual, "TxtOtraCausaMuerte"},
+    {OtraCausa, "OtraCausaMuerte", "", C::Texto, 0, 6, 2, 1, "Otra causa de muerte", 0, SiNoVale::TalCual,
+     "TxtOtraCausaMuerte"},
     {Obs, "Obs", "&Observaciones", C::Memo, 0, 7, 0, 3},
 };
 constexpr const char* kOrigenes[] = {"Propio", "Comprado", "Cambiado", "Comprado PostD"};
@@ -61,8 +80,8 @@ std::string Dias(const std::optional<Fecha>& desde, const std::optional<Fecha>& 
 
 } // namespace
 
-Cebo::Cebo(Sesion& sesion, double idGanadero, std::optional<double> idCebo, std::optional<TerneroDeParto> ternero,
-           QWidget* padre)
+Cebo::Cebo(Sesion& sesion, double idGanadero, std::optional<double> idCebo,
+           std::optional<TerneroDeParto> ternero, QWidget* padre)
     : QDialog(padre)
     , m_sesion(sesion)
     , m_idGanadero(idGanadero)
@@ -133,7 +152,8 @@ void Cebo::Mostrar() {
         Recordset rs(Base(), SentenciaCebo(m_idGanadero, *m_idCebo), Cursor::Estatico, Bloqueo::SoloLectura);
         if (rs.Eof()) {
             Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención..."),
-                   QStringLiteral("No Encuentro el Codigo: ") + QString::fromStdString(TextoNumero(*m_idCebo)));
+                   QStringLiteral("No Encuentro el Codigo: ") +
+                       QString::fromStdString(TextoNumero(*m_idCebo)));
             m_idCebo.reset();
             return;
         }
@@ -187,8 +207,9 @@ void Cebo::Escribir(QStringList& conservados) {
         rs["Id_Cebo"] = id;
         rs["Id_Ganadero"] = m_idGanadero;
     } else if (rs.Eof()) {
-        throw ErrorAlmacen(CodigoError::SinFilaActual,
-                           "El registro ya no existe: otro proceso lo ha borrado. Lo escrito sigue en la ficha.");
+        throw ErrorAlmacen(
+            CodigoError::SinFilaActual,
+            "El registro ya no existe: otro proceso lo ha borrado. Lo escrito sigue en la ficha.");
     }
     conservados = m_hoja->Conservados(rs);
     m_hoja->Escribir(rs);
@@ -196,14 +217,16 @@ void Cebo::Escribir(QStringList& conservados) {
     if (m_ternero)
         EnlazarConParto(Base(), id, m_ternero->parto, m_ternero->idParto);
     if (DevuelveAlParto())
-        DevolverAlParto(Base(), {m_idGanadero, id, m_hoja->FechaDe(FechaCebo), m_hoja->TextoStd(Saneamiento),
-                                 m_hoja->Combo("CD_Sexo").currentText().toStdString(), rs["FechaNac"].FechaValor()});
+        DevolverAlParto(Base(),
+                        {m_idGanadero, id, m_hoja->FechaDe(FechaCebo), m_hoja->TextoStd(Saneamiento),
+                         m_hoja->Combo("CD_Sexo").currentText().toStdString(), rs["FechaNac"].FechaValor()});
     m_idCebo = id;
 }
 
 void Cebo::Guardar() {
     if (m_hoja->Texto(AñoRef).isEmpty()) {
-        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QStringLiteral("Debe indicar el año de referencia"));
+        Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
+               QStringLiteral("Debe indicar el año de referencia"));
         return m_hoja->Campo(AñoRef).setFocus();
     }
     const auto antes = m_idCebo;
@@ -223,8 +246,9 @@ void Cebo::Guardar() {
 }
 
 void Cebo::Cancelar() {
-    if (m_fallo && !Preguntar(this, QStringLiteral("Atención"),
-                              QStringLiteral("Lo que se ve en la ficha no se ha podido guardar. ¿Desea perderlo?")))
+    if (m_fallo &&
+        !Preguntar(this, QStringLiteral("Atención"),
+                   QStringLiteral("Lo que se ve en la ficha no se ha podido guardar. ¿Desea perderlo?")))
         return;
     m_hoja->Limpiar();
     PonerModo(ModoFicha::Vacia);
@@ -254,19 +278,21 @@ void Cebo::RevisarParto() {
     QStringList cambian;
     if (Editando() && m_idCebo && DevuelveAlParto())
         try {
-            for (const auto& campo :
-                 DevolverAlParto(Base(),
-                                 {m_idGanadero, *m_idCebo, m_hoja->FechaDe(FechaCebo), m_hoja->TextoStd(Saneamiento),
-                                  m_hoja->Combo("CD_Sexo").currentText().toStdString(), m_hoja->FechaDe(FechaNac)},
-                                 false))
+            for (const auto& campo : DevolverAlParto(
+                     Base(),
+                     {m_idGanadero, *m_idCebo, m_hoja->FechaDe(FechaCebo), m_hoja->TextoStd(Saneamiento),
+                      m_hoja->Combo("CD_Sexo").currentText().toStdString(), m_hoja->FechaDe(FechaNac)},
+                     false))
                 cambian << QString::fromStdString(campo);
         } catch (const ErrorAlmacen& e) {
-            m_avisoParto->setText(QStringLiteral("No se puede mirar el parto: ") + QString::fromUtf8(e.what()));
+            m_avisoParto->setText(QStringLiteral("No se puede mirar el parto: ") +
+                                  QString::fromUtf8(e.what()));
             return;
         }
-    m_avisoParto->setText(cambian.isEmpty() ? QString()
-                                            : QStringLiteral("Al guardar cambiará en el parto del ternero: ") +
-                                                  cambian.join(QStringLiteral(", ")));
+    m_avisoParto->setText(cambian.isEmpty()
+                              ? QString()
+                              : QStringLiteral("Al guardar cambiará en el parto del ternero: ") +
+                                    cambian.join(QStringLiteral(", ")));
 }
 
 } // namespace pastorix

@@ -18,8 +18,8 @@ namespace pastorix {
 class Cebo : public QDialog {
 public:
     // `idCebo`: the record to be shown; without one an addition begins at once. `ternero`: the calf that the sheet was opened from.
-    Cebo(Sesion& sesion, double idGanadero, std::optional<double> idCebo, std::optional<TerneroDeParto> ternero,
-         QWidget* padre = nullptr);
+    Cebo(Sesion& sesion, double idGanadero, std::optional<double> idCebo,
+         std::optional<TerneroDeParto> ternero, QWidget* padre = nullptr);
 
     void Añadir();
     void Modificar();

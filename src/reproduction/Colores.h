@@ -8,9 +8,9 @@
 namespace pastorix {
 
 // The colours that mean something on the sheets of a cycle.
-inline const QColor kRojo{255, 25, 25};        // too late, or the principal cause
+inline const QColor kRojo{255, 25, 25};          // too late, or the principal cause
 inline const QColor kRojoCompletos{255, 50, 50}; // complete data
-inline const QColor kPalido{255, 255, 192};    // a figure that is fine
+inline const QColor kPalido{255, 255, 192};      // a figure that is fine
 
 // A control's text in a colour; an invalid colour brings the palette's back.
 inline void PintarTexto(QWidget& w, const QColor& color) {

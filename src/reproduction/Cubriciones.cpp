@@ -50,7 +50,8 @@ bool Cubriciones::CargarCubricion() {
     try {
         Recordset rs(Base(), SentenciaCubricion(m_ciclo));
         if (rs.Eof()) {
-            Avisar(this, TipoMensaje::Critico, QStringLiteral("Atención"), QStringLiteral("Error en Cubriciones"));
+            Avisar(this, TipoMensaje::Critico, QStringLiteral("Atención"),
+                   QStringLiteral("Error en Cubriciones"));
         } else {
             m_ciclo.idCubricion = rs["Id_Cubricion"].Numero();
             m_hoja->Mostrar(rs);
@@ -114,8 +115,9 @@ void Cubriciones::MostrarOtras() {
     m_avisos->setText(QStringLiteral("El parto nº %1 tiene cubrición también en %2")
                           .arg(m_hoja->Texto(c::NParto), años.join(QStringLiteral(", "))));
     m_avisos->setVisible(!años.isEmpty());
-    setWindowTitle(QStringLiteral("Cubriciones - Año %1, parto %2")
-                       .arg(QString::fromStdString(TextoDe(EnteroONulo(m_ciclo.añoRef))), m_hoja->Texto(c::NParto)));
+    setWindowTitle(
+        QStringLiteral("Cubriciones - Año %1, parto %2")
+            .arg(QString::fromStdString(TextoDe(EnteroONulo(m_ciclo.añoRef))), m_hoja->Texto(c::NParto)));
 }
 
 // The values that follow a field when it is left. The date of the calving moves all of them, by way of the row.

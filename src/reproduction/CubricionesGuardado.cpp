@@ -42,10 +42,11 @@ void Cubriciones::ResolverParidad() {
     auto otra = m_ciclo;
     otra.nParto = paridad;
     const bool ocupada = !Recordset(Base(), SentenciaCubricion(otra)).Eof();
-    const auto pregunta = QStringLiteral("El nº de parto de esta cubrición pasa de «%1» a «%2», y con ella sus servicios y "
-                                         "sus anotaciones de sanidad.%3 ¿Desea cambiarlo?")
-                              .arg(QString::fromStdString(antes), m_hoja->Texto(c::NParto),
-                                   ocupada ? QStringLiteral(" Ya hay otra cubrición de ese año y parto.") : QString());
+    const auto pregunta =
+        QStringLiteral("El nº de parto de esta cubrición pasa de «%1» a «%2», y con ella sus servicios y "
+                       "sus anotaciones de sanidad.%3 ¿Desea cambiarlo?")
+            .arg(QString::fromStdString(antes), m_hoja->Texto(c::NParto),
+                 ocupada ? QStringLiteral(" Ya hay otra cubrición de ese año y parto.") : QString());
     if (!Preguntar(this, QStringLiteral("Atención"), pregunta))
         m_hoja->Poner(c::NParto, antes);
 }
@@ -97,7 +98,8 @@ bool Cubriciones::Salir() {
     return m_servicios->Resolver() &&
            (GuardarCubricion() ||
             Preguntar(this, QStringLiteral("Atención"),
-                      QStringLiteral("Lo que se ve en la ficha no se ha podido guardar. ¿Desea dejarla y perderlo?")));
+                      QStringLiteral(
+                          "Lo que se ve en la ficha no se ha podido guardar. ¿Desea dejarla y perderlo?")));
 }
 
 void Cubriciones::reject() {
@@ -109,7 +111,8 @@ void Cubriciones::Pasar(int paso) {
     if (!Salir())
         return;
     try {
-        if (const auto vecino = CicloVecino(Base(), "T_Cubriciones", m_ciclo, ParidadEscrita().value_or(0), paso)) {
+        if (const auto vecino =
+                CicloVecino(Base(), "T_Cubriciones", m_ciclo, ParidadEscrita().value_or(0), paso)) {
             m_ciclo = *vecino;
             CargarCubricion();
         }

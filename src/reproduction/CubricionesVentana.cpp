@@ -103,12 +103,13 @@ QLayout* Cubriciones::CrearPie() {
     auto* pie = new QHBoxLayout;
     pie->addWidget(m_hoja->CrearRejilla(this, -1)); // Ch_DatosCompletos
     pie->addStretch();
-    PonerBoton(*pie, {"B_Anterior", "", "Parto Anteri&or", "Ctrl+Re Pág"}, [this] { Pasar(-1); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp));
-    PonerBoton(*pie, {"B_Siguiente", "", "Parto &Siguiente", "Ctrl+Av Pág"}, [this] { Pasar(1); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown));
+    PonerBoton(*pie, {"B_Anterior", "", "Parto Anteri&or", "Ctrl+Re Pág", Qt::CTRL | Qt::Key_PageUp},
+               [this] { Pasar(-1); });
+    PonerBoton(*pie, {"B_Siguiente", "", "Parto &Siguiente", "Ctrl+Av Pág", Qt::CTRL | Qt::Key_PageDown},
+               [this] { Pasar(1); });
     PonerBoton(*pie, {"B_Parto", "", "Ir a Par&tos", ""}, [this] { IrAPartos(); });
-    PonerBoton(*pie, {"B_Cerrar", "cerrar", "&Cerrar", "Esc; lo escrito queda guardado"}, [this] { reject(); });
+    PonerBoton(*pie, {"B_Cerrar", "cerrar", "&Cerrar", "Esc; lo escrito queda guardado"},
+               [this] { reject(); });
     return pie;
 }
 
@@ -118,12 +119,13 @@ void Cubriciones::Conectar() {
     m_servicios->alCambiar = [this] { CambiarServicios(); };
     m_tira->alCambiar = [this](int) { GuardarCubricion(); };
     m_fechasIPR->alElegir = [this](const QString& fecha, bool calcular) { ElegirFechaIPR(fecha, calcular); };
-    connect(&m_hoja->Marca(kMarcaCompletos), &QCheckBox::clicked, this, [this] { RotularCompletos(m_hoja->Marca(kMarcaCompletos)); });
+    connect(&m_hoja->Marca(kMarcaCompletos), &QCheckBox::clicked, this,
+            [this] { RotularCompletos(m_hoja->Marca(kMarcaCompletos)); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
             [this] { ObsControlRebaño(Base(), m_vaca.idVaca, this).exec(); });
     for (int i = 0; i < 2; ++i)
-        connect(new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)), this), &QShortcut::activated,
-                this, [this, i] { m_tira->Pasar(i); });
+        connect(new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)), this),
+                &QShortcut::activated, this, [this, i] { m_tira->Pasar(i); });
     try {
         m_encabezado->PonerVaca(Base(), m_vaca);
     } catch (const std::exception& e) {

@@ -40,7 +40,8 @@ FichaIPR::FichaIPR(Sesion& sesion, std::optional<double> idGanadero, QWidget* pa
     setWindowTitle(QStringLiteral("Ficha I.P.R."));
     auto* todo = new QVBoxLayout(this);
     CuerpoDesplazable(*this, *todo)->addWidget(m_hoja->CrearRejilla(this));
-    auto* icono = m_hoja->PonerIcono(0, Codigo, QStringLiteral("Seleccionar ganadero"), [this] { BuscarGanadero(); });
+    auto* icono =
+        m_hoja->PonerIcono(0, Codigo, QStringLiteral("Seleccionar ganadero"), [this] { BuscarGanadero(); });
     icono->setShortcut(QKeySequence(Qt::Key_F3));
     auto* botones = new QDialogButtonBox(this);
     auto* aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::AcceptRole);
@@ -52,7 +53,8 @@ FichaIPR::FichaIPR(Sesion& sesion, std::optional<double> idGanadero, QWidget* pa
     connect(aceptar, &QPushButton::clicked, this, [this] { Aceptar(); });
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
     todo->addWidget(botones);
-    for (const int i : {PrimVac, PrimNov, InvVac, InvNov}) // texts that hold dates: what is typed is what is stored
+    for (const int i :
+         {PrimVac, PrimNov, InvVac, InvNov}) // texts that hold dates: what is typed is what is stored
         m_hoja->Campo(i).siNoEsFecha = [] { return QStringLiteral("se guardará como está escrito"); };
     const auto buscar = [this] {
         const double codigo = m_hoja->Texto(Codigo).toDouble();

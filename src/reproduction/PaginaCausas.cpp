@@ -27,7 +27,8 @@ PaginaCausas::PaginaCausas(HojaDeCampos& hoja, Principal& marco, QWidget* padre)
     auto* todo = new QVBoxLayout(this);
     auto* cabecera = new QHBoxLayout;
     auto* asidero = new QLabel(
-        QStringLiteral("Haga click con el botón derecho sobre la causa, para definirla como principal."), this);
+        QStringLiteral("Haga click con el botón derecho sobre la causa, para definirla como principal."),
+        this);
     asidero->setObjectName(QStringLiteral("Label2"));
     asidero->setCursor(Qt::OpenHandCursor);
     asidero->installEventFilter(this);
@@ -79,8 +80,9 @@ void PaginaCausas::Definir(int indice) {
     if (m_hoja.alEditar)
         m_hoja.alEditar();
     m_hoja.Marca(indice).setChecked(true);
-    m_hoja.Poner(campo_cubricion::DescCausa,
-                 DescripcionDeCausa(indice, causa->acompañante ? m_hoja.TextoStd(causa->acompañante) : std::string()));
+    m_hoja.Poner(
+        campo_cubricion::DescCausa,
+        DescripcionDeCausa(indice, causa->acompañante ? m_hoja.TextoStd(causa->acompañante) : std::string()));
     MostrarCausa(indice);
 }
 

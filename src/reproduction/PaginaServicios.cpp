@@ -59,7 +59,8 @@ PaginaServicios::PaginaServicios(Conexion& c, double idGanadero, QWidget* padre)
     todo->addWidget(m_aviso);
     todo->addWidget(m_lineas, 1);
     auto& rejilla = m_lineas->Rejilla();
-    rejilla.setMinimumHeight(rejilla.verticalHeader()->defaultSectionSize() * 5 + 8); // heading and four lines
+    rejilla.setMinimumHeight(rejilla.verticalHeader()->defaultSectionSize() * 5 +
+                             8); // heading and four lines
     m_lineas->alCambiar = [this] {
         if (alCambiar)
             alCambiar();
@@ -86,11 +87,12 @@ void PaginaServicios::Mostrar(const CicloDeVaca& ciclo) {
     m_ciclo = ciclo;
     m_lineas->Mostrar(ServiciosEnRejilla(todos));
     const auto sinSitio = ServiciosSinSitio(todos);
-    m_aviso->setText(QStringLiteral("Este ciclo tiene %1 servicios y aquí caben %2: al aceptar o eliminar una línea se "
-                                    "perderán los números %3.")
-                         .arg(todos.size())
-                         .arg(kServiciosEnRejilla)
-                         .arg(QString::fromStdString(sinSitio)));
+    m_aviso->setText(
+        QStringLiteral("Este ciclo tiene %1 servicios y aquí caben %2: al aceptar o eliminar una línea se "
+                       "perderán los números %3.")
+            .arg(todos.size())
+            .arg(kServiciosEnRejilla)
+            .arg(QString::fromStdString(sinSitio)));
     m_aviso->setVisible(!sinSitio.empty());
 }
 

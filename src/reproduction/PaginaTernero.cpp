@@ -24,17 +24,21 @@ PaginaTernero::PaginaTernero(Conexion& c, int ternero, QWidget* padre)
     todo->setSpacing(4);
     todo->addWidget(m_hoja->CrearRejilla(this, 0));
     m_hoja->Rejilla()->setVerticalSpacing(4);
-    m_hoja->PonerIcono(ternero, t::Semental, QStringLiteral("Seleccionar semental padre"), [this] {
-        if (alBuscarToro)
-            alBuscarToro();
-    })->setShortcut(QKeySequence(Qt::Key_F3));
+    m_hoja
+        ->PonerIcono(ternero, t::Semental, QStringLiteral("Seleccionar semental padre"),
+                     [this] {
+                         if (alBuscarToro)
+                             alBuscarToro();
+                     })
+        ->setShortcut(QKeySequence(Qt::Key_F3));
     m_hoja->Campo(t::IdSemental).hide();
     m_hoja->Rotulo(t::IdSemental)->hide();
     m_fichaCebo = new QPushButton(QStringLiteral("Fi&cha de Cebo"), this);
-    m_fichaCebo->setObjectName(ternero == 0 ? QStringLiteral("B_FichaCebo") : QStringLiteral("B_FichaCeboT2"));
+    m_fichaCebo->setObjectName(ternero == 0 ? QStringLiteral("B_FichaCebo")
+                                            : QStringLiteral("B_FichaCeboT2"));
     m_fichaCebo->setAutoDefault(false);
     m_avisoCebo = new QLabel(this);
-    m_avisoCebo->setObjectName(QStringLiteral("AvisoCebo"));
+    m_avisoCebo->setObjectName(ternero == 0 ? QStringLiteral("AvisoCebo") : QStringLiteral("AvisoCeboT2"));
     auto* cebo = new QHBoxLayout;
     cebo->addWidget(m_fichaCebo);
     cebo->addWidget(m_avisoCebo, 1);
@@ -49,9 +53,11 @@ PaginaTernero::PaginaTernero(Conexion& c, int ternero, QWidget* padre)
 QWidget* PaginaTernero::CrearDestete() {
     auto* destete = m_hoja->CrearRejilla(this, 1);
     m_hoja->Rejilla()->setVerticalSpacing(4);
-    m_avisoDestete = new QLabel(QStringLiteral("Las cifras del destete no son de esta fecha de parto"), destete);
+    m_avisoDestete =
+        new QLabel(QStringLiteral("Las cifras del destete no son de esta fecha de parto"), destete);
     m_recalcular = new QPushButton(QStringLiteral("Recalcular (F9)"), destete);
-    m_recalcular->setObjectName(m_ternero == 0 ? QStringLiteral("B_Recalcular") : QStringLiteral("B_RecalcularT2"));
+    m_recalcular->setObjectName(m_ternero == 0 ? QStringLiteral("B_Recalcular")
+                                               : QStringLiteral("B_RecalcularT2"));
     m_recalcular->setAutoDefault(false);
     connect(m_recalcular, &QPushButton::clicked, this, [this] { Calcular(); });
     m_hoja->Rejilla()->addWidget(m_avisoDestete, 2, 0, 1, 4);
@@ -68,7 +74,8 @@ void PaginaTernero::Conectar() {
         if (alCambiarCuartos)
             alCambiarCuartos(texto);
     });
-    connect(&m_hoja->Campo(t::Semental), &QLineEdit::textEdited, this, [this] { m_hoja->Poner(t::IdSemental, {}); });
+    connect(&m_hoja->Campo(t::Semental), &QLineEdit::textEdited, this,
+            [this] { m_hoja->Poner(t::IdSemental, {}); });
     connect(m_fichaCebo, &QPushButton::clicked, this, [this] {
         if (alPedirCebo)
             alPedirCebo();
@@ -114,14 +121,16 @@ TerneroDeParto PaginaTernero::Ternero() const {
 
 void PaginaTernero::FijarFechaDeParto(std::optional<Fecha> fecha, bool cambiada) {
     m_claves.fechaParto = fecha;
-    const bool quedan = cambiada && !(m_hoja->Texto(t::EdadDestete) + m_hoja->Texto(t::PesoDestete)).isEmpty();
+    const bool quedan =
+        cambiada && !(m_hoja->Texto(t::EdadDestete) + m_hoja->Texto(t::PesoDestete)).isEmpty();
     for (QWidget* w : {static_cast<QWidget*>(m_avisoDestete), static_cast<QWidget*>(m_recalcular)})
         w->setVisible(quedan);
 }
 
 void PaginaTernero::Calcular() {
-    const auto f = CalcularDestete({m_claves.fechaParto, m_hoja->FechaDe(t::FechaDestete), m_hoja->FechaDe(t::FechaPeso),
-                                    m_hoja->TextoStd(t::PesoNac), m_hoja->TextoStd(t::Peso)});
+    const auto f =
+        CalcularDestete({m_claves.fechaParto, m_hoja->FechaDe(t::FechaDestete), m_hoja->FechaDe(t::FechaPeso),
+                         m_hoja->TextoStd(t::PesoNac), m_hoja->TextoStd(t::Peso)});
     m_hoja->Poner(t::EdadDestete, f.edadDestete);
     m_hoja->Poner(t::PesoDestete, f.pesoDestete);
     m_hoja->Poner(t::GDestete, f.gDestete);
@@ -181,7 +190,8 @@ void PaginaTernero::RevisarCebo() {
                                                : QStringLiteral("Al guardar cambiará en la ficha de cebo: ") +
                                                      cambian.join(QStringLiteral(", ")));
     } catch (const ErrorAlmacen& e) {
-        m_avisoCebo->setText(QStringLiteral("No se puede mirar la ficha de cebo: ") + QString::fromUtf8(e.what()));
+        m_avisoCebo->setText(QStringLiteral("No se puede mirar la ficha de cebo: ") +
+                             QString::fromUtf8(e.what()));
     }
 }
 

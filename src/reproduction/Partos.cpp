@@ -57,7 +57,8 @@ bool Partos::CargarParto() {
 void Partos::MostrarFilas() {
     auto filas = FilasDeParto(Base(), m_ciclo);
     if (filas.empty())
-        throw SinParto("No ha sido posible realizar la operación 'Mostrar Datos del Parto'\r\nInténtelo otra vez");
+        throw SinParto(
+            "No ha sido posible realizar la operación 'Mostrar Datos del Parto'\r\nInténtelo otra vez");
     m_filas = std::move(filas);
     for (std::size_t i = 0; i < kPaginas; ++i) {
         if (i >= m_filas.size()) {
@@ -67,20 +68,25 @@ void Partos::MostrarFilas() {
         Recordset rs(Base(), SentenciaParto(m_ciclo, m_filas[i]), Cursor::Estatico, Bloqueo::SoloLectura);
         if (i == 0)
             m_hoja->Mostrar(rs);
-        m_terneros[i]->Mostrar(rs, {m_ciclo, m_filas[i], m_vaca.idGanadero, {}, m_hoja->FechaDe(g::Fecha), {}, {}, {}});
+        m_terneros[i]->Mostrar(
+            rs, {m_ciclo, m_filas[i], m_vaca.idGanadero, {}, m_hoja->FechaDe(g::Fecha), {}, {}, {}});
     }
     m_gemelar = m_hoja->Combo("Cd_G(2)").currentText();
     PonerPestañas(m_filas.size() > 1 || (!m_gemelar.isEmpty() && m_gemelar != QLatin1String("No")));
     RotularCompletos(m_hoja->Marca(0));
     QStringList avisos;
     for (const int año : OtrosAñosDeParidad(Base(), "T_Partos", m_ciclo))
-        avisos << QStringLiteral("El parto nº %1 está también en el año %2").arg(m_hoja->Texto(g::NParto)).arg(año);
+        avisos << QStringLiteral("El parto nº %1 está también en el año %2")
+                      .arg(m_hoja->Texto(g::NParto))
+                      .arg(año);
     if (m_filas.size() > kPaginas)
-        avisos << QStringLiteral("Este parto tiene %1 registros; los que siguen a los dos primeros no se ven ni se cambian aquí")
+        avisos << QStringLiteral("Este parto tiene %1 registros; los que siguen a los dos primeros no se ven "
+                                 "ni se cambian aquí")
                       .arg(m_filas.size());
     m_avisos->setText(avisos.join(QStringLiteral(". ")));
     m_avisos->setVisible(!avisos.isEmpty());
-    setWindowTitle(QStringLiteral("Partos - Año %1, parto %2").arg(m_hoja->Texto(g::AñoRef), m_hoja->Texto(g::NParto)));
+    setWindowTitle(
+        QStringLiteral("Partos - Año %1, parto %2").arg(m_hoja->Texto(g::AñoRef), m_hoja->Texto(g::NParto)));
 }
 
 CicloDeVaca Partos::CicloEscrito() const {
@@ -127,14 +133,16 @@ bool Partos::GuardarParto() {
 bool Partos::ExigirFecha() {
     if (m_hoja->FechaDe(g::Fecha))
         return true;
-    Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"), QStringLiteral("Debe indicar la fecha de parto"));
+    Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
+           QStringLiteral("Debe indicar la fecha de parto"));
     m_tab->setCurrentIndex(0);
     m_hoja->Campo(g::Fecha).setFocus();
     return false;
 }
 
 bool Partos::Cambiada() const {
-    return m_hoja->Cambiada() || m_terneros[0]->Cambiada() || (m_filas.size() > 1 && m_terneros[1]->Cambiada());
+    return m_hoja->Cambiada() || m_terneros[0]->Cambiada() ||
+           (m_filas.size() > 1 && m_terneros[1]->Cambiada());
 }
 
 void Partos::Aceptar() {
@@ -143,9 +151,9 @@ void Partos::Aceptar() {
 }
 
 void Partos::reject() {
-    const auto salida = Cambiada()
-                            ? PreguntarGuardar(this, QStringLiteral("Hay cambios sin guardar. ¿Desea guardarlos?"))
-                            : AntesDeDejar::Descartar;
+    const auto salida =
+        Cambiada() ? PreguntarGuardar(this, QStringLiteral("Hay cambios sin guardar. ¿Desea guardarlos?"))
+                   : AntesDeDejar::Descartar;
     if (salida == AntesDeDejar::Guardar)
         return Aceptar();
     if (salida == AntesDeDejar::Cancelar)
@@ -176,7 +184,8 @@ void Partos::Pasar(int paso) {
 // The mating record that starts after this calving: its year and parity, its date as the one that opened it.
 void Partos::IrACubriciones() {
     const auto escrito = CicloEscrito();
-    AñadirCubricion(m_marco, this, m_vaca, {escrito.añoRef, escrito.nParto, m_hoja->FechaDe(g::Fecha), {}, "Ir a Cubriciones"});
+    AñadirCubricion(m_marco, this, m_vaca,
+                    {escrito.añoRef, escrito.nParto, m_hoja->FechaDe(g::Fecha), {}, "Ir a Cubriciones"});
     if (!Cambiada())
         CargarParto(); // what was changed from there
 }
@@ -190,7 +199,9 @@ void Partos::AbrirCebo(int ternero) {
                                                      " AND Id_Parto = " + NumeroSql(m_filas[i]));
         double id = 0;
         const bool hay = NumeroDeTexto(enlace, id);
-        Cebo(m_sesion, m_vaca.idGanadero, hay ? std::optional(id) : std::nullopt, m_terneros[i]->Ternero(), this).exec();
+        Cebo(m_sesion, m_vaca.idGanadero, hay ? std::optional(id) : std::nullopt, m_terneros[i]->Ternero(),
+             this)
+            .exec();
     } catch (const std::exception& e) {
         AvisarError(this, e);
     }
@@ -198,7 +209,8 @@ void Partos::AbrirCebo(int ternero) {
 }
 
 void Partos::BuscarToro(int ternero) {
-    const auto toro = Selector::Elegir(Base(), TipoSelector::PadresParaPartos, NumeroSql(m_vaca.idGanadero), this);
+    const auto toro =
+        Selector::Elegir(Base(), TipoSelector::PadresParaPartos, NumeroSql(m_vaca.idGanadero), this);
     if (!toro || toro->clave == 0)
         return;
     auto& hoja = m_terneros[static_cast<std::size_t>(ternero)]->Hoja();
@@ -226,8 +238,9 @@ void Partos::AlDecidirGemelar() {
             PonerPestañas(true);
         else if (m_filas.size() < kPaginas)
             PonerPestañas(false);
-        else if (Preguntar(this, QStringLiteral("Atención"),
-                           QStringLiteral("Esta operación eliminará los datos del 2º Ternero, Desea continuar?")))
+        else if (Preguntar(
+                     this, QStringLiteral("Atención"),
+                     QStringLiteral("Esta operación eliminará los datos del 2º Ternero, Desea continuar?")))
             QuitarSegundo();
         else
             m_hoja->Elegir("Cd_G(2)", m_gemelar.toStdString());

@@ -59,8 +59,8 @@ private:
     Principal& m_marco;
     Sesion& m_sesion;
     const VacaEnMano m_vaca;
-    CicloDeVaca m_ciclo;                // the working key
-    std::vector<double> m_filas;        // Id_Parto(1), Id_Parto(2), and any that the sheet has no page for
+    CicloDeVaca m_ciclo;         // the working key
+    std::vector<double> m_filas; // Id_Parto(1), Id_Parto(2), and any that the sheet has no page for
     HojaDeCampos* m_hoja;
     EncabezadoVaca* m_encabezado;
     QTabWidget* m_tab; // TabGeneral

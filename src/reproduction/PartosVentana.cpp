@@ -66,7 +66,8 @@ QWidget* Partos::CrearGeneral() {
     todo->addWidget(m_hoja->CrearRejilla(general, 0));
     todo->addWidget(m_hoja->CrearRejilla(general, 1));
     todo->addStretch();
-    m_hoja->Poner(g::FechaCompra, FechaDeVaca(m_vaca.fechaCompra, m_vaca.textoCompra, "dd/mm/yy").toStdString());
+    m_hoja->Poner(g::FechaCompra,
+                  FechaDeVaca(m_vaca.fechaCompra, m_vaca.textoCompra, "dd/mm/yy").toStdString());
     m_hoja->Poner(g::FechaBaja, FechaDeVaca(m_vaca.fechaBaja, m_vaca.textoBaja, "dd/mm/yy").toStdString());
     m_hoja->alDejar = [this](QWidget& campo) {
         if (&campo == &m_hoja->Campo(g::Fecha))
@@ -104,14 +105,14 @@ void Partos::PonerPestañas(bool gemelar) {
 
 QLayout* Partos::CrearPie() {
     auto* pie = new QHBoxLayout;
-    PonerBoton(*pie, {"B_Anterior", "", "Parto A&nterior", "Ctrl+Re Pág"}, [this] { Pasar(-1); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp));
-    PonerBoton(*pie, {"B_Siguiente", "", "Parto Siguien&te", "Ctrl+Av Pág"}, [this] { Pasar(1); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown));
+    PonerBoton(*pie, {"B_Anterior", "", "Parto A&nterior", "Ctrl+Re Pág", Qt::CTRL | Qt::Key_PageUp},
+               [this] { Pasar(-1); });
+    PonerBoton(*pie, {"B_Siguiente", "", "Parto Siguien&te", "Ctrl+Av Pág", Qt::CTRL | Qt::Key_PageDown},
+               [this] { Pasar(1); });
     PonerBoton(*pie, {"B_IrCubricion", "", "Ir a Cu&briciones", ""}, [this] { IrACubriciones(); });
     pie->addStretch();
-    PonerBoton(*pie, {"B_Aceptar", "aceptar", "&Aceptar", "Ctrl+S"}, [this] { Aceptar(); })
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    PonerBoton(*pie, {"B_Aceptar", "aceptar", "&Aceptar", "Ctrl+S", Qt::CTRL | Qt::Key_S},
+               [this] { Aceptar(); });
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
             [this] { ObsControlRebaño(Base(), m_vaca.idVaca, this).exec(); });
     connect(new QShortcut(QKeySequence(Qt::Key_F9), this), &QShortcut::activated, this, [this] {

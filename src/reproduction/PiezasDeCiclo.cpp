@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace pastorix {
 
@@ -21,6 +22,8 @@ QPushButton* PonerBoton(QHBoxLayout& pie, const BotonDePie& boton, std::function
     b->setObjectName(QString::fromUtf8(boton.nombre));
     b->setToolTip(QString::fromUtf8(boton.ayuda));
     b->setAutoDefault(false); // Enter belongs to the fields
+    if (!boton.tecla.isEmpty())
+        QObject::connect(new QShortcut(boton.tecla, b), &QShortcut::activated, b, orden);
     QObject::connect(b, &QPushButton::clicked, b, std::move(orden));
     pie.addWidget(b);
     return b;

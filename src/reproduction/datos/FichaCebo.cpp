@@ -23,11 +23,13 @@ std::string DondeEnlace(Conexion& c, const DeVueltaAlParto& d) {
 } // namespace
 
 std::string SentenciaCebo(double idGanadero, double idCebo) {
-    return "Select * FROM T_Cebo WHERE Id_Cebo = " + NumeroSql(idCebo) + " AND Id_Ganadero = " + NumeroSql(idGanadero);
+    return "Select * FROM T_Cebo WHERE Id_Cebo = " + NumeroSql(idCebo) +
+           " AND Id_Ganadero = " + NumeroSql(idGanadero);
 }
 
 double SiguienteCebo(Conexion& c, double idGanadero) {
-    return SiguienteId(c, "Select Id_Cebo FROM T_Cebo WHERE ID_Ganadero = " + NumeroSql(idGanadero) + " Order By Id_Cebo");
+    return SiguienteId(c, "Select Id_Cebo FROM T_Cebo WHERE ID_Ganadero = " + NumeroSql(idGanadero) +
+                              " Order By Id_Cebo");
 }
 
 void EnlazarConParto(Conexion& c, double idCebo, const CicloDeVaca& parto, double idParto) {
@@ -38,7 +40,8 @@ void EnlazarConParto(Conexion& c, double idCebo, const CicloDeVaca& parto, doubl
 
 std::vector<std::string> DevolverAlParto(Conexion& c, const DeVueltaAlParto& d, bool escribir) {
     std::vector<std::string> cambian;
-    const std::string de = " FROM T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca" + DondeEnlace(c, d);
+    const std::string de =
+        " FROM T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca" + DondeEnlace(c, d);
     Recordset destete(c, "SELECT T_Partos.Id_Cebo, T_Vacas.Id_Ganadero, T_Partos.FechaDestete" + de);
     if (!destete.Eof() && d.fechaCebo && destete["FechaDestete"].FechaValor() != d.fechaCebo) {
         cambian.emplace_back("Fecha de destete");
@@ -46,7 +49,9 @@ std::vector<std::string> DevolverAlParto(Conexion& c, const DeVueltaAlParto& d, 
         if (escribir)
             destete.Update();
     }
-    Recordset ternero(c, "SELECT T_Partos.Id_Cebo, T_Vacas.Id_Ganadero, T_Partos.RegSaneam, T_Partos.Sexo, T_Partos.Fecha_Parto" + de);
+    Recordset ternero(c, "SELECT T_Partos.Id_Cebo, T_Vacas.Id_Ganadero, T_Partos.RegSaneam, T_Partos.Sexo, "
+                         "T_Partos.Fecha_Parto" +
+                             de);
     if (ternero.Eof())
         return cambian;
     const auto poner = [&](const char* columna, const char* nombre, const std::string& texto) {

@@ -1,0 +1,296 @@
+#include "PuestoDeCiclos.h"
+#include "prueba.h"
+
+#include "reproduction/AltaDeCiclo.h"
+#include "reproduction/Cebo.h"
+#include "reproduction/FichaIPR.h"
+#include "reproduction/Partos.h"
+
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTimer>
+
+using namespace pastorix;
+using namespace prueba;
+
+namespace {
+
+struct Hoja : PuestoDeCiclos {
+    std::unique_ptr<Partos> f;
+
+    void Abrir(int año, int parto) {
+        f = std::make_unique<Partos>(marco, vaca, Ciclo(año, parto));
+        QVERIFY(f->CargarParto());
+        Mostrar(*f);
+    }
+    void Pestaña(int i) { Control<QTabWidget>(*f, "TabGeneral")->setCurrentIndex(i); }
+    void Aceptar() { Control<QAbstractButton>(*f, "B_Aceptar")->click(); }
+    std::string Filas(const char* columnas) {
+        return Texto(std::string("SELECT ") + columnas +
+                     " FROM T_Partos WHERE Id_Vaca = 1200001 ORDER BY Id_Parto");
+    }
+};
+
+} // namespace
+
+// The sheet of a calving and its calves, the fattening record, the quick additions and the farm's start of reproduction.
+class PruebaPartos : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void NadaCambia() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1,
+                     {{"Fecha_Parto", "01/02/1899"},
+                      {"Gemelar", "no"},
+                      {"Sexo", "macho"},
+                      {"PesoNac", 0.0},
+                      {"EdadDestete", 0},
+                      {"GDestete", 0},
+                      {"Peso", 210.75},
+                      {"PesoDestete", 1.0},
+                      {"CuartosPerdidos", 2},
+                      {"TratSecado", "x"},
+                      {"Semental", "Toro d'L'Otero"}});
+        p.PonerParto(2026, 3, 2, {{"Fecha_Parto", "01/02/1899"}, {"CuartosPerdidos", 1}});
+        const auto todo = [&] {
+            Recordset rs(p.sesion.conexion, "SELECT * FROM T_Partos ORDER BY Id_Parto");
+            std::vector<Valor> valores;
+            for (; !rs.Eof(); rs.Siguiente())
+                for (int i = 0; i < rs.Campos(); ++i)
+                    if (rs.NombreCampo(i) != "DatosCompletos" && rs.NombreCampo(i) != "Gemelar")
+                        valores.push_back(rs[i].Leer());
+            return valores;
+        };
+        const auto antes = todo();
+        p.Abrir(2026, 3);
+        QCOMPARE(En(*p.f, "Ct_T1(1)") + En(*p.f, "Ct_T1(6)") + En(*p.f, "Ct_T1(7)"),
+                 QString()); // stored 0 shows as nothing
+        QCOMPARE(En(*p.f, "Ct_T1(8)") + En(*p.f, "Ct_T1(29)"),
+                 QStringLiteral("21")); // a load mirrors nothing
+        p.Aceptar();
+        QVERIFY(todo() == antes);
+        QCOMPARE(p.Filas("Gemelar, DatosCompletos"),
+                 std::string("no|0/No|0")); // the calving's page goes to both rows
+    }
+
+    void FechaObligada() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1);
+        p.Abrir(2026, 3);
+        TeclearEn(*p.f, "Ct_G(2)", "31/2/26");
+        p.Aceptar();
+        QCOMPARE(p.Caja(), QStringLiteral("Debe indicar la fecha de parto"));
+        QVERIFY(p.f->isVisible());
+        p.cajas.Responder(true); // Descartar
+        p.f->reject();
+        p.cajas.Vistas();
+        QVERIFY(!p.f->isVisible());
+    }
+
+    void Mellizos() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1, {{"Fecha_Parto", "01/02/2026"}});
+        p.Abrir(2026, 3);
+        p.Pestaña(1);
+        TeclearEn(*p.f, "Ct_T1(20)", "S1");
+        p.Pestaña(0);
+        Escoger(*p.f, "Cd_G(2)", Qt::Key_2); // what was typed is saved before the second row comes
+        QCOMPARE(p.Filas("Gemelar, RegSaneam"), std::string("2 Machos|S1/2 Machos|-"));
+        auto* tab = Control<QTabWidget>(*p.f, "TabGeneral");
+        QCOMPARE(tab->tabText(1) + tab->tabText(2), QStringLiteral(" Ficha - Ternero 1 Ternero 2"));
+        p.Pestaña(2);
+        TeclearEn(*p.f, "Ct_T1(29)", "1"); // one value of the calving
+        QCOMPARE(En(*p.f, "Ct_T1(8)"), QStringLiteral("1"));
+        p.Aceptar();
+        QCOMPARE(p.Filas("CuartosPerdidos, Fecha_Parto"), std::string("1|01/02/26/1|01/02/26"));
+        p.Abrir(2026, 3);
+        for (const bool si : {false, true}) {
+            p.Pestaña(0);
+            p.cajas.Responder(si);
+            Escoger(*p.f, "Cd_G(2)", Qt::Key_N);
+            QCOMPARE(p.Caja(),
+                     QStringLiteral("Esta operación eliminará los datos del 2º Ternero, Desea continuar?"));
+            QCOMPARE(Control<QComboBox>(*p.f, "Cd_G(2)")->currentText(),
+                     si ? QStringLiteral("No") : QStringLiteral("2 Machos"));
+        }
+        QCOMPARE(p.Filas("Gemelar"), std::string("No"));
+        QVERIFY(!Control<QTabWidget>(*p.f, "TabGeneral")->isTabVisible(2));
+        p.Aceptar();
+    }
+
+    // Figures follow what is typed, are marked when the calving gets another date, and come anew by one key.
+    void Destete() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1, {{"Fecha_Parto", "01/01/2026"}, {"PesoNac", 40.0}});
+        p.Abrir(2026, 3);
+        p.Pestaña(1);
+        TeclearEn(*p.f, "Ct_T1(9)", "30/6/26");
+        TeclearEn(*p.f, "Ct_T1(14)", "30/6/26");
+        TeclearEn(*p.f, "Ct_T1(15)", "220.4");
+        const auto figuras = [&] {
+            return En(*p.f, "Ct_T1(6)") + QLatin1Char(' ') + En(*p.f, "Ct_T1(10)") + QLatin1Char(' ') +
+                   En(*p.f, "Ct_T1(7)");
+        };
+        QCOMPARE(figuras(), QStringLiteral("180 220 1000"));
+        QVERIFY(Control<QAbstractButton>(*p.f, "B_Recalcular")->isHidden());
+        p.Pestaña(0);
+        TeclearEn(*p.f, "Ct_G(2)", "11/1/26");
+        Control<QLineEdit>(*p.f, "Ct_G(0)")->setFocus();
+        QCOMPARE(figuras(), QStringLiteral("180 220 1000"));
+        QVERIFY(!Control<QAbstractButton>(*p.f, "B_Recalcular")->isHidden());
+        QTest::keyClick(p.f.get(), Qt::Key_F9);
+        QCOMPARE(figuras(), QStringLiteral("170 220 1059"));
+        p.Aceptar();
+        QCOMPARE(p.Filas("Peso, PesoDestete, EdadDestete, GDestete"), std::string("220,4|220|170|1059"));
+    }
+
+    void Cebo() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1, {{"Fecha_Parto", "01/01/2026"}, {"Sexo", "Macho"}});
+        p.PonerParto(2026, 3, 1, {{"Fecha_Parto", "05/05/2026"}},
+                     9); // another cow's calving of the same number
+        p.Abrir(2026, 3);
+        p.Pestaña(1);
+        auto* boton = Control<QAbstractButton>(*p.f, "B_FichaCebo");
+        QVERIFY(!boton->isEnabled());
+        auto* destino = Control<QComboBox>(*p.f, "Cd_T1(6)");
+        destino->setFocus();
+        for (int i = 0; i < 5; ++i)
+            QTest::keyClick(destino, Qt::Key_Down); // passing over is no deciding
+        QCOMPARE(destino->currentText().toStdString() + p.Texto("SELECT Id_Cebo FROM T_Cebo"),
+                 std::string("Cebo"));
+        QTest::keyClick(destino, Qt::Key_Tab);
+        QVERIFY(boton->isEnabled());
+        QCOMPARE(p.Texto("SELECT Id_Cebo, Id_Vaca, Origen, FechaNac FROM T_Cebo"),
+                 std::string("1|1200001|Propio|01/01/26"));
+        p.sesion.conexion.Execute("UPDATE T_Cebo SET KgCanal = 250");
+        Escoger(*p.f, "Cd_T1(6)", Qt::Key_T);
+        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Cebo"), std::string());
+        Escoger(*p.f, "Cd_T1(6)", Qt::Key_C);
+        QCOMPARE(p.Texto("SELECT Id_Cebo, KgCanal FROM T_Cebo"), std::string("1|250"));
+        p.cajas.Responder(true); // given up: the destination, and the record with it
+        p.f->reject();
+        p.cajas.Vistas();
+        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Cebo") + p.Filas("Id_Cebo, DESTINOTERNERO"),
+                 std::string("-|-"));
+        p.Abrir(2026, 3);
+        p.Pestaña(1);
+        Escoger(*p.f, "Cd_T1(6)", Qt::Key_C);
+        TeclearEn(*p.f, "Ct_T1(9)", "30/6/26");
+        Control<QLineEdit>(*p.f, "Ct_T1(20)")->setFocus();
+        QCOMPARE(Control<QLabel>(*p.f, "AvisoCebo")->text(),
+                 QStringLiteral("Al guardar cambiará en la ficha de cebo: Fecha de entrada"));
+        p.Aceptar();
+        QCOMPARE(p.Texto("SELECT FechaCebo FROM T_Cebo"), std::string("30/06/26"));
+        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Partos WHERE Id_Vaca = 9"), std::string("-"));
+    }
+
+    // The fattening record: dates and numbers that fail keep the column, own calves carry their values back to the calving.
+    void FichaDeCebo() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1,
+                     {{"Fecha_Parto", "01/01/2026"}, {"FechaDestete", "30/06/2026"}, {"Id_Cebo", 1.0}});
+        p.PonerParto(2024, 1, 2, {{"Fecha_Parto", "01/01/2024"}, {"Id_Cebo", 1.0}}); // a stale link
+        p.Poner("T_Cebo", {{"Id_Ganadero", 12.0},
+                           {"Id_Cebo", 1.0},
+                           {"Id_Vaca", 1200001.0},
+                           {"Id_Parto", 1.0},
+                           {"AñoRef", 2026},
+                           {"Origen", "Propio"},
+                           {"FechaNac", "01/01/2026"},
+                           {"KgCanal", 250.5}});
+        pastorix::Cebo f(p.sesion, 12, 1.0, {});
+        Mostrar(f);
+        const auto guardar = [&] { Control<QAbstractButton>(f, "B_Guardar")->click(); };
+        TeclearEn(f, "CT_Estandar(2)", "1/7/26");
+        TeclearEn(f, "CT_Estandar(5)", "1/12/26");
+        QCOMPARE(En(f, "CT_Estandar(6)") + QLatin1Char(' ') + En(f, "CT_Estandar(7)"),
+                 QStringLiteral("334 153"));
+        TeclearEn(f, "CT_Estandar(9)", "");
+        QVERIFY(Control<QLabel>(f, "AvisoParto")->text().contains(QStringLiteral("Fecha de destete")));
+        guardar();
+        QCOMPARE(p.Texto("SELECT FechaCebo, EdadSacrif, KgCanal FROM T_Cebo"),
+                 std::string("01/07/26|334|250,5"));
+        QCOMPARE(En(f, "CT_Estandar(9)"), QStringLiteral("250,5"));
+        QVERIFY(Control<QLabel>(f, "Estado")->text().endsWith(QStringLiteral("queda como estaba: Kg Canal")));
+        QCOMPARE(p.Filas("FechaDestete, Fecha_Parto"), std::string("01/07/26|01/01/26/-|01/01/24"));
+        // a birth date of its own stays its own
+        Control<QCheckBox>(f, "Ch_Cambiado")->click();
+        TeclearEn(f, "CT_Estandar(1)", "5/1/26");
+        guardar();
+        QCOMPARE(p.Texto("SELECT Cambiado, FechaNac FROM T_Cebo") + p.Filas("Fecha_Parto"),
+                 std::string("-1|05/01/2601/01/26/01/01/24"));
+        Control<QAbstractButton>(f, "B_Añadir")->click();
+        guardar();
+        QCOMPARE(p.Caja(), QStringLiteral("Debe indicar el año de referencia"));
+        TeclearEn(f, "CT_Estandar(4)", "2026");
+        guardar();
+        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Cebo ORDER BY Id_Cebo"), std::string("1/2"));
+    }
+
+    void AltaRapida_data() {
+        QTest::addColumn<bool>("parto");
+        QTest::addColumn<QString>("sinAño");
+        QTest::addColumn<QString>("sinParto");
+        QTest::newRow("mating") << false << "Indique el Año de Referencia para la Cubrición"
+                                << "Indique el el Nº de Parto para el año 2026";
+        QTest::newRow("calving") << true << "Indique el Año de Referencia para el Parto"
+                                 << "Indique el Nº de Parto del año 2026";
+    }
+    void AltaRapida() {
+        QFETCH(bool, parto);
+        PuestoDeCiclos p;
+        p.PonerCubricion(2025, 2);
+        p.PonerParto(2025, 2, 1);
+        AltaDeCiclo f(p.sesion.conexion, parto ? kAltaParto : kAltaCubricion, 1200001,
+                      {{}, {}, F("1/2/26"), "Ares", ""}, nullptr);
+        Mostrar(f);
+        const auto aceptar = [&] { Control<QAbstractButton>(f, "B_Aceptar")->click(); };
+        TeclearEn(f, "CT_Estandar(0)", "202");
+        aceptar();
+        QTEST(p.Caja(), "sinAño");
+        TeclearEn(f, "CT_Estandar(1)", "3");
+        TeclearEn(f, "CT_Estandar(0)", "2026"); // the two go together
+        aceptar();
+        QTEST(p.Caja(), "sinParto");
+        auto* grid = f.findChild<QTableWidget*>();
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+                          grid->visualItemRect(grid->item(0, 0)).center());
+        QCOMPARE(En(f, "CT_Estandar(0)") + En(f, "CT_Estandar(1)"), QStringLiteral("20252"));
+        TeclearEn(f, "CT_Estandar(0)", "2026");
+        TeclearEn(f, "CT_Estandar(1)", "3");
+        QTest::keyClick(f.focusWidget(), Qt::Key_Return);
+        QCOMPARE(f.result(), int(QDialog::Accepted));
+        QCOMPARE(p.Texto("SELECT Año_Ref, N_Parto, Fecha_Parto FROM " +
+                         std::string(parto ? "T_Partos" : "T_Cubriciones") + " ORDER BY Año_Ref"),
+                 std::string("2025|2|-/2026|3|01/02/26"));
+    }
+
+    // One row of the farm: its own columns, and no other's.
+    void FichaDeIPR() {
+        PuestoDeCiclos p;
+        p.Poner("T_IPR", {{"Id_Ganadero", 12.0},
+                          {"AñoNatural", 2020},
+                          {"IPRPrimNov", "01/04/20"},
+                          {"PrimVac", "01/03/20"}});
+        FichaIPR f(p.sesion);
+        Mostrar(f);
+        Control<QAbstractButton>(f, "B_Aceptar")->click();
+        QCOMPARE(p.Caja(), QStringLiteral("Debe Seleccionar el Ganadero al que pertenecen los datos"));
+        TeclearEn(f, "CT_Estandar(0)", "99");
+        QTest::keyClick(f.focusWidget(), Qt::Key_Return);
+        QCOMPARE(p.Caja(), QStringLiteral("Código de Ganadero No Encontrado"));
+        TeclearEn(f, "CT_Estandar(0)", "12");
+        QTest::keyClick(f.focusWidget(), Qt::Key_Return);
+        QCOMPARE(En(f, "CT_Estandar(1)") + En(f, "CT_Estandar(2)"), QStringLiteral("La Nora01/03/20"));
+        TeclearEn(f, "CT_Estandar(2)", "");
+        TeclearEn(f, "CT_Estandar(5)", "1/11/20");
+        Control<QAbstractButton>(f, "B_Aceptar")->click();
+        QCOMPARE(p.Texto("SELECT AñoNatural, IPRPrimNov, PrimVac, InvNov FROM T_IPR"),
+                 std::string("2020|01/04/20|-|1/11/20"));
+    }
+};
+
+PRUEBA(PruebaPartos)
+#include "PruebaPartos.moc"
