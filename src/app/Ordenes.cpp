@@ -9,8 +9,11 @@
 #include "reports/ListadoMaestro.h"
 #include "reports/Lst_IndicesTecnicos.h"
 #include "reproduction/AbrirCiclos.h"
+#include "reproduction/Cebo.h"
+#include "reproduction/FichaIPR.h"
 
 #include <QDialog>
+#include <QShortcut>
 
 #include <functional>
 
@@ -40,6 +43,14 @@ OrdenesDeVaca OrdenesDeCiclos(Principal& principal) {
         [&](QWidget* w, const VacaEnMano& v) { AñadirParto(principal, w, v); }};
 }
 
+// What the farmer's sheet asks of the sheets of his animals in fattening and of his start of reproduction.
+OrdenesDeGanadero OrdenesDeCebo(Sesion& sesion) {
+    return {[&](QWidget* w, double ganadero, std::optional<double> cebo) {
+                Cebo(sesion, ganadero, cebo, {}, w).exec();
+            },
+            [&](QWidget* w, double ganadero) { FichaIPR(sesion, ganadero, w).exec(); }};
+}
+
 } // namespace
 
 void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& informe) {
@@ -53,9 +64,13 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
         principal.Vincular(QString::fromUtf8(orden), [&principal, hacer] { Abrir(principal, hacer); });
     };
     formulario("Mnu_Veterinarios", [&] { return new Veterinarios(sesion, &principal); });
-    formulario("Mnu_Ganaderos", [&] { return new Ganaderos(sesion, &principal); });
+    formulario("Mnu_Ganaderos", [&] { return new Ganaderos(sesion, OrdenesDeCebo(sesion), &principal); });
     formulario("Mnu_Vacas", [&] { return new Vacas(sesion, OrdenesDeCiclos(principal), &principal); });
     formulario("Mnu_Sementales", [&] { return new Sementales(sesion, &principal); });
+    // No menu entry leads to the sheet of the reproductive period.
+    QObject::connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_I), &principal), &QShortcut::activated,
+                     &principal,
+                     [&] { Abrir(principal, [&] { return new FichaIPR(sesion, {}, &principal); }); });
     formulario("Mnu_IndicesTecnicos", [&] { return new Lst_IndicesTecnicos(sesion, informe, &principal); });
 }
 

@@ -6,6 +6,7 @@
 #include "frame/ficha/Pestanas.h"
 #include "registers/DarBaja.h"
 #include "registers/Listas.h"
+#include "registers/PaginaCebo.h"
 #include "registers/datos/Borrados.h"
 #include "registers/datos/Direccion.h"
 #include "registers/explotacion/PaginaMateria.h"
@@ -63,8 +64,9 @@ constexpr DefinicionFicha kDefinicion{"Ganaderos",
 
 } // namespace
 
-Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
+Ganaderos::Ganaderos(Sesion& sesion, OrdenesDeGanadero ordenes, QWidget* padre)
     : Ficha(sesion, kDefinicion, padre)
+    , m_ordenes(std::move(ordenes))
     , m_datos(sesion.conexion)
     , m_tab(new QTabWidget(this))
     , m_encabezado(new QLabel(this)) {
@@ -83,10 +85,10 @@ Ganaderos::Ganaderos(Sesion& sesion, QWidget* padre)
     Cuerpo()->addWidget(m_encabezado);
     Cuerpo()->addWidget(m_tab);
     m_tab->addTab(CrearGeneral(), QStringLiteral(" General "));
-    m_tab->addTab(new QWidget(m_tab), QStringLiteral(" Cebo "));
-    m_tab->addTab(m_datos.CrearIPR(m_tab), QStringLiteral(" Inicio Periodo Reproductivo "));
+    CrearCebo();
+    m_tab->addTab(m_cebo, QStringLiteral(" Cebo "));
+    m_tab->addTab(CrearIPR(), QStringLiteral(" Inicio Periodo Reproductivo "));
     m_tab->addTab(m_datos.CrearManejo(m_tab), QStringLiteral(" Manejo "));
-    m_tab->setTabEnabled(kTabCebo, false); // its list is yet to come
     PonerPestañas();
     LlenarVeterinarios();
     RefrescarEncabezado();
@@ -143,11 +145,41 @@ QWidget* Ganaderos::CrearGeneral() {
     return general;
 }
 
+void Ganaderos::CrearCebo() {
+    m_cebo = new PaginaCebo(Base(), m_tab);
+    if (m_ordenes.abrirCebo)
+        m_cebo->alAbrir = [this](std::optional<double> idCebo) {
+            m_ordenes.abrirCebo(this, Clave(), idCebo);
+        };
+}
+
+QWidget* Ganaderos::CrearIPR() {
+    auto* pagina = m_datos.CrearIPR(m_tab);
+    m_fichaIPR = new QPushButton(QStringLiteral("Ficha I.P.R."), pagina);
+    m_fichaIPR->setObjectName(QStringLiteral("B_FichaIPR"));
+    m_fichaIPR->setToolTip(
+        QStringLiteral("Las fechas del ganadero, en una ficha (Ctrl+I en la ventana principal)"));
+    m_fichaIPR->setAutoDefault(false);
+    connect(m_fichaIPR, &QPushButton::clicked, this, [this] { AbrirFichaIPR(); });
+    static_cast<QVBoxLayout*>(pagina->layout())->addWidget(m_fichaIPR, 0, Qt::AlignLeft);
+    return pagina;
+}
+
+// What is typed on the page is saved first: the sheet writes a row that the page shows, too.
+void Ganaderos::AbrirFichaIPR() {
+    if (!PermiteDejar())
+        return;
+    m_ordenes.abrirFichaIPR(this, Clave());
+    m_datos.FijarGanadero(Clave());
+}
+
 // The farm's data are those of a farmer that is in the database: none while one is being added.
 void Ganaderos::PonerPestañas() {
     const double ganadero = Modo() == ModoFicha::Añadiendo ? 0 : Clave();
-    for (const int i : {kTabIPR, kTabManejo})
+    for (const int i : {kTabCebo, kTabIPR, kTabManejo})
         m_tab->setTabEnabled(i, ganadero != 0);
+    m_cebo->FijarGanadero(ganadero);
+    m_fichaIPR->setEnabled(ganadero != 0 && m_ordenes.abrirFichaIPR);
     m_datos.FijarGanadero(ganadero);
 }
 

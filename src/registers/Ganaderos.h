@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/ficha/Ficha.h"
+#include "registers/OrdenesDeGanadero.h"
 #include "registers/explotacion/DatosExplotacion.h"
 
 #include <array>
@@ -13,10 +14,12 @@ class QTabWidget;
 
 namespace pastorix {
 
+class PaginaCebo;
+
 // The sheet of farmers: identity and address on its first tab; the farm's data on the others.
 class Ganaderos : public Ficha {
 public:
-    explicit Ganaderos(Sesion& sesion, QWidget* padre = nullptr);
+    explicit Ganaderos(Sesion& sesion, OrdenesDeGanadero ordenes = {}, QWidget* padre = nullptr);
 
 protected:
     std::vector<PaginaPendiente> Pendientes() override;
@@ -37,15 +40,21 @@ private:
     void PonerPestañas();
     void LlenarVeterinarios();
     void RefrescarEncabezado();
+    void CrearCebo();
+    QWidget* CrearIPR();
+    void AbrirFichaIPR();
     void AbrirDarBaja();
     void MostrarMotivoBaja();
 
+    OrdenesDeGanadero m_ordenes;
     DatosExplotacion m_datos;
+    PaginaCebo* m_cebo;
     QTabWidget* m_tab; // TabGanaderos
     QLabel* m_encabezado;
     QComboBox* m_veterinarios = nullptr;   // CD_Veterinarios
     std::vector<double> m_idsVeterinarios; // same index
     QComboBox* m_torosComun = nullptr;     // Combo1
+    QPushButton* m_fichaIPR;               // B_FichaIPR
     std::array<QPushButton*, 2> m_bajas{}; // removal, and its reason
     QString m_motivoBaja;
     double m_idDireccion = 0; // of the address that the save at hand writes

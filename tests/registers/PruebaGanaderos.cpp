@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTimer>
 
 using namespace pastorix;
@@ -108,6 +109,55 @@ private Q_SLOTS:
         QCOMPARE(Botones(f), QStringLiteral("AR"));
         QCOMPARE(CampoDe(f, 2)->text(), QString());
         f.close();
+    }
+
+    // The list of fattened animals: of this farmer alone, and after an animal's sheet the row chosen stays chosen, wherever it stands now.
+    void ListaDeCebo() {
+        PuestoDeFichas p;
+        p.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Nombre", "Nora"}});
+        p.Poner("T_Vacas", {{"Id_Vaca", 1200001.0}, {"Id_Ganadero", 12.0}, {"Nombre", "Luna"}});
+        const auto animal = [&](double ganadero, double id, int año, double vaca) {
+            p.Poner("T_Cebo",
+                    {{"Id_Ganadero", ganadero}, {"Id_Cebo", id}, {"AñoRef", año}, {"Id_Vaca", vaca}});
+        };
+        animal(12, 1, 2025, 1200001);
+        animal(12, 2, 2026, 0);
+        animal(57, 3, 2026, 0);
+        std::string ordenes;
+        Ganaderos f(p.sesion,
+                    {[&](QWidget*, double ganadero, std::optional<double> id) {
+                         ordenes += TextoDe(ganadero) + ":" + (id ? TextoDe(*id) : "") + " ";
+                         if (id)
+                             p.sesion.conexion.Execute("UPDATE T_Cebo SET AñoRef = 2027 WHERE Id_Cebo = 1");
+                         else
+                             animal(12, 4, 2027, 0);
+                     },
+                     {}});
+        Mostrar(f);
+        auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
+        QVERIFY(!tab->isTabEnabled(1));
+        f.CargarFicha(12);
+        tab->setCurrentIndex(1);
+        auto* grid = f.findChild<QTableWidget*>(QStringLiteral("GridCebo"));
+        const auto filas = [&] {
+            QString todo;
+            for (int i = 0; i < grid->rowCount(); ++i)
+                todo += grid->item(i, 0)->text() + grid->item(i, 3)->text() +
+                        QLatin1String(grid->item(i, 0)->isSelected() ? "* " : " ");
+            return todo;
+        };
+        QCOMPARE(filas(), QStringLiteral("2* 1Luna "));
+        grid->setFocus();
+        QTest::keyClick(grid, Qt::Key_Down);
+        QTest::keyClick(grid, Qt::Key_Return);
+        QCOMPARE(filas(), QStringLiteral("1Luna* 2 "));
+        BotonDe(f, "B_AñadirCebo")->click();
+        QCOMPARE(filas(), QStringLiteral("4 1Luna* 2 "));
+        QTest::keyClick(grid, Qt::Key_Down);
+        QCOMPARE(grid->currentRow(), 2);
+        QCOMPARE(ordenes, std::string("12:1 12: "));
+        BotonDe(f, "B_Añadir")->click(); // a farmer that is not there yet has none
+        QVERIFY(!tab->isTabEnabled(1) && grid->rowCount() == 0);
     }
 };
 

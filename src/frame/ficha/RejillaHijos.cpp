@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace pastorix {
 
 RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padre)
@@ -34,14 +36,40 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
     });
 }
 
-void RejillaHijos::Llenar(Recordset& rs) {
+std::vector<std::vector<Valor>> RejillaHijos::FilasDe(Recordset& rs) const {
     std::vector<std::vector<Valor>> filas;
     for (rs.Primero(); !rs.Eof(); rs.Siguiente()) {
         auto& valores = filas.emplace_back();
         for (const auto& c : m_columnas)
             valores.push_back(rs[c.columna].Leer());
     }
+    return filas;
+}
+
+void RejillaHijos::Llenar(Recordset& rs) {
+    Llenar(FilasDe(rs));
+}
+
+void RejillaHijos::LlenarDeNuevo(Recordset& rs, std::size_t clave) {
+    LlenarDeNuevo(FilasDe(rs), clave);
+}
+
+void RejillaHijos::LlenarDeNuevo(std::vector<std::vector<Valor>> filas, std::size_t clave) {
+    const int fila = currentRow();
+    const bool elegida = fila >= 0 && !selectedItems().isEmpty();
+    const auto antes = fila >= 0 ? De(fila, clave) : Valor();
     Llenar(std::move(filas));
+    if (fila < 0 || rowCount() == 0)
+        return;
+    int ahora = 0;
+    while (ahora < rowCount() && De(ahora, clave) != antes)
+        ++ahora;
+    const QSignalBlocker silencio(this);
+    setCurrentCell(ahora < rowCount() ? ahora : std::min(fila, rowCount() - 1), PrimeraVisible());
+    if (!elegida)
+        clearSelection();
+    if (alCambiarSeleccion)
+        alCambiarSeleccion();
 }
 
 void RejillaHijos::Llenar(std::vector<std::vector<Valor>> filas) {

@@ -27,6 +27,10 @@ public:
     void Llenar(Recordset& rs);
     // The same with values that the owner made, one a column.
     void Llenar(std::vector<std::vector<Valor>> filas);
+    // Shows the same rows after a change: the row chosen stays chosen, known by its value in column `clave`, and the arrows go on from it. When it
+    // is gone, its neighbour is.
+    void LlenarDeNuevo(Recordset& rs, std::size_t clave);
+    void LlenarDeNuevo(std::vector<std::vector<Valor>> filas, std::size_t clave);
     void Vaciar();
     int Filas() const { return rowCount(); }
     // Value of a field of a row as the query gave it.
@@ -45,6 +49,7 @@ protected:
 
 private:
     int PrimeraVisible() const;
+    std::vector<std::vector<Valor>> FilasDe(Recordset& rs) const;
 
     std::span<const ColumnaHijos> m_columnas;
     std::vector<std::vector<Valor>> m_valores;
