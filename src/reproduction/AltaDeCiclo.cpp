@@ -3,14 +3,17 @@
 #include "frame/Mensajes.h"
 #include "frame/Ventanas.h"
 #include "frame/calendario/Calendario.h"
+#include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoTexto.h"
 #include "frame/ficha/RejillaHijos.h"
 #include "reproduction/datos/Cadena.h"
 #include "reproduction/datos/Cubricion.h"
+#include "reproduction/datos/Limites.h"
 #include "reproduction/datos/Parto.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -42,7 +45,8 @@ const DefinicionAlta kAltaParto{"AñadirParto",
                                 PartosDeVaca,
                                 [](Conexion& c, const CicloDeVaca& ciclo, const PropuestaDeCiclo& p) {
                                     return AltaParto(c, ciclo, p.fecha, p.semental);
-                                }};
+                                },
+                                ReparoDeParidad};
 
 AltaDeCiclo::AltaDeCiclo(Conexion& c, const DefinicionAlta& definicion, double idVaca,
                          const PropuestaDeCiclo& propuesta, QWidget* padre)
@@ -86,6 +90,11 @@ AltaDeCiclo::AltaDeCiclo(Conexion& c, const DefinicionAlta& definicion, double i
     m_año->setPlaceholderText(QString::fromStdString(AñoReferenciaActual()));
     (propuesta.añoRef ? m_parto : m_año)->setFocus();
     m_año->installEventFilter(this);
+    if (definicion.reparo)
+        connect(m_parto, &QLineEdit::textChanged, this, [this](const QString& texto) {
+            m_reparo->setText(QString::fromStdString(m_definicion.reparo(texto.toStdString())));
+            m_parto->Señalar(m_reparo->text());
+        });
     RecordarVentana(*this);
 }
 
@@ -98,6 +107,9 @@ QWidget* AltaDeCiclo::CrearCampos() {
         campo->setObjectName(QStringLiteral("CT_Estandar(%1)").arg(indice++));
     campos->addRow(QStringLiteral("Año de &Referencia"), m_año);
     campos->addRow(QStringLiteral("&Parto"), m_parto);
+    m_reparo = Explicacion({}, caja);
+    m_reparo->setWordWrap(true);
+    campos->addRow(m_reparo);
     return caja;
 }
 

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QLabel;
+
 namespace pastorix {
 
 class CampoTexto;
@@ -21,6 +23,7 @@ struct DefinicionAlta {
     const char* sinParto; // box when the parity is empty: this text and the year
     std::vector<CicloDeVaca> (*leer)(Conexion&, double);
     bool (*añadir)(Conexion&, const CicloDeVaca&, const PropuestaDeCiclo&);
+    std::string (*reparo)(const std::string& nParto) = nullptr; // a remark on the parity that is typed
 };
 
 extern const DefinicionAlta kAltaCubricion;
@@ -51,6 +54,7 @@ private:
     std::vector<CicloDeVaca> m_ciclos;
     CampoTexto* m_año;
     CampoTexto* m_parto;
+    QLabel* m_reparo = nullptr;
     RejillaHijos* m_rejilla;
 };
 

@@ -11,6 +11,7 @@
 #include "reproduction/PiezasDeCiclo.h"
 #include "reproduction/datos/Cadena.h"
 #include "reproduction/datos/Cubricion.h"
+#include "reproduction/datos/Limites.h"
 #include "reproduction/datos/Servicios.h"
 #include "store/Recordset.h"
 
@@ -71,6 +72,7 @@ bool Cubriciones::CargarCubricion() {
                 m_hoja->Poner(c::IEPc, Texto(IEP(d))); // the real interval goes before the expected one
             m_causas->PonerAmamantamiento(Amamantamiento(d));
             MostrarOtras();
+            Repasar();
             m_hoja->DarPorGuardado();
             m_serviciosPorGuardar = false;
             bien = true;
@@ -120,6 +122,16 @@ void Cubriciones::MostrarOtras() {
             .arg(QString::fromStdString(TextoDe(EnteroONulo(m_ciclo.añoRef))), m_hoja->Texto(c::NParto)));
 }
 
+void Cubriciones::Repasar() {
+    const auto parto = m_hoja->FechaDe(c::FechaParto);
+    const auto real = m_hoja->FechaDe(c::FechaRealParto);
+    m_hoja->Señalar(c::FechaParto, ReparoDeParto(parto, Hoy()));
+    const auto porVenir = ReparoDeParto(real, Hoy());
+    m_hoja->Señalar(c::FechaRealParto,
+                    porVenir.empty() ? ReparoDeGestacion(m_servicios->Ultimo(), real) : porVenir);
+    m_servicios->Repasar(parto, m_vaca.fechaDesecho);
+}
+
 // The values that follow a field when it is left. The date of the calving moves all of them, by way of the row.
 void Cubriciones::AlDejar(QWidget& campo) {
     if (m_cargando)
@@ -133,6 +145,7 @@ void Cubriciones::AlDejar(QWidget& campo) {
         } else if (&campo == &m_hoja->Campo(c::FechaRealParto)) {
             PonerIEPc(Datos());
         }
+        Repasar();
     } catch (const std::exception& e) {
         AvisarError(this, e);
     }

@@ -53,6 +53,7 @@ private:
     void PonerFechas(const DatosDeCiclo& d);
     void PonerIPR_CP(const DatosDeCiclo& d);
     void PonerIEPc(const DatosDeCiclo& d);
+    void Repasar(); // remarks on what cannot be
     void AlDejar(QWidget& campo);
     void AlDecidir(QComboBox& combo);
     void MostrarOtras(); // header, remarks, what other tables say

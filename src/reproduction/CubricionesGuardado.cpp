@@ -46,7 +46,10 @@ void Cubriciones::ResolverParidad() {
         QStringLiteral("El nº de parto de esta cubrición pasa de «%1» a «%2», y con ella sus servicios y "
                        "sus anotaciones de sanidad.%3 ¿Desea cambiarlo?")
             .arg(QString::fromStdString(antes), m_hoja->Texto(c::NParto),
-                 ocupada ? QStringLiteral(" Ya hay otra cubrición de ese año y parto.") : QString());
+                 ocupada   ? QStringLiteral(" Ya hay otra cubrición de ese año y parto.")
+                 : paridad ? QString()
+                           : QStringLiteral(" Sin nº de parto, los servicios se borran al volver a entrar en "
+                                            "la base de datos."));
     if (!Preguntar(this, QStringLiteral("Atención"), pregunta))
         m_hoja->Poner(c::NParto, antes);
 }

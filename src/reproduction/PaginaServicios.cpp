@@ -4,6 +4,7 @@
 #include "frame/Mensajes.h"
 #include "frame/ficha/Aspecto.h"
 #include "frame/selector/Selector.h"
+#include "reproduction/datos/Limites.h"
 #include "reproduction/datos/Servicios.h"
 #include "store/Literales.h"
 
@@ -87,13 +88,34 @@ void PaginaServicios::Mostrar(const CicloDeVaca& ciclo) {
     m_ciclo = ciclo;
     m_lineas->Mostrar(ServiciosEnRejilla(todos));
     const auto sinSitio = ServiciosSinSitio(todos);
-    m_aviso->setText(
-        QStringLiteral("Este ciclo tiene %1 servicios y aquí caben %2: al aceptar o eliminar una línea se "
-                       "perderán los números %3.")
-            .arg(todos.size())
-            .arg(kServiciosEnRejilla)
-            .arg(QString::fromStdString(sinSitio)));
-    m_aviso->setVisible(!sinSitio.empty());
+    m_sinSitio =
+        sinSitio.empty()
+            ? QString()
+            : QStringLiteral(
+                  "Este ciclo tiene %1 servicios y aquí caben %2: al aceptar o eliminar una línea se "
+                  "perderán los números %3")
+                  .arg(todos.size())
+                  .arg(kServiciosEnRejilla)
+                  .arg(QString::fromStdString(sinSitio));
+    Repasar({}, {});
+}
+
+void PaginaServicios::Repasar(std::optional<Fecha> parto, std::optional<Fecha> baja) {
+    QStringList avisos(m_sinSitio);
+    const auto& lineas = m_lineas->Lineas();
+    for (std::size_t i = 0; i < lineas.size(); ++i) {
+        const auto reparo = QString::fromStdString(ReparoDeServicio(FechaDe(lineas[i]), parto, baja));
+        auto* celda = m_lineas->Rejilla().item(static_cast<int>(i), servicio::Fecha);
+        celda->setIcon(reparo.isEmpty() ? QIcon() : Icono("aviso"));
+        celda->setToolTip(reparo);
+        celda->setData(Qt::AccessibleDescriptionRole, reparo);
+        if (!reparo.isEmpty())
+            avisos << QStringLiteral("Nº %1: %2")
+                          .arg(QString::fromStdString(lineas[i].celdas[servicio::Numero]), reparo);
+    }
+    avisos.removeAll(QString());
+    m_aviso->setText(avisos.join(QStringLiteral(". ")));
+    m_aviso->setVisible(!avisos.isEmpty());
 }
 
 void PaginaServicios::Escribir(const CicloDeVaca& ciclo) {

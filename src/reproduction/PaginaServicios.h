@@ -23,6 +23,9 @@ public:
     void Mostrar(const CicloDeVaca& ciclo);
     void Escribir(const CicloDeVaca& ciclo); // rewrites it. Throws ErrorAlmacen, with the rows as they were
 
+    // Remarks on lines that cannot be, as their cells and the line above the grid say.
+    void Repasar(std::optional<Fecha> parto, std::optional<Fecha> baja);
+
     std::optional<Fecha> Primero() const; // date of the first line
     std::optional<Fecha> Ultimo() const;  // of the last one, also when only others have a date
     // Number, count of inseminations and bull of the last line; "" without lines.
@@ -42,6 +45,7 @@ private:
     CicloDeVaca m_ciclo;
     LineasEditables* m_lineas;
     QLabel* m_aviso;
+    QString m_sinSitio; // lines that the grid does not hold
 };
 
 } // namespace pastorix

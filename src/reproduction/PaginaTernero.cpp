@@ -4,6 +4,7 @@
 #include "frame/ficha/Aspecto.h"
 #include "reproduction/CamposDeParto.h"
 #include "reproduction/datos/Destete.h"
+#include "reproduction/datos/Limites.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -46,6 +47,7 @@ PaginaTernero::PaginaTernero(Conexion& c, int ternero, QWidget* padre)
     todo->addWidget(Titular(QStringLiteral("Indices           Productivos"), this));
     todo->addWidget(CrearDestete());
     todo->addWidget(m_hoja->CrearRejilla(this, 2), 1);
+    todo->addWidget(m_hoja->CrearPie(this));
     Conectar();
     PonerBoton();
 }
@@ -81,7 +83,10 @@ void PaginaTernero::Conectar() {
             alPedirCebo();
     });
     m_hoja->alDecidir = [this](QComboBox& combo) { AlDecidir(combo); };
-    m_hoja->alDejar = [this](QWidget&) { RevisarCebo(); };
+    m_hoja->alDejar = [this](QWidget&) {
+        Repasar();
+        RevisarCebo();
+    };
 }
 
 void PaginaTernero::Mostrar(Recordset& rs, const TerneroDeParto& claves) {
@@ -94,6 +99,7 @@ void PaginaTernero::Mostrar(Recordset& rs, const TerneroDeParto& claves) {
     m_retirado.clear();
     FijarFechaDeParto(claves.fechaParto, false);
     PonerBoton();
+    Repasar();
     RevisarCebo();
     m_hoja->DarPorGuardado();
 }
@@ -135,6 +141,11 @@ void PaginaTernero::Calcular() {
     m_hoja->Poner(t::PesoDestete, f.pesoDestete);
     m_hoja->Poner(t::GDestete, f.gDestete);
     FijarFechaDeParto(m_claves.fechaParto, false);
+}
+
+void PaginaTernero::Repasar() {
+    m_hoja->Señalar(t::PesoNac, ReparoDePesoNac(m_hoja->TextoStd(t::PesoNac)));
+    m_hoja->Señalar(t::EdadDestete, ReparoDeEdadDestete(m_hoja->TextoStd(t::EdadDestete)));
 }
 
 void PaginaTernero::PonerCuartos(const QString& texto) {

@@ -28,6 +28,7 @@ public:
     // The date of the calving as the sheet has it. A new one leaves the weaning figures behind, which the page then says.
     void FijarFechaDeParto(std::optional<Fecha> fecha, bool cambiada);
     // Works the weaning figures out from what stands on the page.
+    void Repasar(); // remarks on what cannot be
     void Calcular();
     void PonerCuartos(const QString& texto);
     // Puts back what sending to fattening, or taking back, changed since the row was read. Throws ErrorAlmacen.

@@ -3,6 +3,7 @@
 
 #include "frame/Mensajes.h"
 #include "frame/Principal.h"
+#include "frame/calendario/Reloj.h"
 #include "frame/selector/Selector.h"
 #include "reproduction/AbrirCiclos.h"
 #include "reproduction/CamposDeParto.h"
@@ -11,6 +12,7 @@
 #include "reproduction/PaginaTernero.h"
 #include "reproduction/PiezasDeCiclo.h"
 #include "reproduction/datos/Cadena.h"
+#include "reproduction/datos/Limites.h"
 #include "reproduction/datos/Parto.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
@@ -74,6 +76,7 @@ void Partos::MostrarFilas() {
     m_gemelar = m_hoja->Combo("Cd_G(2)").currentText();
     PonerPestañas(m_filas.size() > 1 || (!m_gemelar.isEmpty() && m_gemelar != QLatin1String("No")));
     RotularCompletos(m_hoja->Marca(0));
+    Repasar();
     QStringList avisos;
     for (const int año : OtrosAñosDeParidad(Base(), "T_Partos", m_ciclo))
         avisos << QStringLiteral("El parto nº %1 está también en el año %2")
@@ -224,6 +227,11 @@ void Partos::AlDejarFecha() {
     for (auto* ternero : m_terneros)
         if (ternero->Ternero().fechaParto != fecha)
             ternero->FijarFechaDeParto(fecha, true);
+}
+
+void Partos::Repasar() {
+    m_hoja->Señalar(g::NParto, ReparoDeParidad(m_hoja->TextoStd(g::NParto)));
+    m_hoja->Señalar(g::Fecha, ReparoDeParto(m_hoja->FechaDe(g::Fecha), Hoy()));
 }
 
 // --- twins

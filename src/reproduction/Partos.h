@@ -52,6 +52,7 @@ private:
     void BuscarToro(int ternero);
 
     void AlDejarFecha();
+    void Repasar(); // remarks on what cannot be, or will not stay
     void AlDecidirGemelar();
     void CrearSegundo();
     void QuitarSegundo();

@@ -52,7 +52,6 @@ Partos::Partos(Principal& marco, const VacaEnMano& vaca, const CicloDeVaca& cicl
     todo->addWidget(m_encabezado);
     todo->addWidget(m_avisos);
     CuerpoDesplazable(*this, *todo)->addWidget(m_tab);
-    todo->addWidget(m_hoja->CrearPie(this));
     todo->addLayout(CrearPie());
     ConectarPestañas(*m_tab);
     resize(1040, 560);
@@ -66,12 +65,14 @@ QWidget* Partos::CrearGeneral() {
     todo->addWidget(m_hoja->CrearRejilla(general, 0));
     todo->addWidget(m_hoja->CrearRejilla(general, 1));
     todo->addStretch();
+    todo->addWidget(m_hoja->CrearPie(general));
     m_hoja->Poner(g::FechaCompra,
                   FechaDeVaca(m_vaca.fechaCompra, m_vaca.textoCompra, "dd/mm/yy").toStdString());
     m_hoja->Poner(g::FechaBaja, FechaDeVaca(m_vaca.fechaBaja, m_vaca.textoBaja, "dd/mm/yy").toStdString());
     m_hoja->alDejar = [this](QWidget& campo) {
         if (&campo == &m_hoja->Campo(g::Fecha))
             AlDejarFecha();
+        Repasar();
     };
     m_hoja->alDecidir = [this](QComboBox& combo) {
         if (&combo == &m_hoja->Combo("Cd_G(2)"))

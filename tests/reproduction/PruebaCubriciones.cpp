@@ -153,6 +153,31 @@ private Q_SLOTS:
         QCOMPARE(p.Fila("Fecha_Parto, FechaRealParto"), std::string("02/01/26|02/01/27"));
     }
 
+    // Services and calvings that cannot be are told above the grid and below the sheet.
+    void Reparos() {
+        Hoja p;
+        p.vaca.fechaDesecho = F("1/6/26");
+        p.PonerCubricion(2026, 3, {{"Fecha_Parto", "01/02/2026"}, {"FechaRealParto", "01/10/2026"}});
+        for (const auto& [n, fecha] : {std::pair{1, "01/01/2026"}, {2, "01/03/2026"}, {3, "02/06/2026"}})
+            p.Poner("T_Servicios", {{"Id_Vaca", 1200001.0},
+                                    {"Año_Ref", 2026},
+                                    {"N_Parto", 3},
+                                    {"N_Servicio", n},
+                                    {"Fecha_Servicio", fecha}});
+        p.Abrir(2026, 3);
+        QCOMPARE(Control<QLabel>(*p.f, "AvisoServicios")->text(),
+                 QStringLiteral("Nº 1: El servicio es anterior al parto que abrió el ciclo. "
+                                "Nº 3: El servicio es posterior a la baja de la vaca"));
+        const auto* pie = Control<QLabel>(*p.f, "Reparos");
+        QVERIFY(pie->text().contains(QStringLiteral("Gestación de 121 días")));
+        TeclearEn(*p.f, "Ct_E(9)", "1/3/27");
+        Control<QLineEdit>(*p.f, "Ct_E(3)")->setFocus();
+        QVERIFY(pie->text().endsWith(QStringLiteral("La fecha está por llegar")));
+        TeclearEn(*p.f, "Ct_E(9)", "");
+        Control<QLineEdit>(*p.f, "Ct_E(3)")->setFocus();
+        QVERIFY(pie->text().isEmpty());
+    }
+
     // The state acts when it is decided on, not while the arrows pass it.
     void EstadoAlDecidir() {
         Hoja p;

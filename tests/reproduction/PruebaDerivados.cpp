@@ -4,6 +4,7 @@
 #include "reproduction/datos/Causas.h"
 #include "reproduction/datos/DatosDeCiclo.h"
 #include "reproduction/datos/Destete.h"
+#include "reproduction/datos/Limites.h"
 
 using namespace pastorix;
 using namespace prueba;
@@ -141,6 +142,29 @@ private Q_SLOTS:
         QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false),
                  std::string("010"));
         QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), std::string("-5"));
+    }
+
+    // The ends of what is possible are possible.
+    void Limites() {
+        const auto dias = [](int n) {
+            return ReparoDeGestacion(F("1/1/26"), F("1/1/26").MasDias(n)).empty();
+        };
+        QVERIFY(!dias(239) && dias(240) && dias(310) && !dias(311) && !dias(-5));
+        const auto pesos = [](const char* kg) { return ReparoDePesoNac(kg).empty(); };
+        QVERIFY(!pesos("14,9") && pesos("15") && pesos("80") && !pesos("81") && pesos("") && !pesos("0"));
+        const auto edades = [](const char* d) { return ReparoDeEdadDestete(d).empty(); };
+        QVERIFY(!edades("59") && edades("60") && edades("400") && !edades("401") && !edades("-3") &&
+                edades(""));
+        QCOMPARE(ReparoDeEdadDestete("30"), std::string("Destete de 30 días: lo posible va de 60 a 400"));
+        const auto servicio = [](const char* d, const char* parto, const char* baja) {
+            return ReparoDeServicio(F(d), FechaDeTexto(parto), FechaDeTexto(baja)).empty();
+        };
+        QVERIFY(servicio("1/3/26", "1/3/26", "1/3/26") && !servicio("28/2/26", "1/3/26", "") &&
+                !servicio("2/3/26", "", "1/3/26"));
+        QVERIFY(ReparoDeParto(F("1/1/26"), F("1/1/26")).empty() &&
+                !ReparoDeParto(F("2/1/26"), F("1/1/26")).empty());
+        QVERIFY(ReparoDeParidad("").empty() && ReparoDeParidad("10").empty() &&
+                !ReparoDeParidad("0").empty());
     }
 };
 

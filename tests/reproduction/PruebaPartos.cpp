@@ -145,6 +145,34 @@ private Q_SLOTS:
         QCOMPARE(p.Filas("Peso, PesoDestete, EdadDestete, GDestete"), std::string("220,4|220|170|1059"));
     }
 
+    // What cannot be is remarked upon, told beside the fields, and stored all the same.
+    void Reparos() {
+        Hoja p;
+        p.PonerParto(2026, 3, 1, {{"Fecha_Parto", "01/12/2026"}, {"PesoNac", 400.0}});
+        p.Abrir(2026, 3);
+        const auto pie = [&](int pagina) {
+            return Control<QTabWidget>(*p.f, "TabGeneral")
+                ->widget(pagina)
+                ->findChild<QLabel*>(QStringLiteral("Reparos"))
+                ->text();
+        };
+        QVERIFY(pie(0).endsWith(QStringLiteral("«01/12/26»: La fecha está por llegar")));
+        QVERIFY(pie(1).contains(QStringLiteral("«400»: Peso al nacer de 400 kg")));
+        TeclearEn(*p.f, "Ct_G(2)", "1/1/26");
+        TeclearEn(*p.f, "Ct_G(0)", "0");
+        Control<QLineEdit>(*p.f, "Ct_G(1)")->setFocus();
+        QVERIFY(pie(0).contains(QStringLiteral("«0»: Un parto nº 0 se borra")) &&
+                !pie(0).contains(QStringLiteral("por llegar")));
+        p.Pestaña(1);
+        TeclearEn(*p.f, "Ct_T1(1)", "40");
+        TeclearEn(*p.f, "Ct_T1(9)", "15/1/26");
+        Control<QLineEdit>(*p.f, "Ct_T1(20)")->setFocus();
+        QCOMPARE(pie(1),
+                 QStringLiteral("Edad Destete (días) «14»: Destete de 14 días: lo posible va de 60 a 400"));
+        p.Aceptar();
+        QCOMPARE(p.Filas("N_Parto, EdadDestete"), std::string("0|14"));
+    }
+
     void Cebo() {
         Hoja p;
         p.PonerParto(2026, 3, 1, {{"Fecha_Parto", "01/01/2026"}, {"Sexo", "Macho"}});

@@ -156,11 +156,16 @@ void HojaDeCampos::Reparar() {
         return;
     QStringList reparos;
     for (const auto& c : m_definicion.campos)
-        if (const auto it = m_campos.find(c.indice); it != m_campos.end() && it->second->NoEsFecha())
+        if (const auto it = m_campos.find(c.indice); it != m_campos.end() && !it->second->Señal().isEmpty())
             reparos << it->second->accessibleName() + QStringLiteral(" «") + it->second->text() +
                            QStringLiteral("»: ") + it->second->Señal();
     m_pie->setText(reparos.join(QStringLiteral(". ")));
     m_pie->setVisible(!reparos.isEmpty());
+}
+
+void HojaDeCampos::Señalar(int indice, const std::string& reparo) {
+    if (auto& campo = Campo(indice); !campo.NoEsFecha())
+        campo.Señalar(QString::fromStdString(reparo));
 }
 
 std::string HojaDeCampos::TextoStd(int indice) const {

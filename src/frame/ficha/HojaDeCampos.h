@@ -70,6 +70,8 @@ public:
     const DefinicionHoja& Definicion() const { return m_definicion; }
     // A line that says what will not be stored as it stands; not there while there is nothing to say.
     QLabel* CrearPie(QWidget* padre);
+    // A remark of the sheet's own on what stands in a field; "" takes it back. That a text is no date goes before it.
+    void Señalar(int indice, const std::string& reparo);
 
     // The user is about to change something, or just has.
     std::function<void()> alEditar;
