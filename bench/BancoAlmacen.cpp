@@ -1,5 +1,7 @@
 #include "Rebano.h"
 
+#include "store/BasePropia.h"
+#include "store/CopiaDeFilas.h"
 #include "store/Esquema.h"
 #include "store/Ficheros.h"
 #include "store/Literales.h"
@@ -164,5 +166,63 @@ void AñadirDirecto(benchmark::State& estado) {
     sqlite3_finalize(s);
 }
 BENCHMARK(AñadirDirecto)->Unit(benchmark::kMillisecond);
+
+// Whole tables of the exchange.
+struct Otra {
+    std::string fichero = LaBase().carpeta.filePath(QStringLiteral("otra.mdb")).toStdString();
+    Conexion c;
+
+    Otra() {
+        CrearBase(Ruta(fichero), ClaseDeBase::Principal, kClave);
+        c.AbrirFichero(fichero, kClave);
+    }
+};
+
+Otra& LaOtra() {
+    static Otra o;
+    return o;
+}
+
+void CopiarAlmacen(benchmark::State& estado) {
+    auto& origen = LaBase().c;
+    auto& destino = LaOtra().c;
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(CopiarFilas(origen, "SELECT * FROM T_Cebo", destino, "T_Cebo"));
+        estado.PauseTiming();
+        destino.Execute("DELETE FROM T_Cebo");
+        estado.ResumeTiming();
+    }
+}
+BENCHMARK(CopiarAlmacen)->Unit(benchmark::kMillisecond);
+
+void CopiarDirecto(benchmark::State& estado) {
+    auto& b = LaBase();
+    auto* destino = LaOtra().c.Manejador();
+    sqlite3_stmt* leer = nullptr;
+    sqlite3_stmt* poner = nullptr;
+    sqlite3_prepare_v2(b.s, "SELECT * FROM T_Cebo", -1, &leer, nullptr);
+    const int columnas = sqlite3_column_count(leer);
+    std::string sql = "INSERT INTO T_Cebo VALUES (?";
+    for (int i = 1; i < columnas; ++i)
+        sql += ", ?";
+    sqlite3_prepare_v2(destino, (sql + ")").c_str(), -1, &poner, nullptr);
+    for (auto _ : estado) {
+        sqlite3_exec(destino, "BEGIN", nullptr, nullptr, nullptr);
+        while (sqlite3_step(leer) == SQLITE_ROW) {
+            for (int i = 0; i < columnas; ++i)
+                sqlite3_bind_value(poner, i + 1, sqlite3_column_value(leer, i));
+            sqlite3_step(poner);
+            sqlite3_reset(poner);
+        }
+        sqlite3_reset(leer);
+        sqlite3_exec(destino, "COMMIT", nullptr, nullptr, nullptr);
+        estado.PauseTiming();
+        sqlite3_exec(destino, "DELETE FROM T_Cebo", nullptr, nullptr, nullptr);
+        estado.ResumeTiming();
+    }
+    sqlite3_finalize(leer);
+    sqlite3_finalize(poner);
+}
+BENCHMARK(CopiarDirecto)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "Rebano.h"
 
 #include "registers/datos/Resumen.h"
+#include "store/BasePropia.h"
 #include "store/Esquema.h"
 #include "store/Recordset.h"
 

@@ -1,6 +1,7 @@
 #include "frame/selector/GridSelector.h"
 #include "frame/selector/Selector.h"
 #include "frame/selector/SentenciasSelector.h"
+#include "store/BasePropia.h"
 #include "store/Esquema.h"
 #include "store/Ficheros.h"
 #include "store/Recordset.h"
@@ -126,6 +127,34 @@ void SelectorFiltrarDirecto(benchmark::State& estado) {
     Leer(estado, " AND v.Crotal LIKE '%7'");
 }
 BENCHMARK(SelectorFiltrarDirecto)->Unit(benchmark::kMillisecond);
+
+// A word typed into the search box, painted at every key; with the first one all rows are read.
+void SelectorBuscar(benchmark::State& estado) {
+    Selector s(LaProvincia().c, Lista());
+    s.show();
+    auto* busca = s.findChild<QLineEdit*>(QStringLiteral("Buscar"));
+    const QString palabra = QStringLiteral("estrella 89");
+    for (auto _ : estado)
+        for (int letras = 1; letras <= palabra.size(); ++letras) {
+            busca->setText(palabra.left(letras));
+            benchmark::DoNotOptimize(s.grab());
+        }
+}
+BENCHMARK(SelectorBuscar)->Unit(benchmark::kMillisecond);
+
+// The first key of a search alone.
+void SelectorPrimeraTecla(benchmark::State& estado) {
+    for (auto _ : estado) {
+        estado.PauseTiming();
+        Selector s(LaProvincia().c, Lista());
+        s.show();
+        s.grab();
+        estado.ResumeTiming();
+        s.findChild<QLineEdit*>(QStringLiteral("Buscar"))->setText(QStringLiteral("e"));
+        benchmark::DoNotOptimize(s.grab());
+    }
+}
+BENCHMARK(SelectorPrimeraTecla)->Unit(benchmark::kMillisecond)->Iterations(10);
 
 // To the last row and back to the first, painted each time: the walk from the start that a jump back costs.
 void SelectorSaltar(benchmark::State& estado) {

@@ -2,6 +2,7 @@
 
 #include "registers/datos/Borrados.h"
 #include "registers/vacas/Vacas.h"
+#include "store/BasePropia.h"
 #include "store/Esquema.h"
 #include "store/Recordset.h"
 

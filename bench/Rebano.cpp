@@ -12,7 +12,7 @@ using namespace pastorix;
 
 namespace {
 
-constexpr int kVacas = 500;
+constexpr double kPrimeraGranja = 12;
 constexpr int kPrimerAño = 2013;
 constexpr int kAños = 14;
 
@@ -22,7 +22,7 @@ Fecha Dia(int año, int mes, int dia) {
 
 } // namespace
 
-void HacerRebaño(const std::string& fichero) {
+void HacerRebaño(const std::string& fichero, int granjas, int vacasPorGranja) {
     CrearBase(Ruta(fichero), ClaseDeBase::Principal, kClave);
     Conexion c;
     c.AbrirFichero(fichero, kClave);
@@ -30,7 +30,8 @@ void HacerRebaño(const std::string& fichero) {
     const auto hasta = [&](int n) { return static_cast<int>(azar() % static_cast<unsigned>(n)); };
     EnGrupo(c, [&] {
         Recordset g(c, "SELECT * FROM T_Ganaderos");
-        for (const double id : {1.0, 12.0}) {
+        for (int k = -1; k < granjas; ++k) {
+            const double id = k < 0 ? 1 : kPrimeraGranja + k;
             g.AddNew();
             g["Id_Ganadero"] = id;
             g["Nombre"] = id == 1 ? "Centro" : "Nicolás";
@@ -52,12 +53,13 @@ void HacerRebaño(const std::string& fichero) {
         Recordset cebo(c, "SELECT * FROM T_Cebo");
         double idParto = 0;
         double idCebo = 0;
-        for (int i = 1; i <= kVacas; ++i) {
+        for (int i = 1; i <= granjas * vacasPorGranja; ++i) {
             const double id = 1200000.0 + i;
+            const double granja = kPrimeraGranja + (i - 1) / vacasPorGranja;
             const int entrada = kPrimerAño + (i % 3 == 0 ? hasta(kAños - 4) : 0);
             v.AddNew();
             v["Id_Vaca"] = id;
-            v["Id_Ganadero"] = 12.0;
+            v["Id_Ganadero"] = granja;
             v["Nombre"] = "Vaca " + std::to_string(i);
             v["NombreC"] = "Vaca " + std::to_string(i) + "-N";
             v["Crotal"] = "ES" + std::to_string(10000000 + i * 7919 % 89999999);
@@ -111,7 +113,7 @@ void HacerRebaño(const std::string& fichero) {
                     continue;
                 cebo.AddNew();
                 cebo["Id_Cebo"] = ++idCebo;
-                cebo["Id_Ganadero"] = 12.0;
+                cebo["Id_Ganadero"] = granja;
                 cebo["AñoRef"] = año;
                 cebo["Sexo"] = hasta(2) ? "Macho" : "Hembra";
                 cebo["Origen"] = "Propio";

@@ -1,3 +1,5 @@
+#include "store/LocaleNumerico.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -38,6 +40,7 @@ private:
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication aplicacion(argc, argv);
+    pastorix::FijarLocaleNumerico();
     benchmark::Initialize(&argc, argv);
     Informador informador;
     benchmark::RunSpecifiedBenchmarks(&informador);

@@ -5,6 +5,7 @@
 #include "reports/motor/ErrorInforme.h"
 #include "reports/motor/Informe.h"
 #include "reports/motor/LectorDisposicion.h"
+#include "store/LocaleNumerico.h"
 
 #include <QApplication>
 #include <QImage>
@@ -31,12 +32,8 @@ TablasEnMemoria TablasPara(const Disposicion& d) {
     for (const TablaUsada& usada : d.tablas) {
         TablaDatos tabla;
         tabla.nombre = usada.nombre;
-        for (const TablaUsada& otra : d.tablas) { // the same table may be there under two names
-            if (otra.nombre == usada.nombre) {
-                for (const auto& columna : otra.columnas)
-                    tabla.columnas.push_back(columna.nombre);
-            }
-        }
+        for (const auto& columna : usada.columnas)
+            tabla.columnas.push_back(columna.nombre);
         for (std::size_t f = 0; f < 3; ++f) {
             tabla.filas.emplace_back();
             for (std::size_t c = 0; c < tabla.columnas.size(); ++c)
@@ -52,6 +49,7 @@ TablasEnMemoria TablasPara(const Disposicion& d) {
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static QApplication aplicacion(*argc, *argv);
+    FijarLocaleNumerico();
     FijarHoy(Fecha::De(2026, 11, 22));
     return 0;
 }

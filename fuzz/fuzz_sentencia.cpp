@@ -1,4 +1,5 @@
 // Statements of any form against the real tables: each is translated or refused, and what is translated SQLite understands.
+#include "store/BasePropia.h"
 #include "store/Catalogo.h"
 #include "store/Errores.h"
 #include "store/Esquema.h"

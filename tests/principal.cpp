@@ -1,5 +1,7 @@
 #include "prueba.h"
 
+#include "store/LocaleNumerico.h"
+
 #ifdef QT_WIDGETS_LIB
 #include <QApplication>
 using Aplicacion = QApplication;
@@ -58,12 +60,15 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(true);
     Aplicacion app(argc, argv);
+    pastorix::FijarLocaleNumerico();
     manejadorAnterior = qInstallMessageHandler(Manejar);
 
+    // Without the crash handler of the test library, which waits for a debugger that may never answer.
+    const QStringList argumentos = QStringList(Aplicacion::arguments()) << QStringLiteral("-nocrashhandler");
     int fallos = 0;
     for (const auto& fabrica : prueba::Lista()) {
         const auto objeto = fabrica();
-        fallos += QTest::qExec(objeto.get(), argc, argv);
+        fallos += QTest::qExec(objeto.get(), argumentos);
     }
     if (avisosInesperados > 0)
         std::fprintf(stderr, "%d unexpected warnings\n", avisosInesperados);

@@ -1,19 +1,32 @@
 #include "app/Ordenes.h"
 
+#include "exchange/Exportar.h"
+#include "exchange/Historial.h"
+#include "exchange/ImportarDC.h"
+#include "exchange/PasoGanaderos.h"
+#include "exchange/ServidorDS.h"
+#include "exchange/TorosComunes.h"
 #include "frame/Mensajes.h"
 #include "frame/Principal.h"
+#include "frame/calendario/Reloj.h"
 #include "registers/Ganaderos.h"
+#include "registers/VentanaHoy.h"
 #include "registers/Veterinarios.h"
 #include "registers/sementales/Sementales.h"
 #include "registers/vacas/Vacas.h"
+#include "reports/CatalogoDeInformes.h"
 #include "reports/ListadoMaestro.h"
-#include "reports/Lst_IndicesTecnicos.h"
+#include "reports/figuras/Explicaciones.h"
+#include "reports/formularios/FormularioDeInforme.h"
+#include "reports/motor/ControlInforme.h"
 #include "reproduction/AbrirCiclos.h"
 #include "reproduction/Cebo.h"
 #include "reproduction/FichaIPR.h"
+#include "reproduction/PanelAvisos.h"
 
 #include <QDialog>
 #include <QShortcut>
+#include <QVBoxLayout>
 
 #include <functional>
 
@@ -30,7 +43,7 @@ void Abrir(Principal& principal, Hacer hacer) {
         f->setAttribute(Qt::WA_DeleteOnClose);
         f->show();
     } catch (const ErrorAlmacen& e) {
-        Avisar(&principal, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
+        AvisarFallo(&principal, QStringLiteral("Atención"), e);
     }
 }
 
@@ -51,6 +64,90 @@ OrdenesDeGanadero OrdenesDeCebo(Sesion& sesion) {
             [&](QWidget* w, double ganadero) { FichaIPR(sesion, ganadero, w).exec(); }};
 }
 
+// The sheet of a record; nothing for what has none.
+QDialog* FichaDeHecho(Principal& principal, Sesion& sesion, const Hecho& hecho) {
+    const auto con = [&](auto* ficha) -> QDialog* {
+        ficha->CargarFicha(hecho.id);
+        return ficha;
+    };
+    switch (hecho.ficha) {
+    case FichaDe::Vaca:
+        return con(new Vacas(sesion, OrdenesDeCiclos(principal), &principal));
+    case FichaDe::Toro:
+        return con(new Sementales(sesion, &principal));
+    case FichaDe::Ganadero:
+        return con(new Ganaderos(sesion, OrdenesDeCebo(sesion), &principal));
+    case FichaDe::Veterinario:
+        return con(new Veterinarios(sesion, &principal));
+    case FichaDe::Ninguna:
+        break;
+    }
+    return nullptr;
+}
+
+// Ctrl+H lists what was done in this session, and puts it back.
+void PonerHoy(Principal& principal, Sesion& sesion) {
+    if (!sesion.diario)
+        sesion.diario = std::make_unique<Diario>(sesion.conexion, Ahora);
+    QObject::connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_H), &principal), &QShortcut::activated,
+                     &principal, [&] {
+                         Abrir(principal, [&] {
+                             auto* hoy = new VentanaHoy(sesion, &principal);
+                             hoy->alAbrir = [&](const Hecho& hecho) {
+                                 if (hecho.ficha != FichaDe::Ninguna)
+                                     Abrir(principal, [&] { return FichaDeHecho(principal, sesion, hecho); });
+                             };
+                             return hoy;
+                         });
+                     });
+}
+
+// The exchange has one pair of forms for the centre and one for the stations; who has not entered has none.
+void VincularIntercambio(Principal& principal, Sesion& sesion) {
+    const auto segunModo = [&](const char* orden, auto enCentral, auto enEstacion) {
+        principal.Vincular(QString::fromUtf8(orden), [&principal, &sesion, enCentral, enEstacion] {
+            if (sesion.ModoSesion == "CENTRAL")
+                Abrir(principal, enCentral);
+            else if (sesion.ModoSesion == "VETERINARIO")
+                Abrir(principal, enEstacion);
+        });
+    };
+    segunModo(
+        "Mnu_Exportar", [&]() -> QDialog* { return new Exportar(sesion, &principal); },
+        [&]() -> QDialog* { return new ExportarDS(sesion, &principal); });
+    segunModo(
+        "Mnu_Importar", [&]() -> QDialog* { return new ImportarDC(sesion, &principal); },
+        [&]() -> QDialog* { return new ImportarDS(sesion, &principal); });
+    const auto formulario = [&](const char* orden, auto hacer) {
+        principal.Vincular(QString::fromUtf8(orden), [&principal, hacer] { Abrir(principal, hacer); });
+    };
+    formulario("Mnu_ExpTD", [&]() -> QDialog* { return new Exp_TC(sesion, &principal); });
+    formulario("Mnu_ImpTD", [&]() -> QDialog* { return new Imp_TC(sesion, &principal); });
+    formulario("MnuT1", [&]() -> QDialog* {
+        return new PasoGanaderos(sesion, QStringLiteral(" Paso a Pastorix"), &principal);
+    });
+    formulario("MnuT2", [&]() -> QDialog* {
+        return new PasoGanaderos(sesion, QStringLiteral(" Paso a Pastorix Personal"), &principal);
+    });
+    formulario("Mnu_BorrarBackup", [&]() -> QDialog* { return new Historial(sesion, &principal); });
+    principal.Vincular(QStringLiteral("Mnu_Compactar"), [&] { CompactarEnSesion(sesion, &principal); });
+}
+
+// The day's work lies on the ground of the main window; F9 puts it away and brings it back.
+void PonerAvisos(Principal& principal, Sesion& sesion) {
+    auto* fondo = principal.centralWidget();
+    auto* avisos = new PanelAvisos(sesion, fondo);
+    avisos->alAbrir = [&principal, &sesion](double idVaca) {
+        Abrir(principal, [&] { return FichaDeHecho(principal, sesion, {FichaDe::Vaca, idVaca, {}}); });
+    };
+    auto* sitio = new QVBoxLayout(fondo);
+    sitio->setContentsMargins(24, 24, 24, 24);
+    sitio->addWidget(avisos);
+    QObject::connect(new QShortcut(Qt::Key_F9, &principal), &QShortcut::activated, avisos,
+                     [avisos] { avisos->Cerrar(!avisos->Cerrado()); });
+    QObject::connect(&principal, &Principal::Activada, avisos, &PanelAvisos::Refrescar);
+}
+
 } // namespace
 
 void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& informe) {
@@ -60,7 +157,15 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     };
     principal.Vincular(QStringLiteral("Menu_Herr(1)"), listado(1));
     principal.Vincular(QStringLiteral("Menu_Herr(2)"), listado(2));
-    const auto formulario = [&](const char* orden, std::function<QDialog*()> hacer) {
+    informe.Preguntas.explicar = [&](const QString& clave) {
+        return ExplicarFigura(sesion.conexion, clave.toStdString());
+    };
+    informe.Preguntas.abrirVaca = [&](QWidget* sobre, double vaca) {
+        Vacas ficha(sesion, OrdenesDeCiclos(principal), sobre);
+        ficha.AbrirCon(vaca);
+        ficha.exec();
+    };
+    const auto formulario = [&](const char* orden, const std::function<QDialog*()>& hacer) {
         principal.Vincular(QString::fromUtf8(orden), [&principal, hacer] { Abrir(principal, hacer); });
     };
     formulario("Mnu_Veterinarios", [&] { return new Veterinarios(sesion, &principal); });
@@ -71,7 +176,11 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     QObject::connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_I), &principal), &QShortcut::activated,
                      &principal,
                      [&] { Abrir(principal, [&] { return new FichaIPR(sesion, {}, &principal); }); });
-    formulario("Mnu_IndicesTecnicos", [&] { return new Lst_IndicesTecnicos(sesion, informe, &principal); });
+    for (const auto& e : CatalogoDeInformes())
+        formulario(e.orden, [&, crear = e.crear] { return crear(sesion, informe, &principal); });
+    VincularIntercambio(principal, sesion);
+    PonerAvisos(principal, sesion);
+    PonerHoy(principal, sesion);
 }
 
 } // namespace pastorix

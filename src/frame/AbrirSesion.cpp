@@ -44,9 +44,7 @@ public:
 
     void TerminarAvance() override { m_ciclo.reset(); }
 
-    FuncionAvance AvanceDeConversion() override {
-        return AvanceTardio(m_formulario, QStringLiteral("Preparando la base de datos..."));
-    }
+    FuncionAvance AvanceSiTarda(const QString& texto) override { return AvanceTardio(m_formulario, texto); }
 
 private:
     QWidget* m_formulario;

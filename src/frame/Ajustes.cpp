@@ -30,7 +30,13 @@ QVariant AjusteDeVentana(const QString& clave) {
 }
 
 void GuardarAjusteDeVentana(const QString& clave, const QVariant& valor) {
-    QSettings(Organizacion, Ventanas).setValue(clave, valor);
+    GuardarAjustesDeVentana({{clave, valor}});
+}
+
+void GuardarAjustesDeVentana(const QVariantMap& valores) {
+    QSettings almacen(Organizacion, Ventanas);
+    for (auto it = valores.begin(); it != valores.end(); ++it)
+        almacen.setValue(it.key(), it.value());
 }
 
 } // namespace pastorix

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QVariant>
+#include <QVariantMap>
 
 namespace pastorix {
 
@@ -16,5 +17,7 @@ bool SaveSetting(const QString& clave, const QString& valor);
 // How the user left the program's windows: sizes, widths, what was chosen last. Kept in a file of its own, so that it can be thrown away.
 QVariant AjusteDeVentana(const QString& clave);
 void GuardarAjusteDeVentana(const QString& clave, const QVariant& valor);
+// Several of one window: the file is written once.
+void GuardarAjustesDeVentana(const QVariantMap& valores);
 
 } // namespace pastorix

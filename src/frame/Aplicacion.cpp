@@ -1,5 +1,6 @@
 #include "frame/Aplicacion.h"
 
+#include "frame/Colores.h"
 #include "frame/Iconos.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@ void PrepararAplicacion(QApplication& aplicacion) {
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
 
+    CuidarPistas(aplicacion);
     auto* traductor = new QTranslator(&aplicacion);
     if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(traductor);

@@ -1,9 +1,13 @@
 #include "frame/Arranque.h"
 
+#include "frame/AvisosDeBase.h"
+#include "frame/Cerrojo.h"
 #include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "frame/Mudanza.h"
 #include "frame/calendario/Calendario.h"
+#include "store/Ficheros.h"
+#include "store/Reemplazo.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -18,27 +22,43 @@ struct FinAvisado {};
 const QString NombreBases = QStringLiteral("Base de Datos");
 const QString NombreInformes = QStringLiteral("Informes");
 
-void TomarCerrojo(Sesion& sesion) {
+void Ocupar(Sesion& sesion) {
     const QString carpeta = sesion.rutas.Programa();
     if (!QFileInfo(carpeta).isDir())
         return; // nothing to share; the missing files are told in a moment
-    auto cerrojo = std::make_unique<QLockFile>(carpeta + QStringLiteral("/pastorix.lock"));
-    cerrojo->setStaleLockTime(0); // age alone is no reason: sessions last for days
-    if (!cerrojo->tryLock(0)) {
-        if (cerrojo->error() == QLockFile::LockFailedError) {
-            Avisar(nullptr, TipoMensaje::Atencion, QStringLiteral("Atención"),
-                   QStringLiteral("Pastorix ya está abierto en esta carpeta: ") +
-                       QDir::toNativeSeparators(carpeta));
-            throw FinAvisado{};
-        }
-        throw ErrorDeEjecucion(75, "Error de acceso a la ruta o al archivo: " +
-                                       cerrojo->fileName().toStdString());
-    }
-    sesion.cerrojo = std::move(cerrojo);
+    sesion.cerrojo = TomarCerrojo(carpeta);
+    if (!sesion.cerrojo)
+        throw FinAvisado{};
+}
+
+// What a conversion or a copy left that was killed. The folder is ours alone.
+void Limpiar(const Rutas& rutas) {
+    for (const QString& base : {rutas.BasePrincipal(), rutas.BasePersonal(), rutas.BaseToros()})
+        QuitarSegundosNombres(Ruta(base.toStdString()), Ruta(rutas.BackUp().toStdString()));
+    for (const QString& carpeta : {rutas.Programa(), rutas.BaseDeDatos(), rutas.BackUp(), rutas.Temp()})
+        LimpiarTemporales(Ruta(carpeta.toStdString()));
+}
+
+// An import that was killed, or that failed and was not tried again, leaves its copies. The databases themselves are whole: one takes the
+// other's place at a stroke.
+void AvisarDeLoInacabado(const Rutas& rutas) {
+    QDir temp(rutas.Temp());
+    const auto restos = temp.entryList({QStringLiteral("Imp_Cli_*.mdb*"), QStringLiteral("xPradalC.mdb*"),
+                                        QStringLiteral("xImportar*.mdb*")},
+                                       QDir::Files, QDir::Name);
+    if (restos.isEmpty())
+        return;
+    for (const auto& resto : restos)
+        temp.remove(resto);
+    Avisar(
+        nullptr, TipoMensaje::Informacion, QStringLiteral("Información"),
+        QStringLiteral("Una importación quedó sin terminar (%1). La base de datos está entera, como antes de "
+                       "ella o con ella hecha. Si no consta en el historial, repítala: no se pierde nada.")
+            .arg(restos.join(QStringLiteral(", "))));
 }
 
 void ColocarBases(const Rutas& rutas) {
-    const QString programa = rutas.Programa();
+    const QString& programa = rutas.Programa();
     QStringList ficheros;
     for (const QString& base : BasesEntregadas()) {
         const QString fichero = BuscarSinCaja(programa, base);
@@ -54,7 +74,7 @@ void ColocarBases(const Rutas& rutas) {
 }
 
 void ColocarInformes(const Rutas& rutas) {
-    const QString programa = rutas.Programa();
+    const QString& programa = rutas.Programa();
     QStringList ficheros;
     const QDir carpeta(programa);
     for (const QString& informe : carpeta.entryList({QStringLiteral("*.rpt")}, QDir::Files | QDir::Hidden))
@@ -79,28 +99,47 @@ void DeclararOrigenes(Sesion& sesion) {
     DeclararOrigen(sesion, "OD_TOROS", sesion.rutas.BaseToros());
 }
 
-void Inesperado(long numero, const char* descripcion) {
-    AvisarErrorInesperado(nullptr, numero, QString::fromUtf8(descripcion));
+void Inesperado(long numero, const std::exception& error) {
+    AvisarErrorInesperado(nullptr, numero, QString::fromUtf8(error.what()), DetalleDe(error));
 }
 
 void AvisarErrorDeAlmacen(const ErrorAlmacen& error) {
     constexpr long origenDesconocido = 3120;
     if (error.Codigo() == CodigoError::NoSePuedeAbrir || error.Numero() == origenDesconocido)
-        AvisarErrorDeAcceso(nullptr, QString::fromUtf8(error.what()));
+        AvisarErrorDeAcceso(nullptr, error);
     else
-        Inesperado(error.Numero(), error.what());
+        Inesperado(error.Numero(), error);
+}
+
+// A database that is beyond opening may come back from a safety copy.
+void AbrirPrincipal(Sesion& sesion, const FuncionAvance& avance) {
+    try {
+        AbrirConexion(sesion, avance);
+    } catch (const ErrorAlmacen& error) {
+        AvisarErrorDeAlmacen(error);
+        if (!OfrecerCopia(sesion, sesion.rutas.BasePrincipal(), nullptr,
+                          [&](const QString&) { return avance; }))
+            throw FinAvisado{};
+        AbrirConexion(sesion, avance);
+    }
 }
 
 } // namespace
 
 bool Arrancar(Sesion& sesion, const FuncionAvance& avance) {
-    FijarAvisoDeErrorDeFecha(
-        [](long numero, const std::string& texto) { Inesperado(numero, texto.c_str()); });
+    FijarAvisoDeErrorDeFecha([](long numero, const std::string& texto) {
+        AvisarErrorInesperado(nullptr, numero, QString::fromStdString(texto));
+    });
     try {
-        TomarCerrojo(sesion);
+        Ocupar(sesion);
+        if (sesion.cerrojo) {
+            Limpiar(sesion.rutas);
+            AvisarDeLoInacabado(sesion.rutas);
+        }
         PrepararCarpetas(sesion.rutas);
         DeclararOrigenes(sesion);
-        AbrirConexion(sesion, avance);
+        AbrirPrincipal(sesion, avance);
+        AvisarColumnasAñadidas(sesion, nullptr);
         sesion.TextosBoton = {"Añadir", "Modificar", "Eliminar", "Guardar", "Cancelar", "..."};
         sesion.VersionPrograma = "Pastorix (3.09)";
         return true;
@@ -108,10 +147,10 @@ bool Arrancar(Sesion& sesion, const FuncionAvance& avance) {
     } catch (const ErrorAlmacen& error) {
         AvisarErrorDeAlmacen(error);
     } catch (const ErrorDeEjecucion& error) {
-        Inesperado(error.Numero(), error.what());
+        Inesperado(error.Numero(), error);
     } catch (const std::exception& error) {
         constexpr long errorInterno = 51;
-        Inesperado(errorInterno, error.what());
+        Inesperado(errorInterno, error);
     }
     sesion.cerrojo.reset();
     return false;

@@ -1,6 +1,8 @@
 #include "frame/ControlEquipos.h"
 
 #include "frame/Mensajes.h"
+#include "frame/Tablas.h"
+#include "frame/Ventanas.h"
 #include "store/Recordset.h"
 
 #include <QHeaderView>
@@ -33,34 +35,29 @@ ControlEquipos::ControlEquipos(const std::vector<std::array<std::string, 3>>& fi
     rejilla->setAccessibleName(windowTitle());
     rejilla->setHorizontalHeaderLabels(
         {QStringLiteral("Veterinario"), QStringLiteral("Nombre"), QStringLiteral("Apellidos")});
-    rejilla->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    rejilla->setSelectionBehavior(QAbstractItemView::SelectRows);
-    rejilla->setSelectionMode(QAbstractItemView::SingleSelection);
-    rejilla->setAlternatingRowColors(true);
-    rejilla->setTabKeyNavigation(false);
-    rejilla->verticalHeader()->hide();
+    VestirTabla(*rejilla);
     for (int fila = 0; fila < rejilla->rowCount(); ++fila)
         for (int columna = 0; columna < 3; ++columna)
             rejilla->setItem(fila, columna,
                              new QTableWidgetItem(QString::fromStdString(
                                  filas[static_cast<std::size_t>(fila)][static_cast<std::size_t>(columna)])));
+    OrdenarPorTitulos(*rejilla);
     if (!filas.empty())
         rejilla->setCurrentCell(0, 0); // screen readers want a current cell
     rejilla->horizontalHeader()->setDefaultSectionSize(190);
-    rejilla->horizontalHeader()->setStretchLastSection(true);
     rejilla->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
     auto* columna = new QVBoxLayout(this);
     columna->addWidget(rejilla);
     resize(620, 420);
+    RecordarVentana(*this);
 }
 
 void MostrarControlEquipos(Sesion& sesion, QWidget* padre) {
     try {
         ControlEquipos(RelacionDeDistribucion(sesion.conexion), padre).exec();
     } catch (const ErrorAlmacen& error) {
-        Avisar(padre, TipoMensaje::Atencion, QStringLiteral("Atención..."),
-               QString::number(error.Numero()) + QStringLiteral(" ... ") + QString::fromUtf8(error.what()));
+        AvisarFallo(padre, QStringLiteral("Atención..."), error.Numero(), error);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "frame/Entrada.h"
 
+#include "frame/AvisosDeBase.h"
 #include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "frame/PuestaAlDia.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <initializer_list>
 #include <string>
@@ -17,14 +19,21 @@ namespace pastorix {
 
 namespace {
 
-// Runs one step of the entry; its failure does not keep the next from running.
+// Runs one step of the entry; its failure does not keep the next from running. Only a failure of the file itself (lock, disk,
+// read-only) is told, below the text; false then.
 template <typename F>
-void SinFallo(F&& paso) {
+bool SinFallo(InterfazDeEntrada& interfaz, const char* texto, F&& paso) {
     try {
         paso();
-    } catch (const ErrorAlmacen&) {
-    } catch (const ErrorDeEjecucion&) {
+    } catch (const ErrorAlmacen& error) {
+        if (!error.DelFichero())
+            return true;
+        Avisar(interfaz.Ventana(), TipoMensaje::Atencion, QStringLiteral("Atención"),
+               QString::fromUtf8(texto), QString::fromUtf8(error.what()), DetalleDe(error));
+        return false;
+    } catch (const ErrorDeEjecucion&) { // a data source that is not taken
     }
+    return true;
 }
 
 void MostrarVarias(InterfazDeEntrada& interfaz, std::initializer_list<const char*> ordenes, bool visible) {
@@ -42,17 +51,33 @@ bool EnBase(const Sesion& sesion, const QString& fichero) {
     return origen && origen->fichero == fichero.toStdString() && sesion.conexion.Abierta();
 }
 
+HacerAvance AvancesDe(InterfazDeEntrada& interfaz) {
+    return [&interfaz](const QString& texto) { return interfaz.AvanceSiTarda(texto); };
+}
+
 // Points OD_PRADALC at the file and opens the connection on it. False when it does not open; the cause has been told.
 bool CambiarDeBase(Sesion& sesion, const QString& fichero, std::string_view nombreEnError,
                    InterfazDeEntrada& interfaz) {
-    SinFallo([&] { DeclararOrigen(sesion, "OD_PRADALC", fichero, nombreEnError); });
-    try {
-        AbrirConexion(sesion, interfaz.AvanceDeConversion());
-        return true;
-    } catch (const std::exception& error) {
-        AvisarErrorDeAcceso(interfaz.Ventana(), QString::fromUtf8(error.what()));
-        return false;
-    }
+    SinFallo(interfaz, "", [&] { DeclararOrigen(sesion, "OD_PRADALC", fichero, nombreEnError); });
+    const auto abrir = [&] {
+        try {
+            AbrirConexion(sesion, interfaz.AvanceSiTarda(QStringLiteral("Preparando la base de datos...")));
+            AvisarColumnasAñadidas(sesion, interfaz.Ventana());
+            return true;
+        } catch (const std::exception& error) {
+            AvisarErrorDeAcceso(interfaz.Ventana(), error);
+            return false;
+        }
+    };
+    return abrir() || (OfrecerCopia(sesion, fichero, interfaz.Ventana(), AvancesDe(interfaz)) && abrir());
+}
+
+// Looks for damage. False when the file does not let itself be looked at, which has been told.
+bool Vigilar(Sesion& sesion, InterfazDeEntrada& interfaz) {
+    const bool hecho = SinFallo(interfaz, "No se ha podido comprobar la base de datos",
+                                [&] { VigilarBase(sesion, interfaz.Ventana(), AvancesDe(interfaz)); });
+    interfaz.MostrarSoloLectura(sesion.conexion.SoloLectura());
+    return hecho && sesion.conexion.Abierta();
 }
 
 bool EntrarEnPrincipal(Sesion& sesion, InterfazDeEntrada& interfaz) {
@@ -84,24 +109,20 @@ bool HayFilas(Conexion& conexion, const std::string& sentencia) {
     return !Recordset(conexion, sentencia).Eof();
 }
 
-// The mode of that user and password, "" for none. A statement that fails (an apostrophe in what was typed) finds nobody.
+// The mode of that user and password, "" for none.
 std::string BuscarModo(Conexion& conexion, const QString& usuario, const QString& clave) {
     if ((usuario.toUpper() == QLatin1String("VETERINARIO") || usuario.isEmpty()) && clave.isEmpty())
         return "VETERINARIO";
-    std::string modo;
-    SinFallo([&] {
-        if (clave.isEmpty()) {
-            if (HayFilas(conexion,
-                         "Select * FROM T_Veterinarios WHERE Usuario = " + TextoSql(usuario.toStdString())))
-                modo = "VETERINARIO";
-        } else if (!usuario.isEmpty()) {
-            if (HayFilas(conexion, "Select * FROM Claves WHERE NIVEL = 'CENTRAL' AND Usuario = " +
-                                       TextoSql(usuario.toStdString()) +
-                                       " AND Clave = " + TextoSql(clave.toStdString())))
-                modo = "CENTRAL";
-        }
-    });
-    return modo;
+    if (clave.isEmpty())
+        return HayFilas(conexion,
+                        "Select * FROM T_Veterinarios WHERE Usuario = " + TextoSql(usuario.toStdString()))
+                   ? "VETERINARIO"
+                   : "";
+    const bool central = !usuario.isEmpty() &&
+                         HayFilas(conexion, "Select * FROM Claves WHERE NIVEL = 'CENTRAL' AND Usuario = " +
+                                                TextoSql(usuario.toStdString()) +
+                                                " AND Clave = " + TextoSql(clave.toStdString()));
+    return central ? "CENTRAL" : "";
 }
 
 void PonerModoVeterinario(Sesion& sesion, const QString& usuario, InterfazDeEntrada& interfaz) {
@@ -130,15 +151,20 @@ void AbrirAños(Sesion& sesion, InterfazDeEntrada& interfaz) {
     if (!interfaz.PreguntarAñosNaturales())
         return;
     const FuncionAvance avance = interfaz.EmpezarAvance(QStringLiteral("Inicializando Aplicación..."));
-    SinFallo([&] { InicializarAñosNaturales(sesion.conexion, avance); });
-    interfaz.TerminarAvance();
+    const auto fin = qScopeGuard([&] { interfaz.TerminarAvance(); });
+    SinFallo(interfaz, "No se han podido abrir todas las filas del año natural",
+             [&] { InicializarAñosNaturales(sesion.conexion, avance); });
 }
 
 } // namespace
 
 bool ComprobarSesion(Sesion& sesion, const QString& usuario, const QString& clave,
                      InterfazDeEntrada& interfaz) {
-    sesion.ModoSesion = BuscarModo(sesion.conexion, usuario, clave);
+    sesion.ModoSesion.clear();
+    // A statement that fails for what was typed (an apostrophe) finds nobody.
+    if (!SinFallo(interfaz, "No se ha podido comprobar el usuario",
+                  [&] { sesion.ModoSesion = BuscarModo(sesion.conexion, usuario, clave); }))
+        return false;
     if (sesion.ModoSesion.empty()) {
         Avisar(interfaz.Ventana(), TipoMensaje::Informacion, QStringLiteral("Adios"),
                QStringLiteral("Usuario No Autorizado"));
@@ -156,12 +182,17 @@ bool EntrarEnBase(Sesion& sesion, int indice, const QString& usuario, const QStr
     sesion.BaseElegida = indice == 0 ? 0 : 1;
     if (!(indice == 0 ? EntrarEnPrincipal(sesion, interfaz) : EntrarEnPersonal(sesion, interfaz)))
         return false;
-    if (!ComprobarSesion(sesion, usuario, clave, interfaz))
+    if (!Vigilar(sesion, interfaz) || !ComprobarSesion(sesion, usuario, clave, interfaz))
         return false;
     CrearSiFalta(sesion.rutas.Temp());
     CrearSiFalta(sesion.rutas.BackUp());
-    SinFallo([&] { PasarVersion(sesion.conexion, sesion.BaseElegida); });
-    SinFallo([&] { Reparar(sesion.conexion); });
+    if (sesion.conexion.SoloLectura())
+        return true;
+    SinFallo(interfaz, "No se ha podido poner al día la base de datos; se intentará en la próxima entrada",
+             [&] {
+                 PasarVersion(sesion.conexion, sesion.BaseElegida);
+                 Reparar(sesion.conexion);
+             });
     AbrirAños(sesion, interfaz);
     return true;
 }

@@ -28,13 +28,17 @@ public:
     // A work that shows its progress. Between both calls avance is called with done and total.
     virtual FuncionAvance EmpezarAvance(const QString& /*texto*/) { return {}; }
     virtual void TerminarAvance() {}
-    // Follows the conversion of an Access file, which is over in a moment or takes some time.
-    virtual FuncionAvance AvanceDeConversion() { return {}; }
+    // Follows a work that is over in a moment or takes some time: the conversion of an Access file, the look for damage.
+    virtual FuncionAvance AvanceSiTarda(const QString& /*texto*/) { return {}; }
+    // The database is damaged and open to be looked at only, or not.
+    virtual void MostrarSoloLectura(bool /*soloLectura*/) {}
 };
 
 // Enters the main (0) or the personal (1) database with what was typed. True when the session is open: the login form
 // goes and Principal comes. False: nobody entered, the form stays as it is and a second attempt may take the other entry.
-// Failures on the way are swallowed, but for a personal database that does not open: that one is told and ends the attempt.
+// A database that is found damaged is told, and restored from a safety copy or entered to be looked at only: then nothing of it is
+// repaired. Failures on the way are swallowed, but for a personal database that does not open, which ends the attempt, and for failures of
+// the file itself (lock, disk, read-only): those are told.
 bool EntrarEnBase(Sesion& sesion, int indice, const QString& usuario, const QString& clave,
                   InterfazDeEntrada& interfaz);
 

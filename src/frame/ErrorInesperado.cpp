@@ -17,14 +17,15 @@ QString TextoErrorInesperado(long numero, const QString& descripcion) {
     return lineas.join(QLatin1Char('\r'));
 }
 
-void AvisarErrorInesperado(QWidget* padre, long numero, const QString& descripcion) {
+void AvisarErrorInesperado(QWidget* padre, long numero, const QString& descripcion, const QString& detalle) {
     Avisar(padre, TipoMensaje::Atencion, QStringLiteral(" Error inesperado"),
-           TextoErrorInesperado(numero, descripcion));
+           TextoErrorInesperado(numero, descripcion), {}, detalle);
 }
 
-void AvisarErrorDeAcceso(QWidget* padre, const QString& causa) {
+void AvisarErrorDeAcceso(QWidget* padre, const std::exception& causa) {
     Avisar(padre, TipoMensaje::Atencion, QStringLiteral(" Error de acceso"),
-           QStringLiteral("El origen ODBC o la clave de acceso a la Base de datos es incorrecta"), causa);
+           QStringLiteral("El origen ODBC o la clave de acceso a la Base de datos es incorrecta"),
+           QString::fromUtf8(causa.what()), DetalleDe(causa));
 }
 
 } // namespace pastorix

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <exception>
+
 class QWidget;
 
 namespace pastorix {
@@ -10,9 +12,10 @@ namespace pastorix {
 QString TextoErrorInesperado(long numero, const QString& descripcion);
 
 // Shows that box. Only the start of the program and the date check print it.
-void AvisarErrorInesperado(QWidget* padre, long numero, const QString& descripcion);
+void AvisarErrorInesperado(QWidget* padre, long numero, const QString& descripcion,
+                           const QString& detalle = {});
 
 // The box " Error de acceso" of a database that does not open; the cause stands below the fixed text.
-void AvisarErrorDeAcceso(QWidget* padre, const QString& causa);
+void AvisarErrorDeAcceso(QWidget* padre, const std::exception& causa);
 
 } // namespace pastorix

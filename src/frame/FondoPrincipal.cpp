@@ -1,5 +1,7 @@
 #include "frame/FondoPrincipal.h"
 
+#include "frame/Colores.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -9,12 +11,6 @@ namespace pastorix {
 namespace {
 
 const QColor Verde(63, 143, 91);
-
-QColor Mezcla(const QColor& fondo, const QColor& tinte, double parte) {
-    const auto canal = [&](int a, int b) { return static_cast<int>(a + (b - a) * parte); };
-    return QColor(canal(fondo.red(), tinte.red()), canal(fondo.green(), tinte.green()),
-                  canal(fondo.blue(), tinte.blue()));
-}
 
 // A hill across the width: heights at both ends and at the middle, as parts of the height.
 QPainterPath Loma(const QRectF& z, double izquierda, double medio, double derecha) {

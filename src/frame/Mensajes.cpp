@@ -1,7 +1,11 @@
 #include "frame/Mensajes.h"
 
+#include "store/Errores.h"
+
+#include <QAccessible>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -25,13 +29,14 @@ bool Responder(const Mensaje& mensaje, Respuesta& respuesta) {
         return true;
     }
     if (QStandardPaths::isTestModeEnabled()) {
-        qCritical("unanswered box: [%s] %s %s", qUtf8Printable(mensaje.titulo), qUtf8Printable(mensaje.texto),
+        qCritical("unanswered box: [%s] %s %s %s", qUtf8Printable(mensaje.titulo),
+                  qUtf8Printable(mensaje.texto), qUtf8Printable(mensaje.causa),
                   qUtf8Printable(mensaje.detalle));
         return true;
     }
     if (!HayVentanas()) {
         qWarning("%s: %s %s", qUtf8Printable(mensaje.titulo.trimmed()), qUtf8Printable(mensaje.texto),
-                 qUtf8Printable(mensaje.detalle));
+                 qUtf8Printable(mensaje.causa));
         return true;
     }
     return false;
@@ -63,7 +68,8 @@ void Preparar(QMessageBox& caja, const Mensaje& mensaje) {
     caja.setWindowTitle(mensaje.titulo);
     caja.setTextFormat(Qt::PlainText); // names and paths of the user are no markup
     caja.setText(Lineas(mensaje.texto));
-    caja.setInformativeText(Lineas(mensaje.detalle));
+    caja.setInformativeText(Lineas(mensaje.causa));
+    caja.setDetailedText(mensaje.detalle);
 }
 
 } // namespace
@@ -73,21 +79,38 @@ Respondedor InstalarRespondedor(Respondedor respondedor) {
 }
 
 int Avisar(QWidget* padre, TipoMensaje tipo, const QString& titulo, const QString& texto,
-           const QString& detalle) {
-    const Mensaje mensaje{Mensaje::Clase::Aviso, tipo, titulo, texto, detalle, {}, {}};
+           const QString& causa, const QString& detalle) {
+    const Mensaje mensaje{Mensaje::Clase::Aviso, tipo, titulo, texto, causa, detalle, {}, {}};
     if (Respuesta respuesta; !Responder(mensaje, respuesta)) {
         QMessageBox caja(padre);
         Preparar(caja, mensaje);
         // Own captions, not standard buttons: those follow the system's language.
-        caja.setDefaultButton(caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole));
+        QPushButton* aceptar = caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole);
+        caja.setDefaultButton(aceptar);
+        caja.setEscapeButton(aceptar);
         caja.exec();
     }
     return 1;
 }
 
+QString DetalleDe(const std::exception& error) {
+    const auto* conDetalle = dynamic_cast<const ErrorConDetalle*>(&error);
+    return conDetalle ? QString::fromStdString(conDetalle->Detalle()) : QString();
+}
+
+void AvisarFallo(QWidget* padre, const QString& titulo, const std::exception& error) {
+    Avisar(padre, TipoMensaje::Atencion, titulo, QString::fromUtf8(error.what()), {}, DetalleDe(error));
+}
+
+void AvisarFallo(QWidget* padre, const QString& titulo, long numero, const std::exception& error) {
+    Avisar(padre, TipoMensaje::Atencion, titulo,
+           QString::number(numero) + QStringLiteral(" ... ") + QString::fromUtf8(error.what()), {},
+           DetalleDe(error));
+}
+
 bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto, TipoMensaje tipo,
-               bool porDefectoSi) {
-    const Mensaje mensaje{Mensaje::Clase::Pregunta, tipo, titulo, texto, {}, {}, {}};
+               bool porDefectoSi, const QString& detalle) {
+    const Mensaje mensaje{Mensaje::Clase::Pregunta, tipo, titulo, texto, {}, detalle, {}, {}};
     if (Respuesta respuesta; Responder(mensaje, respuesta))
         return respuesta.si;
     QMessageBox caja(padre);
@@ -101,8 +124,14 @@ bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto, Tipo
 }
 
 AntesDeDejar PreguntarGuardar(QWidget* padre, const QString& texto) {
-    const Mensaje mensaje{
-        Mensaje::Clase::AntesDeDejar, TipoMensaje::Pregunta, QStringLiteral("Atención"), texto, {}, {}, {}};
+    const Mensaje mensaje{Mensaje::Clase::AntesDeDejar,
+                          TipoMensaje::Pregunta,
+                          QStringLiteral("Atención"),
+                          texto,
+                          {},
+                          {},
+                          {},
+                          {}};
     if (Respuesta respuesta; Responder(mensaje, respuesta))
         return respuesta.antesDeDejar;
     QMessageBox caja(padre);
@@ -118,13 +147,21 @@ AntesDeDejar PreguntarGuardar(QWidget* padre, const QString& texto) {
 }
 
 void AvisarError(QWidget* padre, const std::exception& error) {
-    Avisar(padre, TipoMensaje::Atencion, QStringLiteral("Atención"), QString::fromUtf8(error.what()));
+    AvisarFallo(padre, QStringLiteral("Atención"), error);
+}
+
+void Decir(QLabel& rotulo, const QString& texto) {
+    if (texto == rotulo.text())
+        return;
+    rotulo.setText(texto);
+    QAccessibleEvent dicho(&rotulo, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&dicho);
 }
 
 QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
                              const QString& filtro) {
     const Mensaje mensaje{
-        Mensaje::Clase::FicheroGuardar, TipoMensaje::Pregunta, titulo, {}, {}, propuesta, filtro};
+        Mensaje::Clase::FicheroGuardar, TipoMensaje::Pregunta, titulo, {}, {}, {}, propuesta, filtro};
     if (Respuesta respuesta; Responder(mensaje, respuesta))
         return respuesta.fichero;
     QFileDialog selector(padre, titulo, propuesta, filtro);

@@ -5,6 +5,7 @@
 #include <exception>
 #include <functional>
 
+class QLabel;
 class QWidget;
 
 namespace pastorix {
@@ -22,7 +23,8 @@ struct Mensaje {
     TipoMensaje tipo = TipoMensaje::Informacion;
     QString titulo;
     QString texto;
-    QString detalle;   // the cause, where the fixed text does not tell it
+    QString causa;     // stands below the text, where a fixed text does not tell it
+    QString detalle;   // for a technician; the box shows it on demand
     QString propuesta; // FicheroGuardar: proposed path
     QString filtro;    // FicheroGuardar: "Documento PDF (*.pdf)"
 };
@@ -41,19 +43,30 @@ using Respondedor = std::function<Respuesta(const Mensaje&)>;
 // Installs who answers instead of windows and returns the former one; an empty function brings the windows back.
 Respondedor InstalarRespondedor(Respondedor respondedor);
 
-// A box with one button, Aceptar. Returns 1, the number of that button.
+// A box with one button, Aceptar, and one that opens the detail if there is any. Returns 1, the number of the first.
 int Avisar(QWidget* padre, TipoMensaje tipo, const QString& titulo, const QString& texto,
-           const QString& detalle = {});
+           const QString& causa = {}, const QString& detalle = {});
+
+// The box of a failure: what it says, and its detail. The second one writes its number and " ... " before.
+void AvisarFallo(QWidget* padre, const QString& titulo, const std::exception& error);
+void AvisarFallo(QWidget* padre, const QString& titulo, long numero, const std::exception& error);
+
+// What a failure keeps for a technician; "" when it has nothing.
+QString DetalleDe(const std::exception& error);
 
 // A box with Sí and No; true on Sí. No is the default button and what Escape gives, unless porDefectoSi.
 bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto,
-               TipoMensaje tipo = TipoMensaje::Pregunta, bool porDefectoSi = false);
+               TipoMensaje tipo = TipoMensaje::Pregunta, bool porDefectoSi = false,
+               const QString& detalle = {});
 
 // A box with Guardar, Descartar and Cancelar, the last being what Escape gives.
 AntesDeDejar PreguntarGuardar(QWidget* padre, const QString& texto);
 
 // A failure in an exclamation box "Atención".
 void AvisarError(QWidget* padre, const std::exception& error);
+
+// A word in passing, without a box: onto a label of the window, and to screen readers.
+void Decir(QLabel& rotulo, const QString& texto);
 
 // Asks where to write a file, asking before an existing one is replaced; "" when cancelled.
 QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,

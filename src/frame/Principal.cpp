@@ -6,6 +6,7 @@
 #include "frame/Iconos.h"
 #include "frame/Manual.h"
 #include "frame/OrdenesPrincipal.h"
+#include "frame/Ventanas.h"
 #include "frame/calendario/Reloj.h"
 #include "store/Literales.h"
 
@@ -17,7 +18,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -43,8 +43,8 @@ Principal::Principal(Sesion& sesion)
     Activar(QStringLiteral("MnuT"), false);
 
     setMinimumSize(480, 320);
-    const QSize libre = screen() ? screen()->availableSize() : QSize(1280, 720);
-    resize(QSize(1180, 660).boundedTo(libre * 0.95));
+    resize(1180, 660);
+    RecordarVentanaMaximizada(*this);
 }
 
 void Principal::CrearMenus() {
@@ -106,7 +106,21 @@ void Principal::CrearPaneles() {
     m_panelFecha->setObjectName(QStringLiteral("StatusBar1.Panel(2)"));
     m_panelFecha->setAccessibleName(QStringLiteral("Fecha"));
     statusBar()->addWidget(m_panelModo, 1);
+    m_soloLectura = new QLabel(QStringLiteral("Base de datos dañada: solo lectura"), this);
+    m_soloLectura->setObjectName(QStringLiteral("SoloLectura"));
+    m_soloLectura->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
+    m_soloLectura->setToolTip(
+        QStringLiteral("Se puede consultar, imprimir y exportar; nada de lo que se anote se "
+                       "guarda. Al entrar de nuevo se ofrece restaurar una copia."));
+    statusBar()->addPermanentWidget(m_soloLectura);
+    m_soloLectura->hide();
     statusBar()->addPermanentWidget(m_panelFecha);
+    m_peligro = new QLabel(this);
+    m_peligro->setObjectName(QStringLiteral("Peligro"));
+    m_peligro->setTextFormat(Qt::PlainText);
+    m_peligro->setStyleSheet(QStringLiteral("color: white; background: #b00020; padding: 1px 6px"));
+    statusBar()->addPermanentWidget(m_peligro);
+    m_peligro->hide();
     AjustarPaneles();
 }
 
@@ -155,6 +169,9 @@ void Principal::Ejecutar(const QString& nombre) {
 
 void Principal::Refrescar(const QString& nombre) {
     const Estado& estado = m_ordenes.at(nombre);
+    // A menu is a widget: disabled itself, it does not come back with the window that the login enables again.
+    if (const auto menu = m_menus.find(nombre); menu != m_menus.end())
+        menu->second->setEnabled(estado.activa);
     estado.accion->setEnabled(estado.activa && (!estado.necesitaOrden || estado.orden));
 }
 
@@ -179,6 +196,19 @@ void Principal::ActivarBoton(int boton, bool activo) {
 
 void Principal::FijarPanel(const QString& texto) {
     m_panelModo->setText(texto);
+}
+
+void Principal::MostrarSoloLectura(bool soloLectura) {
+    m_soloLectura->setVisible(soloLectura);
+}
+
+void Principal::MostrarPeligro(const QString& texto) {
+    m_peligro->setText(texto);
+    m_peligro->setVisible(!texto.isEmpty());
+}
+
+QString Principal::Peligro() const {
+    return m_peligro->text();
 }
 
 QString Principal::Panel() const {
@@ -214,6 +244,8 @@ void Principal::changeEvent(QEvent* evento) {
     // Sessions last for days: the date is looked at whenever the user comes back to the window.
     if (evento->type() == QEvent::ActivationChange || evento->type() == QEvent::FontChange)
         AjustarPaneles();
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow())
+        Q_EMIT Activada();
 }
 
 const char* Principal::TipoDePanel() {

@@ -34,6 +34,12 @@ public:
     // Text of panel 1 of the status bar: the mode.
     void FijarPanel(const QString& texto);
     QString Panel() const;
+    // A sign in the status bar that the database is open to be looked at only.
+    void MostrarSoloLectura(bool soloLectura);
+    // What the user must not overlook as long as it lasts, in red: the session stands on a file that is worth nothing, or on none. "" takes
+    // it away.
+    void MostrarPeligro(const QString& texto);
+    QString Peligro() const;
 
     // The action of an entry by its name, nullptr for an unknown one; the action of a toolbar button by its index.
     QAction* Orden(const QString& nombre) const;
@@ -52,6 +58,8 @@ public:
 Q_SIGNALS:
     // The program ends: Mnu_Salir, toolbar button 1, or this window closed.
     void Salida();
+    // It came to the front: what it shows of the database may be old.
+    void Activada();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
@@ -83,6 +91,8 @@ private:
     std::map<int, Estado> m_botones;
     QLabel* m_panelModo = nullptr;
     QLabel* m_panelFecha = nullptr;
+    QLabel* m_soloLectura = nullptr;
+    QLabel* m_peligro = nullptr;
 };
 
 // How an entry reaches a main window: titles, panel, visible and enabled entries. Without the yearly question.
@@ -97,6 +107,7 @@ public:
     void Mostrar(const QString& orden, bool visible) override { m_principal.Mostrar(orden, visible); }
     void Activar(const QString& orden, bool activa) override { m_principal.Activar(orden, activa); }
     void ActivarBoton(int boton, bool activo) override { m_principal.ActivarBoton(boton, activo); }
+    void MostrarSoloLectura(bool soloLectura) override { m_principal.MostrarSoloLectura(soloLectura); }
 
 private:
     Principal& m_principal;

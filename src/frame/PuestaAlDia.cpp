@@ -14,8 +14,7 @@ namespace {
 
 constexpr int VersionActual = 309;
 
-// Statements 6 to 8 rename Desconocida to DemoraServIPR and keep its values. Statements 4 and 12 together leave Null where
-// DescCausaPPal was empty or 0; their order matters.
+// Statements 4 and 12 together leave Null where DescCausaPPal was empty or 0; their order matters.
 constexpr std::array<std::string_view, 13> ListaReparaciones{
     "DELETE FROM T_SERVICIOS WHERE (((N_PARTO) Is Null))",
     "UPDATE T_Cubriciones SET T_Cubriciones.EnfReprod = 0 WHERE (((T_Cubriciones.EnfReprod) Is Null));",
@@ -32,6 +31,28 @@ constexpr std::array<std::string_view, 13> ListaReparaciones{
     "UPDATE T_Cubriciones SET DescCausaPpal= Null WHERE DescCausaPpal ='0'",
     "ALTER TABLE T_Cebo ADD COLUMN Cambiado DOUBLE",
 };
+
+// The statements that rename Desconocida to DemoraServIPR and keep its values. Half of them would lose a column.
+constexpr std::size_t PrimeraDelCambioDeNombre = 5;
+constexpr std::size_t UltimaDelCambioDeNombre = 7;
+
+// A column that is there already, or gone: what the statement is for has been done before.
+bool YaEstaba(const ErrorAlmacen& error) {
+    return error.Codigo() == CodigoError::Restriccion || error.Codigo() == CodigoError::ColumnaDesconocida;
+}
+
+void RepararJuntas(Conexion& conexion, std::span<const std::string_view> sentencias) {
+    TodoONada(conexion, [&] {
+        for (const std::string_view sentencia : sentencias) {
+            try {
+                conexion.Execute(sentencia);
+            } catch (const ErrorAlmacen& error) {
+                if (!YaEstaba(error))
+                    throw;
+            }
+        }
+    });
+}
 
 // Adds the cow's row of the year to one table unless she has one. True when it was added.
 bool AbrirAño(Conexion& conexion, std::string_view tabla, double idGanadero, double idVaca,
@@ -57,11 +78,17 @@ std::span<const std::string_view> Reparaciones() {
 
 void Reparar(Conexion& conexion) {
     EnGrupo(conexion, [&] {
-        for (const std::string_view sentencia : ListaReparaciones) {
+        const std::span lista(ListaReparaciones);
+        for (std::size_t i = 0; i < lista.size();) {
+            const std::size_t cuantas =
+                i == PrimeraDelCambioDeNombre ? UltimaDelCambioDeNombre - PrimeraDelCambioDeNombre + 1 : 1;
             try {
-                conexion.Execute(sentencia);
-            } catch (const ErrorAlmacen&) { // expected of a database that is up to date
+                RepararJuntas(conexion, lista.subspan(i, cuantas));
+            } catch (const ErrorAlmacen& error) {
+                if (error.DelFichero())
+                    throw;
             }
+            i += cuantas;
         }
     });
 }

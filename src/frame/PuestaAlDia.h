@@ -14,7 +14,8 @@ namespace pastorix {
 // already, or gone, makes its statement fail, and that costs nothing.
 std::span<const std::string_view> Reparaciones();
 
-// Runs the repairs, each alone, as one durable unit; a failing one does not keep the next from running.
+// Runs the repairs as one durable unit. A failing one does not keep the next from running, but for a failure of the file itself
+// (lock, disk, read-only): that one ends the list and is thrown. The renaming of a column is whole or not at all.
 void Reparar(Conexion& conexion);
 
 // Upgrades the database of the entry (0 main, 1 personal) when this user's marker "Version_0" or "Version_1" is below 309, and

@@ -11,13 +11,26 @@ void DeclararOrigen(Sesion& sesion, std::string_view nombre, const QString& fich
                                           std::string(nombreEnError.empty() ? nombre : nombreEnError));
 }
 
-void AbrirConexion(Sesion& sesion, const FuncionAvance& avance) {
+namespace {
+
+void Abrir(Sesion& sesion, const std::string& cadena, bool soloLectura, const FuncionAvance& avance) {
     if (sesion.conexion.Abierta())
         sesion.conexion.Cerrar();
     OpcionesApertura opciones;
+    opciones.soloLectura = soloLectura;
     opciones.carpetaBackup = sesion.rutas.BackUp().toStdString();
     opciones.avance = avance;
-    sesion.conexion.Abrir(sesion.origenes, "dsn=OD_PRADALC", ClaveDeBases, opciones);
+    sesion.conexion.Abrir(sesion.origenes, cadena, ClaveDeBases, opciones);
+}
+
+} // namespace
+
+void AbrirConexion(Sesion& sesion, const FuncionAvance& avance) {
+    Abrir(sesion, "dsn=OD_PRADALC", false, avance);
+}
+
+void AbrirConexionEn(Sesion& sesion, const QString& fichero, bool soloLectura, const FuncionAvance& avance) {
+    Abrir(sesion, CadenaDeConexion("OD_PRADALC", fichero.toStdString(), ClaveDeBases), soloLectura, avance);
 }
 
 } // namespace pastorix

@@ -2,6 +2,7 @@
 
 #include "frame/Rutas.h"
 #include "store/Conexion.h"
+#include "store/Diario.h"
 #include "store/Esquema.h"
 #include "store/OrigenesDeDatos.h"
 
@@ -27,7 +28,8 @@ using FuncionAvance = AvanceDeApertura;
 struct Sesion {
     Rutas rutas;
     OrigenesDeDatos origenes;
-    Conexion conexion; // open on OD_PRADALC: the database of the session
+    Conexion conexion;              // open on OD_PRADALC: the database of the session
+    std::unique_ptr<Diario> diario; // of what was changed there since it was opened; none where nobody asks
 
     std::string ModoSesion;       // "", "VETERINARIO", "CENTRAL"
     std::string UsuarioSesion;    // login name; "" for an anonymous veterinarian; "CENTRAL"
@@ -44,6 +46,11 @@ struct Sesion {
 // be told, when the catalogue does not take it.
 void DeclararOrigen(Sesion& sesion, std::string_view nombre, const QString& fichero,
                     std::string_view nombreEnError = {});
+
+// Closes the session's connection if it is open and opens it on another file, for work or to be looked at only; everything that asks the
+// session's connection then reaches that file, until AbrirConexion brings it back. Throws ErrorAlmacen, with the connection closed.
+void AbrirConexionEn(Sesion& sesion, const QString& fichero, bool soloLectura = false,
+                     const FuncionAvance& avance = {});
 
 // Closes the session's connection if it is open and opens it on OD_PRADALC. A database that still is an Access file is converted on
 // the way and its original kept in BackUp; avance, if given, follows that. Throws ErrorAlmacen, with the connection closed.

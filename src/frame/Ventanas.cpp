@@ -41,12 +41,16 @@ QRect Disponible(const QWidget& ventana) {
 
 constexpr int kAnchoMinimo = 16; // of a column; what a settings file has beyond these is rubbish
 constexpr int kAnchoMaximo = 2000;
+const QString kTamaño = QStringLiteral("tamaño");
+const QString kMaximizada = QStringLiteral("maximizada");
 
 class Memoria : public QObject {
 public:
-    explicit Memoria(QWidget& ventana)
+    Memoria(QWidget& ventana, const QString& clave, bool conEstado)
         : QObject(&ventana)
-        , m_ventana(ventana) {
+        , m_ventana(ventana)
+        , m_clave(clave)
+        , m_conEstado(conEstado) {
         ventana.installEventFilter(this);
     }
 
@@ -54,22 +58,35 @@ protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override {
         if (evento->type() == QEvent::Show && !m_vista) {
             m_vista = true;
-            Reponer();
-        } else if (evento->type() == QEvent::Hide && m_vista && !m_ventana.isMaximized()) {
+            ReponerTamaño();
+            ReponerAnchos();
+            if (m_conEstado && AjusteDeVentana(Clave(kMaximizada)).toBool())
+                m_ventana.setWindowState(m_ventana.windowState() | Qt::WindowMaximized);
+        } else if (evento->type() == QEvent::WindowStateChange && m_vista && !m_dimensionada) {
+            ReponerTamaño(); // it opened maximized, and comes out of it
+        } else if (evento->type() == QEvent::Hide && m_vista && !evento->spontaneous()) {
             Guardar();
         }
         return QObject::eventFilter(objeto, evento);
     }
 
 private:
-    QString Clave(const QString& cosa) const { return m_ventana.objectName() + QLatin1Char('/') + cosa; }
+    // A base class may ask for the memory of a window that gets its name later.
+    QString Clave(const QString& cosa) const {
+        return (m_clave.isEmpty() ? m_ventana.objectName() : m_clave) + QLatin1Char('/') + cosa;
+    }
 
-    void Reponer() {
-        const auto sitio = Disponible(m_ventana);
+    void ReponerTamaño() {
+        if (m_ventana.isMaximized() || m_ventana.isMinimized())
+            return;
+        m_dimensionada = true;
         const QSize marco(16, 40); // what the window system puts around it
-        const auto tamaño = AjusteDeVentana(Clave(QStringLiteral("tamaño"))).toSize();
+        const auto tamaño = AjusteDeVentana(Clave(kTamaño)).toSize();
         const auto propio = tamaño.isValid() ? tamaño : m_ventana.size().expandedTo(m_ventana.sizeHint());
-        m_ventana.resize(propio.boundedTo(sitio.size() - marco));
+        m_ventana.resize(propio.boundedTo(Disponible(m_ventana).size() - marco));
+    }
+
+    void ReponerAnchos() {
         for (auto* tabla : Tablas()) {
             const auto anchos = AjusteDeVentana(Clave(tabla->objectName())).toList();
             auto* cabecera = tabla->horizontalHeader();
@@ -81,13 +98,19 @@ private:
     }
 
     void Guardar() const {
-        GuardarAjusteDeVentana(Clave(QStringLiteral("tamaño")), m_ventana.size());
+        QVariantMap valores;
+        if (m_conEstado)
+            valores[Clave(kMaximizada)] = m_ventana.isMaximized();
+        const auto tamaño = m_ventana.isMaximized() ? m_ventana.normalGeometry().size() : m_ventana.size();
+        if (!tamaño.isEmpty())
+            valores[Clave(kTamaño)] = tamaño;
         for (auto* tabla : Tablas()) {
             QVariantList anchos;
             for (int i = 0; i < tabla->horizontalHeader()->count(); ++i)
                 anchos << tabla->columnWidth(i);
-            GuardarAjusteDeVentana(Clave(tabla->objectName()), anchos);
+            valores[Clave(tabla->objectName())] = anchos;
         }
+        GuardarAjustesDeVentana(valores);
     }
 
     QList<QTableView*> Tablas() const {
@@ -97,7 +120,10 @@ private:
     }
 
     QWidget& m_ventana;
+    QString m_clave;
+    bool m_conEstado;
     bool m_vista = false;
+    bool m_dimensionada = false;
 };
 
 } // namespace
@@ -116,8 +142,12 @@ QVBoxLayout* CuerpoDesplazable(QWidget& ventana, QVBoxLayout& todo) {
     return cuerpo;
 }
 
-void RecordarVentana(QWidget& ventana) {
-    new Memoria(ventana);
+void RecordarVentana(QWidget& ventana, const QString& clave) {
+    new Memoria(ventana, clave, false);
+}
+
+void RecordarVentanaMaximizada(QWidget& ventana) {
+    new Memoria(ventana, {}, true);
 }
 
 } // namespace pastorix

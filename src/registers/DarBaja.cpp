@@ -1,6 +1,7 @@
 #include "registers/DarBaja.h"
 
 #include "frame/Mensajes.h"
+#include "frame/Ventanas.h"
 #include "frame/calendario/Calendario.h"
 #include "frame/ficha/CampoTexto.h"
 #include "store/Literales.h"
@@ -35,6 +36,7 @@ DarBaja::DarBaja(Conexion& c, double idGanadero, const QString& nombre, QWidget*
     campos->addRow(QStringLiteral("&Fecha"), m_fecha);
     campos->addRow(QStringLiteral("&Motivo"), m_motivo);
     campos->addRow(botones);
+    RecordarVentana(*this);
 }
 
 QString DarBaja::Fecha() const {

@@ -1,10 +1,13 @@
 #include "registers/EncabezadoGanadero.h"
 
 #include "frame/Iconos.h"
+#include "frame/Ultimos.h"
+#include "frame/ficha/Aspecto.h"
 #include "registers/datos/DatosGanadero.h"
 #include "store/Valor.h"
 
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QLabel>
 #include <QToolButton>
 
@@ -20,9 +23,8 @@ EncabezadoGanadero::EncabezadoGanadero(Conexion& conexion, int icono, QWidget* p
     m_icono->setObjectName(QStringLiteral("IconoBusDato(%1)").arg(icono));
     m_icono->setIcon(pastorix::Icono("ganaderos"));
     m_icono->setCursor(CursorMano());
-    m_icono->setToolTip(QStringLiteral("Seleccionar (F4)"));
-    m_icono->setShortcut(QKeySequence(Qt::Key_F4));
-    m_icono->setAccessibleDescription(QStringLiteral("F4"));
+    m_icono->setToolTip(QStringLiteral("Seleccionar"));
+    DarTecla(*m_icono, QKeySequence(Qt::Key_F4));
     m_icono->setAccessibleName(QStringLiteral("Seleccionar ganadero"));
     m_icono->setAutoRaise(true);
     connect(m_icono, &QToolButton::clicked, this, [this] {
@@ -59,6 +61,13 @@ void EncabezadoGanadero::Limpiar() {
     m_id.reset();
     for (auto* rotulo : m_rotulos)
         rotulo->clear();
+}
+
+// The sheet is closed: its farmer is the one that others will offer. The owner of the insemination bulls is nobody's farm.
+void EncabezadoGanadero::hideEvent(QHideEvent* evento) {
+    QWidget::hideEvent(evento);
+    if (m_id && *m_id > 1 && !evento->spontaneous())
+        RecordarUltimo(m_c, "Id_Ganadero", *m_id);
 }
 
 QString EncabezadoGanadero::Codigo() const {

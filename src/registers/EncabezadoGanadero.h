@@ -28,6 +28,9 @@ public:
 
     std::function<void()> alBuscar; // the icon was pressed
 
+protected:
+    void hideEvent(QHideEvent* evento) override;
+
 private:
     Conexion& m_c;
     std::optional<double> m_id;

@@ -15,11 +15,17 @@ namespace pastorix {
 
 namespace {
 
-constexpr ColumnaHijos kColumnas[] = {
-    {"Id_Cebo", "Nº", 5},           {"AñoRef", "Año Ref", 8},     {"Origen", "Origen", 14},
-    {"Madre", "Madre", 14},         {"Sexo", "Sexo", 8},          {"Saneamiento", "Saneamiento", 16},
-    {"FechaNac", "Nacimiento", 10}, {"FechaCebo", "Entrada", 10}, {"FechaSacrif", "Sacrificio", 10},
-    {"FechaMuerte", "Muerte", 10},  {"KgCanal", "Kg Canal", 9}};
+constexpr ColumnaHijos kColumnas[] = {{"Id_Cebo", "Nº", 5},
+                                      {"AñoRef", "Año Ref", 8, "Año de referencia"},
+                                      {"Origen", "Origen", 14},
+                                      {"Madre", "Madre", 14},
+                                      {"Sexo", "Sexo", 8},
+                                      {"Saneamiento", "Saneamiento", 16},
+                                      {"FechaNac", "Nacimiento", 10},
+                                      {"FechaCebo", "Entrada", 10},
+                                      {"FechaSacrif", "Sacrificio", 10},
+                                      {"FechaMuerte", "Muerte", 10},
+                                      {"KgCanal", "Kg Canal", 9, "Kilos de la canal"}};
 
 } // namespace
 

@@ -10,9 +10,8 @@ void ListadoMaestro(int tipo, Sesion& sesion, ControlInforme& control, QWidget* 
     if (tipo != 1 && tipo != 2)
         return;
     const bool veterinarios = tipo == 1;
-    const auto avisar = [&](long numero, const char* texto) {
-        Avisar(padre, TipoMensaje::Atencion, QStringLiteral("Atención..."),
-               QString::number(numero) + QStringLiteral(" ... ") + QString::fromUtf8(texto));
+    const auto avisar = [&](const auto& error) {
+        AvisarFallo(padre, QStringLiteral("Atención..."), error.Numero(), error);
     };
     try {
         control.Reiniciar();
@@ -23,9 +22,9 @@ void ListadoMaestro(int tipo, Sesion& sesion, ControlInforme& control, QWidget* 
         control.Destino = 0;
         control.Action(1);
     } catch (const ErrorInforme& e) {
-        avisar(e.Numero(), e.what());
+        avisar(e);
     } catch (const ErrorAlmacen& e) {
-        avisar(e.Numero(), e.what());
+        avisar(e);
     }
 }
 

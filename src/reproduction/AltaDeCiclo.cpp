@@ -12,6 +12,7 @@
 #include "reproduction/datos/Parto.h"
 
 #include <QDialogButtonBox>
+#include <QFocusEvent>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>

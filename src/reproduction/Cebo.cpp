@@ -224,6 +224,7 @@ void Cebo::Escribir(QStringList& conservados) {
 }
 
 void Cebo::Guardar() {
+    m_hoja->Asentar();
     if (m_hoja->Texto(AñoRef).isEmpty()) {
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
                QStringLiteral("Debe indicar el año de referencia"));
@@ -276,7 +277,7 @@ void Cebo::reject() {
 
 void Cebo::RevisarParto() {
     QStringList cambian;
-    if (Editando() && m_idCebo && DevuelveAlParto())
+    if (m_modo == ModoFicha::Modificando && DevuelveAlParto())
         try {
             for (const auto& campo : DevolverAlParto(
                      Base(),

@@ -77,6 +77,7 @@ bool Cubriciones::GuardarCubricion() {
         });
         m_serviciosPorGuardar = false;
         m_ciclo.nParto = ParidadEscrita();
+        m_servicios->FijarCiclo(m_ciclo);
         m_hoja->DarPorGuardado();
         return true;
     } catch (const SinCubricion& e) {
@@ -98,6 +99,7 @@ void Cubriciones::CambiarServicios() {
 }
 
 bool Cubriciones::Salir() {
+    m_hoja->Asentar();
     return m_servicios->Resolver() &&
            (GuardarCubricion() ||
             Preguntar(this, QStringLiteral("Atención"),
@@ -117,7 +119,9 @@ void Cubriciones::Pasar(int paso) {
         if (const auto vecino =
                 CicloVecino(Base(), "T_Cubriciones", m_ciclo, ParidadEscrita().value_or(0), paso)) {
             m_ciclo = *vecino;
-            CargarCubricion();
+            m_causas->LimpiarLibre();
+            if (!CargarCubricion())
+                QDialog::reject(); // half of one record and half of the other: nothing that may be saved
         }
     } catch (const std::exception& e) {
         AvisarError(this, e);

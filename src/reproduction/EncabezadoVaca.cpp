@@ -7,16 +7,18 @@
 
 namespace pastorix {
 
-EncabezadoVaca::EncabezadoVaca(std::vector<Dato> datos, QWidget* padre)
+EncabezadoVaca::EncabezadoVaca(const std::vector<Dato>& datos, QWidget* padre)
     : QWidget(padre) {
     auto* fila = new QHBoxLayout(this);
     fila->setContentsMargins(0, 0, 0, 0);
-    fila->setSpacing(10);
+    fila->setSpacing(7);
     for (const auto& dato : datos) {
         auto* rotulo = new QLabel(dato.rotulo, this);
         auto* valor = new QLabel(this);
         valor->setObjectName(dato.control);
         valor->setAccessibleName(dato.rotulo);
+        if (m_valores.size() < 3)
+            valor->setMinimumWidth(40); // long names give way before the sheet outgrows the screen
         valor->setTextInteractionFlags(Qt::TextSelectableByMouse);
         auto fuente = valor->font();
         fuente.setBold(true);
@@ -31,6 +33,7 @@ EncabezadoVaca::EncabezadoVaca(std::vector<Dato> datos, QWidget* padre)
 
 void EncabezadoVaca::Poner(std::size_t dato, const QString& texto) {
     m_valores[dato]->setText(texto);
+    m_valores[dato]->setToolTip(texto);
     for (auto* w : {m_rotulos[dato], m_valores[dato]})
         w->setVisible(!texto.isEmpty());
 }

@@ -18,7 +18,7 @@ public:
         QString control;
         QString rotulo;
     };
-    EncabezadoVaca(std::vector<Dato> datos, QWidget* padre = nullptr);
+    explicit EncabezadoVaca(const std::vector<Dato>& datos, QWidget* padre = nullptr);
 
     void Poner(std::size_t dato, const QString& texto);
     // The first four entries: farmer, locality, compound name, ear tag. Throws ErrorAlmacen.

@@ -2,6 +2,7 @@
 
 #include "frame/Mensajes.h"
 #include "frame/Ventanas.h"
+#include "frame/ficha/Aspecto.h"
 #include "frame/selector/Selector.h"
 #include "registers/datos/DatosGanadero.h"
 #include "store/Literales.h"
@@ -42,7 +43,7 @@ FichaIPR::FichaIPR(Sesion& sesion, std::optional<double> idGanadero, QWidget* pa
     CuerpoDesplazable(*this, *todo)->addWidget(m_hoja->CrearRejilla(this));
     auto* icono =
         m_hoja->PonerIcono(0, Codigo, QStringLiteral("Seleccionar ganadero"), [this] { BuscarGanadero(); });
-    icono->setShortcut(QKeySequence(Qt::Key_F3));
+    DarTecla(*icono, QKeySequence(Qt::Key_F3));
     auto* botones = new QDialogButtonBox(this);
     auto* aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::AcceptRole);
     aceptar->setObjectName(QStringLiteral("B_Aceptar"));
@@ -109,12 +110,13 @@ void FichaIPR::BuscarGanadero() {
 }
 
 void FichaIPR::Aceptar() {
-    if (m_hoja->Texto(Codigo).isEmpty()) {
+    m_hoja->Asentar(); // a key may ask for it from the code, whose farmer is not on the sheet yet
+    const double codigo = m_hoja->Texto(Codigo).toDouble();
+    if (m_mostrado == 0 || codigo != m_mostrado) {
         Avisar(this, TipoMensaje::Atencion, QStringLiteral("Atención"),
                QStringLiteral("Debe Seleccionar el Ganadero al que pertenecen los datos"));
         return m_hoja->Campo(Codigo).setFocus();
     }
-    const double codigo = m_hoja->Texto(Codigo).toDouble();
     try {
         EnGrupo(m_sesion.conexion, [&] {
             Recordset rs(m_sesion.conexion, "Select * FROM T_IPR WHERE Id_Ganadero = " + NumeroSql(codigo));

@@ -1,7 +1,7 @@
 #include "reproduction/ListaFechasIPR.h"
 
 #include "frame/Mensajes.h"
-#include "frame/ficha/Aspecto.h"
+#include "frame/Tablas.h"
 #include "reproduction/datos/Cubricion.h"
 
 #include <QHeaderView>

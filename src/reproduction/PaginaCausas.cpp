@@ -96,6 +96,13 @@ void PaginaCausas::MostrarCausa(int indice) {
     }
 }
 
+// The free slot has no column: what stands in it is of the record in hand, and of no other.
+void PaginaCausas::LimpiarLibre() {
+    const auto& libre = *CausaDe(kCausaLibre);
+    m_hoja.Marca(libre.indice).setChecked(false);
+    m_hoja.Poner(libre.acompañante, {});
+}
+
 void PaginaCausas::PonerAmamantamiento(std::optional<int> dias) {
     auto& campo = m_hoja.Campo(campo_cubricion::Amamantamiento);
     m_hoja.Poner(campo_cubricion::Amamantamiento, dias ? std::to_string(*dias) : std::string());

@@ -21,6 +21,7 @@ public:
     void MostrarCausa(int indice);
     // Days from drying off to the first service: 0 and more stand out.
     void PonerAmamantamiento(std::optional<int> dias);
+    void LimpiarLibre(); // before another record comes
     // The panel is let go at a point of its parent: it moves by as much as it was dragged.
     void Soltar(const QPoint& punto);
 

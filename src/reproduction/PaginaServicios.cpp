@@ -9,6 +9,7 @@
 #include "store/Literales.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QShortcut>
 #include <QTableWidget>
@@ -23,7 +24,7 @@ constexpr AspectoColumna kAspectos[] = {{"Nº", 3, "Ct_S(0)", false, 4, "Número
                                         {"Fecha Srv", 8, "Ct_S(1)", false, 0, "Fecha del servicio"},
                                         {"Toro", 16, "Ct_S(4)", false, 100},
                                         {"Prog", 5, "Ct_S(6)", false, 50, "Progesterona"},
-                                        {"Tratam", 8, "Cb_Tto", false, 0, "Tratamiento", true},
+                                        {"Tratam", 8, "Cb_Tto", false, 50, "Tratamiento", true},
                                         {"FechaT", 8, "Ct_S(2)", false, 0, "Fecha del tratamiento"},
                                         {"Tipo Servicio", 11, "Cd_S(0)"},
                                         {"Nº Ins", 4, "Ct_S(3)", false, 4, "Número de inseminación"},
@@ -60,6 +61,7 @@ PaginaServicios::PaginaServicios(Conexion& c, double idGanadero, QWidget* padre)
     todo->addWidget(m_aviso);
     todo->addWidget(m_lineas, 1);
     auto& rejilla = m_lineas->Rejilla();
+    setFocusProxy(&rejilla); // where a service is begun with Insert
     rejilla.setMinimumHeight(rejilla.verticalHeader()->defaultSectionSize() * 5 +
                              8); // heading and four lines
     m_lineas->alCambiar = [this] {
@@ -67,7 +69,7 @@ PaginaServicios::PaginaServicios(Conexion& c, double idGanadero, QWidget* padre)
             alCambiar();
     };
     m_lineas->alProponer = [this] {
-        m_lineas->PonerEnCampo(servicio::Numero, QString::fromStdString(SiguienteServicio(m_c, m_ciclo)));
+        ProponerNumero();
         m_lineas->Control(servicio::Fecha)->setFocus();
     };
     m_lineas->alEntrar = [this](std::size_t columna) { AlEntrar(columna); };
@@ -76,17 +78,23 @@ PaginaServicios::PaginaServicios(Conexion& c, double idGanadero, QWidget* padre)
     icono->setIcon(Icono("buscar"));
     icono->setAutoRaise(true);
     icono->setCursor(CursorMano());
-    icono->setToolTip(QStringLiteral("Seleccionar (F3)"));
+    icono->setToolTip(QStringLiteral("Seleccionar"));
     icono->setAccessibleName(QStringLiteral("Seleccionar toro"));
-    icono->setShortcut(QKeySequence(Qt::Key_F3));
+    DarTecla(*icono, QKeySequence(Qt::Key_F3));
     connect(icono, &QToolButton::clicked, this, [this] { BuscarToro(); });
     m_lineas->PonerMando(icono);
 }
 
 void PaginaServicios::Mostrar(const CicloDeVaca& ciclo) {
     const auto todos = LeerServicios(m_c, ciclo);
+    const bool elMismo =
+        ciclo.idVaca == m_ciclo.idVaca && ciclo.añoRef == m_ciclo.añoRef && ciclo.nParto == m_ciclo.nParto;
     m_ciclo = ciclo;
-    m_lineas->Mostrar(ServiciosEnRejilla(todos));
+    if (elMismo)
+        m_lineas->MostrarDeNuevo(ServiciosEnRejilla(
+            todos)); // leaving the date of calving loads the record, whatever is being entered
+    else
+        m_lineas->Mostrar(ServiciosEnRejilla(todos));
     const auto sinSitio = ServiciosSinSitio(todos);
     m_sinSitio =
         sinSitio.empty()
@@ -149,8 +157,21 @@ bool PaginaServicios::Resolver() {
     return m_lineas->Resolver();
 }
 
+// For a new line that has none, also one begun without Insert: without a number it would be dropped.
+void PaginaServicios::ProponerNumero() {
+    if (m_lineas->FilaEnCampos() >= 0 || !m_lineas->EnCampo(servicio::Numero).isEmpty())
+        return;
+    try {
+        m_lineas->PonerEnCampo(servicio::Numero, QString::fromStdString(SiguienteServicio(m_c, m_ciclo)));
+    } catch (const ErrorAlmacen& e) {
+        AvisarError(this, e);
+    }
+}
+
 // The name is the user's own, or the selector's with its number: typing in it makes it his own. The kind of service moves the count.
 void PaginaServicios::AlEntrar(std::size_t columna) {
+    if (columna != servicio::Numero)
+        ProponerNumero();
     if (columna == servicio::Semental)
         m_lineas->PonerEnCampo(servicio::IdSemental, {});
     if (columna != servicio::Tipo || m_lineas->EnCampo(servicio::Tipo).isEmpty())
@@ -175,6 +196,7 @@ void PaginaServicios::BuscarToro() {
     m_lineas->PonerEnCampo(servicio::Semental,
                            QString::fromStdString(nombreC.empty() ? TextoDe(toro->De("Semental")) : nombreC));
     m_lineas->PonerEnCampo(servicio::IdSemental, QString::fromStdString(TextoNumero(toro->clave)));
+    ProponerNumero();
     m_lineas->Control(servicio::Semental)->setFocus();
 }
 

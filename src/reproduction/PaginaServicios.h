@@ -21,6 +21,7 @@ public:
 
     // Reads the set. Throws ErrorAlmacen.
     void Mostrar(const CicloDeVaca& ciclo);
+    void FijarCiclo(const CicloDeVaca& ciclo) { m_ciclo = ciclo; } // the same lines, under another parity
     void Escribir(const CicloDeVaca& ciclo); // rewrites it. Throws ErrorAlmacen, with the rows as they were
 
     // Remarks on lines that cannot be, as their cells and the line above the grid say.
@@ -38,6 +39,7 @@ public:
 private:
     std::optional<Fecha> FechaDe(const Linea& linea) const;
     void BuscarToro();
+    void ProponerNumero();
     void AlEntrar(std::size_t columna);
 
     Conexion& m_c;

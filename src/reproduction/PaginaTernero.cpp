@@ -10,6 +10,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace pastorix {
@@ -25,13 +26,12 @@ PaginaTernero::PaginaTernero(Conexion& c, int ternero, QWidget* padre)
     todo->setSpacing(4);
     todo->addWidget(m_hoja->CrearRejilla(this, 0));
     m_hoja->Rejilla()->setVerticalSpacing(4);
-    m_hoja
-        ->PonerIcono(ternero, t::Semental, QStringLiteral("Seleccionar semental padre"),
-                     [this] {
-                         if (alBuscarToro)
-                             alBuscarToro();
-                     })
-        ->setShortcut(QKeySequence(Qt::Key_F3));
+    const auto buscar = [this] {
+        if (alBuscarToro)
+            alBuscarToro();
+    };
+    DarTecla(*m_hoja->PonerIcono(ternero, t::Semental, QStringLiteral("Seleccionar semental padre"), buscar),
+             QKeySequence(Qt::Key_F3));
     m_hoja->Campo(t::IdSemental).hide();
     m_hoja->Rotulo(t::IdSemental)->hide();
     m_fichaCebo = new QPushButton(QStringLiteral("Fi&cha de Cebo"), this);
@@ -110,7 +110,8 @@ void PaginaTernero::Limpiar() {
     PonerBoton();
 }
 
-void PaginaTernero::DarPorGuardado() {
+void PaginaTernero::DarPorGuardado(const CicloDeVaca& parto) {
+    m_claves.parto = parto;
     m_hoja->DarPorGuardado();
     m_avisoCebo->clear();
 }

@@ -21,7 +21,7 @@ public:
     void Limpiar();
     void Escribir(Recordset& rs) const { m_hoja->Escribir(rs); }
     bool Cambiada() const { return m_hoja->Cambiada(); }
-    void DarPorGuardado();
+    void DarPorGuardado(const CicloDeVaca& parto); // which the save may have moved to another year or parity
 
     // The calf as it stands on the page; its keys and the date of calving are the sheet's.
     TerneroDeParto Ternero() const;

@@ -117,13 +117,28 @@ void Partos::EscribirFilas() {
     }
 }
 
+// A calving that is overtyped onto another one of the cow would become its twin, and the next accept would write the one over the other.
+void Partos::ResolverClave() {
+    const auto escrito = CicloEscrito();
+    if ((escrito.añoRef == m_ciclo.añoRef && escrito.nParto == m_ciclo.nParto) ||
+        FilasDeParto(Base(), escrito).empty() ||
+        Preguntar(this, QStringLiteral("Atención"),
+                  QStringLiteral("La vaca ya tiene otro parto nº %1 del año %2, y los dos pasarían a ser uno "
+                                 "gemelar. ¿Desea cambiarlo?")
+                      .arg(m_hoja->Texto(g::NParto), m_hoja->Texto(g::AñoRef))))
+        return;
+    m_hoja->Poner(g::NParto, TextoDe(EnteroONulo(m_ciclo.nParto)));
+    m_hoja->Poner(g::AñoRef, TextoDe(EnteroONulo(m_ciclo.añoRef)));
+}
+
 bool Partos::GuardarParto() {
     try {
+        ResolverClave();
         TodoONada(Base(), [&] { EscribirFilas(); });
         m_ciclo = CicloEscrito();
         m_hoja->DarPorGuardado();
         for (auto* ternero : m_terneros)
-            ternero->DarPorGuardado();
+            ternero->DarPorGuardado(m_ciclo);
         return true;
     } catch (const SinParto& e) {
         Avisar(this, TipoMensaje::Critico, QStringLiteral("Atención"), QString::fromUtf8(e.what()));
@@ -148,7 +163,14 @@ bool Partos::Cambiada() const {
            (m_filas.size() > 1 && m_terneros[1]->Cambiada());
 }
 
+void Partos::Asentar() {
+    m_hoja->Asentar();
+    for (auto* ternero : m_terneros)
+        ternero->Hoja().Asentar();
+}
+
 void Partos::Aceptar() {
+    Asentar();
     if (ExigirFecha() && GuardarParto())
         QDialog::accept();
 }
@@ -172,12 +194,14 @@ void Partos::reject() {
 }
 
 void Partos::Pasar(int paso) {
+    Asentar();
     if (!ExigirFecha() || !GuardarParto())
         return;
     try {
         if (const auto vecino = CicloVecino(Base(), "T_Partos", m_ciclo, m_ciclo.nParto.value_or(0), paso)) {
             m_ciclo = *vecino;
-            CargarParto();
+            if (!CargarParto())
+                QDialog::accept(); // half of one calving and half of the other: nothing that may be saved
         }
     } catch (const std::exception& e) {
         AvisarError(this, e);
@@ -186,6 +210,7 @@ void Partos::Pasar(int paso) {
 
 // The mating record that starts after this calving: its year and parity, its date as the one that opened it.
 void Partos::IrACubriciones() {
+    Asentar();
     const auto escrito = CicloEscrito();
     AñadirCubricion(m_marco, this, m_vaca,
                     {escrito.añoRef, escrito.nParto, m_hoja->FechaDe(g::Fecha), {}, "Ir a Cubriciones"});
@@ -194,6 +219,7 @@ void Partos::IrACubriciones() {
 }
 
 void Partos::AbrirCebo(int ternero) {
+    Asentar();
     if (!ExigirFecha() || !GuardarParto())
         return;
     try {
@@ -271,7 +297,7 @@ void Partos::CrearSegundo() {
 
 void Partos::QuitarSegundo() {
     QuitarMellizo(Base(), m_ciclo, m_vaca.idGanadero, m_filas[0], m_filas[1]);
-    m_filas.erase(m_filas.begin() + 1);
+    m_filas.resize(1); // a third row does not come up into the place of the second
     m_terneros[1]->Limpiar();
     m_hoja->Elegir("Cd_G(2)", "No");
     PonerPestañas(false);

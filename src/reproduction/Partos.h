@@ -40,11 +40,13 @@ private:
 
     void MostrarFilas();
     void EscribirFilas();
+    void ResolverClave(); // asks when year and parity were overtyped with another calving's
     void PonerPestañas(bool gemelar);
     CicloDeVaca CicloEscrito() const;
 
     bool ExigirFecha(); // "Debe indicar la fecha de parto"
     bool Cambiada() const;
+    void Asentar(); // what is being typed counts as left
     void Aceptar();
     void Pasar(int paso);
     void IrACubriciones();

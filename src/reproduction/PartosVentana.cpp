@@ -62,7 +62,7 @@ Partos::Partos(Principal& marco, const VacaEnMano& vaca, const CicloDeVaca& cicl
 QWidget* Partos::CrearGeneral() {
     auto* general = new QWidget(m_tab);
     auto* todo = new QVBoxLayout(general);
-    todo->addWidget(m_hoja->CrearRejilla(general, 0));
+    todo->addWidget(m_hoja->CrearRejilla(general, 0), 0, Qt::AlignLeft);
     todo->addWidget(m_hoja->CrearRejilla(general, 1));
     todo->addStretch();
     todo->addWidget(m_hoja->CrearPie(general));

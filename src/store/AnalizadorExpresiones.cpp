@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace pastorix {
 
@@ -20,6 +21,26 @@ constexpr std::array<std::string_view, 24> kReservadas{
 bool Reservada(std::string_view palabra) {
     return std::any_of(kReservadas.begin(), kReservadas.end(),
                        [&](std::string_view r) { return IgualSinCaso(r, palabra); });
+}
+
+// Terms joined by AND or OR. A long chain (a term per farmer) is cut in halves, since SQLite refuses an expression that is some hundreds
+// of operators deep.
+std::string Cadena(std::span<const std::string> terminos, std::string_view nexo) {
+    constexpr std::size_t kSeguidos = 50;
+    std::string sql;
+    if (terminos.size() <= kSeguidos) {
+        for (const auto& t : terminos)
+            sql.append(sql.empty() ? "" : nexo).append(t);
+        return sql;
+    }
+    const auto medio = terminos.size() / 2;
+    return sql.append("(")
+               .append(Cadena(terminos.first(medio), nexo))
+               .append(")")
+               .append(nexo)
+               .append("(")
+               .append(Cadena(terminos.subspan(medio), nexo)) +
+           ")";
 }
 
 } // namespace
@@ -139,12 +160,10 @@ void AnalizadorExpresiones::Anotar(const Expr& a, const Expr& b) {
 AnalizadorExpresiones::Expr AnalizadorExpresiones::Expresion() {
     const Nivel nivel(*this);
     auto e = Conjuncion();
-    if (!(Actual().tipo == TipoFicha::Nombre && IgualSinCaso(Actual().texto, "OR")))
-        return e;
-    std::string sql = "(" + e.sql;
+    std::vector<std::string> terminos{e.sql};
     while (Palabra("OR"))
-        sql += " OR " + Conjuncion().sql;
-    return {sql + ")", TipoColumna::SiNo};
+        terminos.push_back(Conjuncion().sql);
+    return terminos.size() == 1 ? e : Expr{"(" + Cadena(terminos, " OR ") + ")", TipoColumna::SiNo};
 }
 
 AnalizadorExpresiones::Expr AnalizadorExpresiones::ExpresionOAlias() {
@@ -166,9 +185,10 @@ AnalizadorExpresiones::Expr AnalizadorExpresiones::ExpresionOAlias() {
 
 AnalizadorExpresiones::Expr AnalizadorExpresiones::Conjuncion() {
     auto e = Negacion();
+    std::vector<std::string> terminos{e.sql};
     while (Palabra("AND"))
-        e = {e.sql + " AND " + Negacion().sql, TipoColumna::SiNo};
-    return e;
+        terminos.push_back(Negacion().sql);
+    return terminos.size() == 1 ? e : Expr{Cadena(terminos, " AND "), TipoColumna::SiNo};
 }
 
 AnalizadorExpresiones::Expr AnalizadorExpresiones::Negacion() {

@@ -1,26 +1,31 @@
 #pragma once
 
+#include "store/BasePropia.h"
 #include "store/Conexion.h"
 
-#include <memory>
+#include <filesystem>
 #include <string>
 #include <string_view>
-
-struct sqlite3;
+#include <vector>
 
 namespace pastorix {
 
-struct CierraBase {
-    void operator()(sqlite3* base) const;
+// What came of opening a file, whether it opened or not.
+struct DatosDeApertura {
+    ResultadoApertura resultado = ResultadoApertura::Ausente;
+    std::vector<std::string> columnasAñadidas; // see Conexion::ColumnasAñadidas
 };
-using BasePropia = std::unique_ptr<sqlite3, CierraBase>;
 
-// Opens a database file for a connection; converts it first where the options ask for it. Throws ErrorAlmacen; `resultado`
-// tells the outcome in both cases.
+// Opens a database file for a connection; converts it first where the options ask for it. Throws ErrorAlmacen.
 BasePropia AbrirBase(const std::string& fichero, std::string_view clave, const OpcionesApertura& opciones,
-                     ResultadoApertura& resultado);
+                     DatosDeApertura& datos);
 
-// Looks through a whole database: SQLite's own integrity check and the tables. One line per fault; empty for a sound one.
-std::vector<std::string> VerificarBase(const std::string& fichero, std::string_view clave);
+// Opens a package from elsewhere for work, with distrust: copies it (with the journal of a crash) over its staging file `etapa`, brings that
+// one to our form and opens it. The origin, Access file or ours, is only read. Throws ErrorAlmacen; a package that lacks columns is of
+// another schema.
+// The copy is worth nothing but to the program that made it: nobody waits for the disk.
+ResultadoApertura AbrirPaquete(Conexion& conexion, const std::filesystem::path& origen,
+                               const std::filesystem::path& etapa, std::string_view clave,
+                               const AvanceDeApertura& avance = {});
 
 } // namespace pastorix

@@ -1,14 +1,12 @@
 #include "store/Catalogo.h"
 
-#include "store/Errores.h"
+#include "store/BasePropia.h"
 #include "store/EsquemaIncrustado.h"
+#include "store/Instruccion.h"
 #include "store/Textos.h"
-
-#include <sqlite3.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 
 namespace pastorix {
 
@@ -32,28 +30,10 @@ TipoColumna TipoDeDeclaracion(std::string_view d) {
     return TipoColumna::Otro;
 }
 
-struct Consulta {
-    sqlite3_stmt* s = nullptr;
-    Consulta(sqlite3* base, const std::string& sql) {
-        if (sqlite3_prepare_v2(base, sql.c_str(), -1, &s, nullptr) != SQLITE_OK)
-            throw ErrorAlmacen(CodigoError::NoSePuedeAbrir,
-                               std::string("No se puede leer el esquema de la base de datos: ") +
-                                   sqlite3_errmsg(base));
-    }
-    ~Consulta() { sqlite3_finalize(s); }
-    Consulta(const Consulta&) = delete;
-    Consulta& operator=(const Consulta&) = delete;
-    bool Fila() { return sqlite3_step(s) == SQLITE_ROW; }
-    std::string Texto(int i) const {
-        const auto* t = sqlite3_column_text(s, i);
-        return t ? reinterpret_cast<const char*>(t) : "";
-    }
-};
-
 TablaCatalogo LeerTabla(sqlite3* base, const std::string& nombre) {
     TablaCatalogo tabla;
     tabla.nombre = nombre;
-    Consulta columnas(base, "PRAGMA table_info(" + Entrecomillar(nombre) + ")");
+    Instruccion columnas(base, "PRAGMA table_info(" + Entrecomillar(nombre) + ")");
     while (columnas.Fila()) {
         ColumnaTabla c;
         c.nombre = columnas.Texto(1);
@@ -61,10 +41,10 @@ TablaCatalogo LeerTabla(sqlite3* base, const std::string& nombre) {
         c.tipo = TipoDeDeclaracion(c.declaracion);
         if (c.tipo == TipoColumna::Texto)
             c.anchura = std::atoi(c.declaracion.c_str() + 5);
-        c.noNula = sqlite3_column_int(columnas.s, 3) != 0;
+        c.noNula = columnas.Entero(3) != 0;
         tabla.columnas.push_back(std::move(c));
     }
-    Consulta clave(base, "PRAGMA index_info(" + Entrecomillar("clave_" + nombre) + ")");
+    Instruccion clave(base, "PRAGMA index_info(" + Entrecomillar("clave_" + nombre) + ")");
     while (clave.Fila())
         tabla.clave.push_back(clave.Texto(2));
     return tabla;
@@ -104,7 +84,7 @@ Catalogo Catalogo::DeBase(sqlite3* base) {
     Catalogo c;
     std::vector<std::string> nombres;
     {
-        Consulta tablas(
+        Instruccion tablas(
             base,
             "SELECT name FROM sqlite_schema WHERE type='table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' "
             "AND name <> '_pastorix' ORDER BY rowid");
@@ -128,11 +108,9 @@ std::string_view SqlDeEsquema(ClaseDeBase clase) {
 
 const Catalogo& CatalogoCanonico(ClaseDeBase clase) {
     const auto leer = [](ClaseDeBase c) {
-        sqlite3* base = nullptr;
-        sqlite3_open(":memory:", &base);
-        const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> cierre(base, &sqlite3_close);
-        sqlite3_exec(base, std::string(SqlDeEsquema(c)).c_str(), nullptr, nullptr, nullptr);
-        return Catalogo::DeBase(base);
+        const auto base = AbrirBasePropia(":memory:", Modo::Nueva);
+        EjecutarDirecto(base.get(), std::string(SqlDeEsquema(c)));
+        return Catalogo::DeBase(base.get());
     };
     static const Catalogo principal = leer(ClaseDeBase::Principal);
     static const Catalogo toros = leer(ClaseDeBase::Toros);

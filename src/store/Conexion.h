@@ -33,19 +33,24 @@ enum class ResultadoApertura {
     OtroEsquema, // a sound database that lacks one of our tables
     Bloqueada,
     SoloLectura,
+    Ilegible, // the system does not let it be read
 };
 #endif
 
 using AvanceDeApertura = std::function<void(int hecho, int total)>;
 
 struct OpcionesApertura {
-    bool trabajo = true; // convert and bring to canonical order if need be; false: open as it is
-    bool soloLectura = false;
+    bool trabajo = true;      // convert and bring to canonical order if need be; false: open as it is
+    bool soloLectura = false; // the rows stay as they are; scratch tables can be written all the same, aside
     bool desconfiada = false; // a file from elsewhere: checked before use, nothing in it is run
-    std::string
-        carpetaBackup; // where a converted original is kept; empty: folder BackUp in the file's own folder
-    AvanceDeApertura avance; // told of the progress of a conversion
+    bool desechable =
+        false; // a work file that is worth nothing before it is whole: nobody waits for the disk
+    bool guardarOriginal = true; // of a file that is brought to our form; false for what is a copy already
+    std::string carpetaBackup;   // where that original is kept; empty: folder BackUp in the file's own folder
+    AvanceDeApertura avance;     // told of the progress of a conversion
 };
+
+class Diario;
 
 // One connection to one database. Not copyable; closed by its destructor. Statements are written in the dialect of the
 // system's databases (see docs/architecture.md) and translated here; nothing reaches SQLite untranslated.
@@ -63,9 +68,15 @@ public:
     ResultadoApertura AbrirFichero(const std::string& fichero, std::string_view clave,
                                    const OpcionesApertura& opciones = {});
     void Cerrar();
+    // Closes and opens again what was opened last, with the same arguments. Throws ErrorAlmacen, closed.
+    ResultadoApertura Reabrir();
     bool Abierta() const;
+    bool SoloLectura() const; // opened to be looked at only
     const std::string& Fichero() const;
     ResultadoApertura ResultadoUltimo() const;
+    // Columns ("T_Vacas.Nombre") that the file lacked when it was opened for work, and that were added without values. Those that the
+    // repairs would add are not among them.
+    const std::vector<std::string>& ColumnasAñadidas() const;
 
     // Runs a DELETE, UPDATE or ALTER TABLE; returns the number of rows it touched. Throws ErrorAlmacen.
     long Execute(std::string_view sentencia);
@@ -73,12 +84,15 @@ public:
     // What the open database holds. Valid until the next Execute of an ALTER TABLE.
     const Catalogo& Esquema() const;
 
-    // Used by Recordset and EnGrupo only.
+    // Used by Recordset, CopiaDeFilas and EnGrupo only.
     std::shared_ptr<Preparada> Preparar(std::string_view sentencia, bool conFilas,
                                         std::vector<Valor>& literales);
     sqlite3* Manejador() const;
     void EntrarEnGrupo();
-    void SalirDeGrupo();
+    void SalirDeGrupo(const std::exception_ptr& error = {}); // what ended the action, if anything
+
+    // The diary that takes down what is changed from now on; nullptr for none.
+    void PonerDiario(Diario* diario);
 
     // Used by TodoONada only.
     void PonerMarca();
@@ -103,7 +117,7 @@ auto EnGrupo(Conexion& conexion, F&& accion) {
         } catch (...) {
             error = std::current_exception();
         }
-        conexion.SalirDeGrupo();
+        conexion.SalirDeGrupo(error);
         if (error)
             std::rethrow_exception(error);
     } else {
@@ -113,7 +127,7 @@ auto EnGrupo(Conexion& conexion, F&& accion) {
         } catch (...) {
             error = std::current_exception();
         }
-        conexion.SalirDeGrupo();
+        conexion.SalirDeGrupo(error);
         if (error)
             std::rethrow_exception(error);
         return std::move(*resultado);

@@ -1,10 +1,12 @@
 #include "store/Conversion.h"
 
 #include "store/Apertura.h"
+#include "store/BasePropia.h"
 #include "store/Catalogo.h"
 #include "store/Esquema.h"
 #include "store/Ficheros.h"
-#include "store/Preparada.h"
+#include "store/Instruccion.h"
+#include "store/Reemplazo.h"
 #include "store/TablaDestino.h"
 #include "store/Textos.h"
 
@@ -26,15 +28,8 @@ namespace {
 
 // A database that is built beside the scenes: no journal and no sync until it is whole, then one sync and a rename.
 BasePropia NuevaBase(const fs::path& ruta) {
-    sqlite3* cruda = nullptr;
-    const int codigo =
-        sqlite3_open_v2(TextoDeRuta(ruta).c_str(), &cruda,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
-    BasePropia base(cruda);
-    if (codigo != SQLITE_OK)
-        LanzarError(cruda, codigo, {});
-    InicializarConexion(cruda);
-    EjecutarDirecto(cruda,
+    auto base = AbrirBasePropia(ruta, Modo::Nueva);
+    EjecutarDirecto(base.get(),
                     "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-64000; BEGIN");
     return base;
 }
@@ -120,8 +115,10 @@ private:
                 m_hoja.curiosidades.push_back("La tabla " + canonica.nombre + " tiene además la columna " +
                                               c.nombre);
             }
-        for (const auto& c : destino.SinOrigen())
+        for (const auto& c : destino.SinOrigen()) {
             m_hoja.curiosidades.push_back("En la tabla " + canonica.nombre + " no estaba la columna " + c);
+            m_hoja.columnasAusentes.push_back(canonica.nombre + "." + c);
+        }
         Copiar(destino, tabla, false);
     }
 
@@ -187,21 +184,12 @@ HojaDeConversion ConvertirEn(const fs::path& origen, const fs::path& nueva, std:
     return hoja;
 }
 
-// Where the original of a file goes before it is replaced: never over one that is there already.
+// Where the original of a file goes before it is replaced: <name>_<reason>_<ddmmyyyy>_<hhmmss>.
 fs::path NombreDeBackup(const fs::path& fichero, const fs::path& carpeta, const char* motivo) {
-    std::error_code error;
-    fs::create_directories(carpeta, error);
-    if (error)
-        throw ErrorAlmacen(CodigoError::DiscoOFichero,
-                           "No se puede crear la carpeta: " + TextoDeRuta(carpeta) + " (" + error.message() +
-                               ")");
-    const auto momento =
-        QDateTime::currentDateTime().toString(QStringLiteral("ddMMyyyy_HHmmss")).toStdString();
-    const auto base = TextoDeRuta(fichero.stem()) + "_" + motivo + "_" + momento;
-    auto nombre = carpeta / Ruta(base + ".mdb");
-    for (int n = 2; fs::exists(nombre, error); ++n)
-        nombre = carpeta / Ruta(base + "_" + std::to_string(n) + ".mdb");
-    return nombre;
+    const auto ahora = QDateTime::currentDateTime();
+    const Fecha momento{static_cast<std::int32_t>(QDate(1899, 12, 30).daysTo(ahora.date())),
+                        ahora.time().msecsSinceStartOfDay() / 1000};
+    return LugarDeCopia{carpeta, TextoDeRuta(fichero.stem()) + "_" + motivo, momento}.Libre();
 }
 
 void EscribirTexto(const fs::path& fichero, const std::string& texto) {
@@ -215,16 +203,7 @@ void EscribirTexto(const fs::path& fichero, const std::string& texto) {
 }
 
 void Unir(sqlite3* base, const fs::path& fichero) {
-    sqlite3_stmt* s = nullptr;
-    int codigo = sqlite3_prepare_v2(base, "ATTACH ? AS vieja", -1, &s, nullptr);
-    if (codigo == SQLITE_OK) {
-        const auto nombre = TextoDeRuta(fichero);
-        sqlite3_bind_text64(s, 1, nombre.data(), nombre.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-        codigo = sqlite3_step(s);
-    }
-    sqlite3_finalize(s);
-    if (codigo != SQLITE_DONE)
-        LanzarError(base, codigo, "ATTACH");
+    Instruccion(base, "ATTACH ? AS vieja").Enlazar(1, TextoDeRuta(fichero)).Correr();
 }
 
 void CopiarCanonica(sqlite3* base, const TablaCatalogo& canonica, const TablaCatalogo& vieja) {
@@ -294,15 +273,18 @@ HojaDeConversion ConvertirAccess(const fs::path& origen, const fs::path& destino
     return hoja;
 }
 
-void ConvertirEnSuSitio(const fs::path& fichero, std::string_view clave, const fs::path& carpetaBackup,
-                        const AvanceDeApertura& avance) {
+HojaDeConversion ConvertirEnSuSitio(const fs::path& fichero, std::string_view clave,
+                                    const fs::path& carpetaBackup, const AvanceDeApertura& avance) {
     const FicheroTemporal nueva(NombreTemporal(fichero));
-    const auto hoja = ConvertirEn(fichero, nueva.Nombre(), clave, avance);
-    auto original = NombreDeBackup(fichero, carpetaBackup, "Access");
-    CopiarFichero(fichero, original);
-    EscribirTexto(original.replace_extension(".txt"), hoja.Texto());
-    SincronizarCarpeta(carpetaBackup);
+    auto hoja = ConvertirEn(fichero, nueva.Nombre(), clave, avance);
+    if (!carpetaBackup.empty()) {
+        auto original = NombreDeBackup(fichero, carpetaBackup, "Access");
+        CopiarFichero(fichero, original);
+        EscribirTexto(original.replace_extension(".txt"), hoja.Texto());
+        SincronizarCarpeta(carpetaBackup);
+    }
     PonerEnSuSitio(nueva.Nombre(), fichero);
+    return hoja;
 }
 
 void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& carpetaBackup,
@@ -311,8 +293,8 @@ void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& ca
     OpcionesApertura opciones;
     opciones.trabajo = false;
     opciones.soloLectura = true;
-    ResultadoApertura resultado{};
-    const auto vieja = AbrirBase(TextoDeRuta(fichero), clave, opciones, resultado);
+    DatosDeApertura datos;
+    const auto vieja = AbrirBase(TextoDeRuta(fichero), clave, opciones, datos);
     const auto catalogo = Catalogo::DeBase(vieja.get());
     const auto clase = LeerSello(vieja.get(), clave).clase;
     auto base = NuevaBase(nueva.Nombre());
@@ -337,7 +319,8 @@ void Ordenar(const fs::path& fichero, std::string_view clave, const fs::path& ca
     EjecutarDirecto(base.get(), "DETACH vieja");
     base.reset();
     SincronizarFichero(nueva.Nombre());
-    CopiarFichero(fichero, NombreDeBackup(fichero, carpetaBackup, "Orden"));
+    if (!carpetaBackup.empty())
+        CopiarFichero(fichero, NombreDeBackup(fichero, carpetaBackup, "Orden"));
     PonerEnSuSitio(nueva.Nombre(), fichero);
 }
 

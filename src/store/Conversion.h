@@ -36,6 +36,7 @@ struct HojaDeConversion {
     int jet = 0;
     std::vector<Tabla> tablas;
     std::vector<std::string> curiosidades;
+    std::vector<std::string> columnasAusentes; // "T_Vacas.Nombre": added without values
     std::string Texto() const;
 };
 
@@ -45,9 +46,10 @@ HojaDeConversion ConvertirAccess(const std::filesystem::path& origen, const std:
                                  std::string_view clave, const AvanceDeApertura& avance = {});
 
 // Converts a file and puts the result in its place; the original and the sheet of what was read go to `carpetaBackup`, as
-// <name>_Access_<ddmmyyyy>_<hhmmss>. At every moment the one or the other is in place, complete.
-void ConvertirEnSuSitio(const std::filesystem::path& fichero, std::string_view clave,
-                        const std::filesystem::path& carpetaBackup, const AvanceDeApertura& avance = {});
+// <name>_Access_<ddmmyyyy>_<hhmmss>; an empty folder keeps none. At every moment the one or the other is in place, complete.
+HojaDeConversion ConvertirEnSuSitio(const std::filesystem::path& fichero, std::string_view clave,
+                                    const std::filesystem::path& carpetaBackup,
+                                    const AvanceDeApertura& avance = {});
 
 // Brings the tables of one of our own databases to canonical order in the same manner (after repairs added columns at the end, or in
 // files of other programs), so that copying by position is copying by name.

@@ -1,12 +1,10 @@
 #include "store/Errores.h"
 
-#include <utility>
-
 namespace pastorix {
 
-ErrorAlmacen::ErrorAlmacen(CodigoError codigo, const std::string& descripcion, std::string sentencia)
-    : std::runtime_error(sentencia.empty() ? descripcion : descripcion + "\n" + sentencia)
-    , m_codigo(codigo)
-    , m_sentencia(std::move(sentencia)) {}
+bool ErrorAlmacen::DelFichero() const {
+    return m_codigo == CodigoError::Bloqueada || m_codigo == CodigoError::SoloLectura ||
+           m_codigo == CodigoError::DiscoOFichero || m_codigo == CodigoError::NoSePuedeAbrir;
+}
 
 } // namespace pastorix

@@ -16,9 +16,6 @@ namespace pastorix {
 inline constexpr int kIdentificadorAplicacion = 0x50535458; // "PSTX"
 inline constexpr std::string_view kClave = "q7r2mz";        // the common password of all databases
 
-// Functions, collation and settings that every connection of ours works with. One place for all.
-void InicializarConexion(sqlite3* base);
-
 // Makes tables (without the indexes) and stamp in an empty database; indexes go last, after the rows are in.
 void CrearTablas(sqlite3* base, ClaseDeBase clase, std::string_view clave);
 // Makes keys and indexes. A key that the rows do not meet becomes a plain index, and is named in the result: no row is refused.
@@ -40,6 +37,9 @@ struct DiferenciasDeEsquema {
     std::vector<std::string> columnasAusentes; // "T_Cebo.Cambiado"
     bool otroOrden = false;                    // something must be moved or added to reach the canonical form
 };
+// A column that older files lack and every entry adds by itself, so that its absence tells nothing.
+bool LaPonenLasReparaciones(std::string_view columna);
+
 DiferenciasDeEsquema CompararEsquema(const Catalogo& catalogo, ClaseDeBase clase);
 
 } // namespace pastorix

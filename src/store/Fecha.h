@@ -24,7 +24,7 @@ struct Fecha {
     Fecha MasDias(std::int32_t dias) const { return {dia + dias, segundo}; }
     Fecha UltimoDelMes() const;
 
-    friend auto operator<=>(const Fecha&, const Fecha&) = default;
+    friend auto operator<=>(const Fecha&, const Fecha&) = default; // NOLINT(modernize-use-nullptr)
 };
 
 // Two-digit years are read in 1950..2049, on screen and in statements alike. Years of other lengths stay as they are.

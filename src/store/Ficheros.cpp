@@ -5,9 +5,7 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstring>
-#include <fstream>
-#include <system_error>
+#include <vector>
 
 // The one place with calls of the operating system: nothing else in the program tells systems apart.
 #ifdef _WIN32
@@ -24,36 +22,43 @@ namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void Fallar(const std::string& que, const fs::path& ruta, const std::string& porque) {
-    throw ErrorAlmacen(CodigoError::DiscoOFichero, que + ": " + TextoDeRuta(ruta) + " (" + porque + ")");
-}
+struct MotivoDeError {
+    std::errc error;
+    const char* texto;
+};
 
-std::string Motivo(int error) {
-    switch (error) {
-    case ENOSPC:
-        return "el disco está lleno";
-    case EACCES:
-    case EPERM:
-        return "no hay permiso";
-    case EROFS:
-        return "la carpeta es de solo lectura";
-    case ENOENT:
-        return "no existe";
-    default:
-        return std::strerror(error);
-    }
+constexpr MotivoDeError kMotivos[] = {
+    {std::errc::no_space_on_device, "el disco está lleno"},
+    {std::errc::file_too_large, "el fichero es demasiado grande para el disco"},
+    {std::errc::permission_denied, "no hay permiso"},
+    {std::errc::operation_not_permitted, "no hay permiso"},
+    {std::errc::read_only_file_system, "la carpeta es de solo lectura"},
+    {std::errc::no_such_file_or_directory, "no existe"},
+    {std::errc::is_a_directory, "es una carpeta"},
+    {std::errc::not_a_directory, "el camino no lleva a una carpeta"},
+    {std::errc::file_exists, "ya existe"},
+    {std::errc::io_error, "el disco falla"},
+    {std::errc::device_or_resource_busy, "lo está usando otro programa"},
+    {std::errc::text_file_busy, "lo está usando otro programa"},
+    {std::errc::cross_device_link, "está en otro disco"},
+    {std::errc::filename_too_long, "el nombre es demasiado largo"},
+    {std::errc::too_many_files_open, "hay demasiados ficheros abiertos"},
+};
+
+std::error_code UltimoError() {
+    return {errno, std::generic_category()};
 }
 
 #ifndef _WIN32
 void Sincronizar(const fs::path& ruta, int modo) {
     const int d = ::open(ruta.c_str(), modo | O_CLOEXEC);
     if (d < 0)
-        Fallar("No se puede abrir", ruta, Motivo(errno));
+        FallarFichero("No se puede abrir", ruta, UltimoError());
     const int r = ::fsync(d);
-    const int error = errno;
+    const auto error = UltimoError();
     ::close(d);
-    if (r != 0 && error != EINVAL) // some file systems cannot sync a folder
-        Fallar("No se puede escribir", ruta, Motivo(error));
+    if (r != 0 && error != std::errc::invalid_argument) // some file systems cannot sync a folder
+        FallarFichero("No se puede escribir", ruta, error);
 }
 #endif
 
@@ -66,6 +71,33 @@ fs::path Ruta(std::string_view utf8) {
 std::string TextoDeRuta(const fs::path& ruta) {
     const auto u8 = ruta.u8string();
     return {reinterpret_cast<const char*>(u8.data()), u8.size()};
+}
+
+fs::path CarpetaDe(const fs::path& fichero) {
+    return fichero.has_parent_path() ? fichero.parent_path() : fs::path(".");
+}
+
+std::string CausaDelSistema(std::error_code error) {
+#ifdef EDQUOT
+    if (error == std::error_code(EDQUOT, std::generic_category())) // the user's share of the disk
+        error = std::make_error_code(std::errc::no_space_on_device);
+#endif
+    const auto condicion = error.default_error_condition();
+    for (const auto& m : kMotivos)
+        if (condicion == m.error)
+            return m.texto;
+    return {};
+}
+
+std::string Motivo(std::error_code error) {
+    const auto causa = CausaDelSistema(error);
+    return causa.empty() ? causa : " (" + causa + ")";
+}
+
+void FallarFichero(const std::string& que, const fs::path& ruta, std::error_code error) {
+    throw ErrorAlmacen(CodigoError::DiscoOFichero, que + ": " + TextoDeRuta(ruta) + Motivo(error),
+                       error.message() + " (" + error.category().name() + " " +
+                           std::to_string(error.value()) + ")");
 }
 
 #ifdef _WIN32
@@ -89,8 +121,8 @@ void PonerEnSuSitio(const fs::path& nuevo, const fs::path& fichero) {
     std::error_code error;
     fs::rename(nuevo, fichero, error);
     if (error)
-        Fallar("No se puede reemplazar", fichero, Motivo(error.value()));
-    SincronizarCarpeta(fichero.parent_path());
+        FallarFichero("No se puede reemplazar", fichero, error);
+    SincronizarCarpeta(CarpetaDe(fichero));
 }
 
 void CopiarFichero(const fs::path& origen, const fs::path& destino) {
@@ -98,9 +130,20 @@ void CopiarFichero(const fs::path& origen, const fs::path& destino) {
     std::error_code error;
     fs::copy_file(origen, temporal.Nombre(), fs::copy_options::overwrite_existing, error);
     if (error)
-        Fallar("No se puede copiar", origen, Motivo(error.value()));
+        FallarFichero("No se puede copiar", origen, error);
     SincronizarFichero(temporal.Nombre());
     PonerEnSuSitio(temporal.Nombre(), destino);
+}
+
+void CopiarConDiarios(const fs::path& origen, const fs::path& destino) {
+    const auto con = [](fs::path p, const char* cola) { return p += cola; };
+    std::error_code error;
+    for (const char* cola : kDiarios)
+        fs::remove(con(destino, cola), error); // of a file that is about to go
+    CopiarFichero(origen, destino);
+    for (const char* cola : kDiarios)
+        if (fs::exists(con(origen, cola), error))
+            CopiarFichero(con(origen, cola), con(destino, cola));
 }
 
 fs::path NombreTemporal(const fs::path& fichero) {
@@ -115,11 +158,44 @@ FicheroTemporal::FicheroTemporal(fs::path ruta)
 
 FicheroTemporal::~FicheroTemporal() {
     std::error_code error;
-    for (const char* cola : {"", "-journal"}) {
-        fs::path p = m_ruta;
-        p += cola;
-        fs::remove(p, error);
-    }
+    fs::remove(m_ruta, error);
+    for (const char* cola : kDiarios)
+        fs::remove(fs::path(m_ruta) += cola, error);
+}
+
+CarpetaTemporal::CarpetaTemporal()
+    : m_carpeta(NombreTemporal(fs::temp_directory_path() / "pastorix")) {
+    std::error_code error;
+    if (!fs::create_directory(m_carpeta, error))
+        FallarFichero("No se puede crear la carpeta", m_carpeta, error);
+    fs::permissions(m_carpeta, fs::perms::owner_all, error); // it will hold people's data
+}
+
+CarpetaTemporal::~CarpetaTemporal() {
+    std::error_code error;
+    fs::remove_all(m_carpeta, error);
+}
+
+void LimpiarTemporales(const fs::path& carpeta) {
+    // "base.mdb.123456.tmp", and its journals
+    const auto esTemporal = [](std::string nombre) {
+        for (const char* cola : kDiarios)
+            if (nombre.ends_with(cola))
+                nombre.resize(nombre.size() - std::string_view(cola).size());
+        if (!nombre.ends_with(".tmp"))
+            return false;
+        nombre.resize(nombre.size() - 4);
+        const auto punto = nombre.rfind('.');
+        return punto != std::string::npos && punto > 0 && punto + 1 < nombre.size() &&
+               nombre.find_first_not_of("0123456789", punto + 1) == std::string::npos;
+    };
+    std::error_code error;
+    std::vector<fs::path> restos;
+    for (fs::directory_iterator it(carpeta, error), fin; !error && it != fin; it.increment(error))
+        if (esTemporal(TextoDeRuta(it->path().filename())) && it->is_regular_file(error))
+            restos.push_back(it->path());
+    for (const auto& resto : restos)
+        fs::remove(resto, error);
 }
 
 fs::path EntradaSinCaso(const fs::path& carpeta, std::string_view nombre) {

@@ -2,21 +2,23 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
+
 namespace pastorix {
 
 Celda Filas::CeldaTexto(std::string_view t) {
     Celda c;
     c.clase = Celda::Clase::Texto;
     c.largo = static_cast<std::uint32_t>(t.size());
-    c.lugar = m_textos.size();
-    m_textos.append(t);
+    c.lugar = m_textos.Cuantos();
+    std::copy(t.begin(), t.end(), m_textos.Añadir(t.size()));
     return c;
 }
 
 void Filas::Añadir(sqlite3_stmt* s) {
-    m_celdas.resize(m_celdas.size() + m_columnas);
-    auto* celda = m_celdas.data() + m_filas * m_columnas;
+    auto* celda = m_celdas.Añadir(m_columnas);
     for (int i = 0; i < static_cast<int>(m_columnas); ++i, ++celda) {
+        *celda = {};
         switch (sqlite3_column_type(s, i)) {
         case SQLITE_NULL:
             break;
@@ -38,7 +40,8 @@ void Filas::Añadir(sqlite3_stmt* s) {
 }
 
 std::size_t Filas::Añadir() {
-    m_celdas.resize(m_celdas.size() + m_columnas);
+    auto* celdas = m_celdas.Añadir(m_columnas);
+    std::fill(celdas, celdas + m_columnas, Celda());
     return m_filas++;
 }
 
@@ -62,12 +65,12 @@ void Filas::Poner(std::size_t fila, std::size_t columna, const Valor& v) {
         Celda operator()(const std::string& t) const { return filas.CeldaTexto(t); }
     };
     const Celda c = std::visit(Visita{*this}, v); // first: it may move the store of texts
-    m_celdas[fila * m_columnas + columna] = c;
+    m_celdas.Datos()[fila * m_columnas + columna] = c;
 }
 
 void Filas::Vaciar() {
-    m_celdas.clear();
-    m_textos.clear();
+    m_celdas.Vaciar();
+    m_textos.Vaciar();
     m_filas = 0;
 }
 

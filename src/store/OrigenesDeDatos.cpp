@@ -49,6 +49,16 @@ const OrigenDeDatos* OrigenesDeDatos::Buscar(std::string_view nombre) const {
 OrigenDeDatos OrigenesDeDatos::Resolver(std::string_view cadena) const {
     std::string nombre;
     std::string fichero;
+    if (const auto comilla = cadena.find('"'); comilla != std::string_view::npos) {
+        cadena.remove_prefix(comilla + 1);
+        cadena = cadena.substr(0, cadena.rfind('"'));
+    }
+    // A path may hold a semicolon; in the long string a blank stands before the one that ends it.
+    if (const auto dbq = Mayusculas(cadena).find(";DBQ="); dbq != std::string::npos)
+        if (const auto fin = cadena.find(" ;", dbq + 5); fin != std::string_view::npos) {
+            fichero = cadena.substr(dbq + 5, fin - dbq - 5);
+            cadena = cadena.substr(0, dbq);
+        }
     CadaPar(cadena, ';', [&](const std::string& clave, std::string valor) {
         if (clave == "DSN")
             nombre = std::move(valor);
@@ -62,6 +72,14 @@ OrigenDeDatos OrigenesDeDatos::Resolver(std::string_view cadena) const {
     if (!fichero.empty())
         resuelto.fichero = std::move(fichero);
     return resuelto;
+}
+
+std::string CadenaDeConexion(std::string_view nombre, std::string_view fichero, std::string_view clave) {
+    std::string cadena = "Provider=MSDASQL.1;Password=";
+    cadena.append(clave).append(";Connect Timeout=15;Extended Properties=\"DSN=").append(nombre);
+    cadena.append(";DBQ=").append(fichero).append(
+        " ;DriverId=25;FIL=MS Access;MaxBufferSize=2048;PageTimeout=5;PWD=");
+    return cadena.append(clave).append(";\"");
 }
 
 std::string AtributosDeOrigen(std::string_view nombre, std::string_view fichero, std::string_view clave) {

@@ -24,13 +24,16 @@ public:
     // The source of that name, or nullptr.
     const OrigenDeDatos* Buscar(std::string_view nombre) const;
 
-    // Resolves "dsn=OD_PRADALC" or "DSN=OD_PSTX;DBQ=path": the named source, with its file replaced if DBQ is given.
-    // Throws ErrorAlmacen(NoSePuedeAbrir) for a name that is not declared.
+    // Resolves "dsn=OD_PRADALC", "DSN=OD_PSTX;DBQ=path", or the same inside the quoted Extended Properties of a longer string: the named
+    // source, with its file replaced if DBQ is given. Throws ErrorAlmacen(NoSePuedeAbrir) for a name that is not declared.
     OrigenDeDatos Resolver(std::string_view cadenaDeConexion) const;
 
 private:
     std::map<std::string, OrigenDeDatos, std::less<>> m_origenes; // by name in capitals
 };
+
+// The long connection string, by which a source is pointed at another file for one connection.
+std::string CadenaDeConexion(std::string_view nombre, std::string_view fichero, std::string_view clave);
 
 // The attribute list above for a source on a file, as the program declares it.
 std::string AtributosDeOrigen(std::string_view nombre, std::string_view fichero, std::string_view clave);

@@ -1,7 +1,5 @@
 #include "store/Preparada.h"
 
-#include "store/Errores.h"
-#include "store/Lexico.h"
 #include "store/Textos.h"
 
 #include <sqlite3.h>
@@ -31,12 +29,8 @@ bool MismoNombre(std::string_view a, std::string_view b) {
 Preparada::Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Traduccion traduccion,
                      const std::string& sentencia)
     : m_catalogo(std::move(catalogo))
-    , m_traduccion(std::move(traduccion)) {
-    const auto& sql = m_traduccion.sql;
-    const int codigo = sqlite3_prepare_v3(base, sql.c_str(), static_cast<int>(sql.size() + 1),
-                                          SQLITE_PREPARE_PERSISTENT, &m_sentencia, nullptr);
-    if (codigo != SQLITE_OK)
-        LanzarError(base, codigo, sentencia);
+    , m_traduccion(std::move(traduccion))
+    , m_sentencia(base, m_traduccion.sql, sentencia, true) {
     const auto& salida = m_traduccion.salida;
     m_porNombre.assign(std::bit_ceil(salida.size() * 2 + 1), {0, -1});
     for (std::size_t i = 0; i < salida.size(); ++i) {
@@ -48,10 +42,6 @@ Preparada::Preparada(sqlite3* base, std::shared_ptr<const Catalogo> catalogo, Tr
             lugar = (lugar + 1) & (m_porNombre.size() - 1);
         m_porNombre[lugar] = {h, static_cast<int>(i)};
     }
-}
-
-Preparada::~Preparada() {
-    sqlite3_finalize(m_sentencia);
 }
 
 int Preparada::Columna(std::string_view nombre) const {
@@ -73,67 +63,19 @@ int Preparada::Columna(std::string_view nombre) const {
     return -1;
 }
 
-void LanzarError(sqlite3* base, int codigo, std::string_view sentencia) {
-    const char* detalle = base ? sqlite3_errmsg(base) : sqlite3_errstr(codigo);
-    const auto lanzar = [&](CodigoError c, const std::string& texto) {
-        throw ErrorAlmacen(c, texto + " (" + detalle + ")", SentenciaVisible(sentencia));
-    };
-    switch (codigo & 0xFF) {
-    case SQLITE_CONSTRAINT:
-        lanzar(CodigoError::Restriccion, "El registro repite una clave o le falta un dato obligatorio");
-        break;
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        lanzar(CodigoError::Bloqueada, "Otro programa tiene bloqueada la base de datos");
-        break;
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-        lanzar(CodigoError::SoloLectura, "La base de datos es de solo lectura");
-        break;
-    case SQLITE_FULL:
-        lanzar(CodigoError::DiscoOFichero, "El disco está lleno");
-        break;
-    case SQLITE_IOERR:
-        lanzar(CodigoError::DiscoOFichero, "Error al leer o escribir la base de datos");
-        break;
-    case SQLITE_CORRUPT:
-        lanzar(CodigoError::NoSePuedeAbrir, "La base de datos está dañada");
-        break;
-    case SQLITE_NOTADB:
-        lanzar(CodigoError::NoSePuedeAbrir, "El fichero no es una base de datos");
-        break;
-    case SQLITE_CANTOPEN:
-        lanzar(CodigoError::NoSePuedeAbrir, "No se puede abrir el fichero de la base de datos");
-        break;
-    case SQLITE_MISMATCH:
-        lanzar(CodigoError::TipoInadecuado, "El valor no es del tipo de la columna");
-        break;
-    default:
-        break;
-    }
-    lanzar(CodigoError::Sintaxis, "La sentencia no se puede ejecutar");
-    std::abort(); // not reached: lanzar always throws
+Corrida::Corrida(sqlite3_stmt* s, const std::vector<Valor>& valores)
+    : m_s(s) {
+    int lugar = 0;
+    for (const auto& v : valores)
+        Enlazar(s, ++lugar, v);
 }
 
-void EjecutarDirecto(sqlite3* base, const std::string& sql) {
-    if (const int codigo = sqlite3_exec(base, sql.c_str(), nullptr, nullptr, nullptr); codigo != SQLITE_OK)
-        LanzarError(base, codigo, sql);
+Corrida::~Corrida() {
+    sqlite3_reset(m_s);
 }
 
-void Enlazar(sqlite3_stmt* s, int lugar, const Valor& v) {
-    struct Visita {
-        sqlite3_stmt* s;
-        int lugar;
-        void operator()(std::monostate) const { sqlite3_bind_null(s, lugar); }
-        void operator()(std::int64_t n) const { sqlite3_bind_int64(s, lugar, n); }
-        void operator()(double n) const { sqlite3_bind_double(s, lugar, n); }
-        void operator()(Fecha f) const { Texto(FechaIso(f)); }
-        void operator()(const std::string& t) const { Texto(t); }
-        void Texto(const std::string& t) const {
-            sqlite3_bind_text64(s, lugar, t.data(), t.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
-        }
-    };
-    std::visit(Visita{s, lugar}, v);
+int Corrida::Paso() {
+    return sqlite3_step(m_s);
 }
 
 } // namespace pastorix

@@ -1,15 +1,18 @@
 #include "store/Recordset.h"
 
 #include "store/Catalogo.h"
+#include "store/Conversiones.h"
+#include "store/ErroresSqlite.h"
 #include "store/Filas.h"
 #include "store/Lexico.h"
+#include "store/Pendientes.h"
 #include "store/Preparada.h"
 
 #include <sqlite3.h>
 
 #include <algorithm>
 #include <cmath>
-#include <map>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -17,68 +20,12 @@ namespace pastorix {
 
 namespace {
 
-// Binds literals for one run and lets go of them whatever happens.
-class Corrida {
-public:
-    Corrida(sqlite3_stmt* s, const std::vector<Valor>& valores)
-        : m_s(s) {
-        int lugar = 0;
-        for (const auto& v : valores)
-            Enlazar(s, ++lugar, v);
-    }
-    ~Corrida() { sqlite3_reset(m_s); }
-    Corrida(const Corrida&) = delete;
-    Corrida& operator=(const Corrida&) = delete;
-    int Paso() { return sqlite3_step(m_s); }
-
-private:
-    sqlite3_stmt* m_s;
-};
-
-std::size_t Caracteres(std::string_view t) {
-    return static_cast<std::size_t>(std::count_if(
-        t.begin(), t.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
-// What a column keeps of an assigned value: typed numbers and dates become numbers and dates.
-Valor Convertido(const Valor& v, const ColumnaTabla& c) {
-    const auto fallar = [&](const std::string& que) {
-        throw ErrorAlmacen(CodigoError::TipoInadecuado, que + " (" + c.nombre + ": " + TextoDe(v) + ")");
-    };
-    const auto* texto = std::get_if<std::string>(&v);
-    if (EsNulo(v))
-        return c.tipo == TipoColumna::SiNo ? Valor(std::int64_t{0}) : v;
-    switch (c.tipo) {
-    case TipoColumna::Texto:
-    case TipoColumna::Memo: {
-        Valor t = texto ? v : Valor(TextoDe(v));
-        if (c.anchura > 0 && Caracteres(std::get<std::string>(t)) > static_cast<std::size_t>(c.anchura))
-            fallar("El texto es demasiado largo; caben " + std::to_string(c.anchura) + " caracteres");
-        return t;
-    }
-    case TipoColumna::Fecha:
-    case TipoColumna::FechaHora:
-        // A text that is no date is kept as it was typed.
-        if (texto)
-            if (const auto f = FechaDeTexto(*texto))
-                return *f;
-        return v;
-    case TipoColumna::Doble:
-    case TipoColumna::Largo:
-    case TipoColumna::SiNo: {
-        double n = NumeroDe(v);
-        if (texto && !NumeroDeTexto(*texto, n))
-            fallar("El texto no es un número");
-        if (c.tipo == TipoColumna::Doble)
-            return n;
-        if (std::abs(n) > 9.0e15)
-            fallar("El número es demasiado grande");
-        return static_cast<std::int64_t>(std::nearbyint(n)); // halves to even
-    }
-    case TipoColumna::Otro:
-        break;
-    }
-    return v;
+// A text stays where it is until the statement has run; it must not change meanwhile.
+void EnlazarSinCopia(sqlite3_stmt* s, int lugar, const Valor& v) {
+    if (const auto* t = std::get_if<std::string>(&v))
+        sqlite3_bind_text64(s, lugar, t->data(), t->size(), SQLITE_STATIC, SQLITE_UTF8);
+    else
+        Enlazar(s, lugar, v);
 }
 
 } // namespace
@@ -91,14 +38,14 @@ struct Recordset::Interior {
     bool abierto = true;
     Filas filas;
     std::size_t actual = 0;
-    bool nueva = false;
-    std::vector<std::pair<int, Valor>> pendientes;
+    // Which row the fields are of: one of those read, one that is being added, or the one that has just been added.
+    enum class Fila { Leida, Nueva, Añadida } fila = Fila::Leida;
+    Pendientes pendientes;
+    Filas añadida; // at most one row: the last one added, once somebody asks for it
+    std::int64_t idAñadida = 0;
     // The last INSERT, kept ready: loops assign the same columns row after row.
     std::vector<int> columnasInsercion;
-    sqlite3_stmt* insercion = nullptr;
-    std::vector<Valor> valores; // reused
-
-    ~Interior() { sqlite3_finalize(insercion); }
+    Instruccion insercion;
 
     const Traduccion& T() const { return preparada->De(); }
     const ColumnaSalida& Salida(int i) const { return T().salida[static_cast<std::size_t>(i)]; }
@@ -108,11 +55,29 @@ struct Recordset::Interior {
         throw ErrorAlmacen(codigo, texto, SentenciaVisible(sentencia));
     }
 
-    void ExigirFila() const {
+    void ExigirFila() {
+        if (fila != Fila::Leida || actual >= filas.Contar()) [[unlikely]]
+            ExigirOtraFila();
+    }
+
+    void ExigirOtraFila() {
         if (!abierto)
             Fallar(CodigoError::ObjetoCerrado, "La consulta está cerrada");
-        if (!nueva && actual >= filas.Contar())
+        if (fila == Fila::Leida && actual >= filas.Contar())
             Fallar(CodigoError::SinFilaActual, "No hay registro actual");
+        if (fila == Fila::Añadida && añadida.Contar() == 0)
+            TraerAñadida();
+    }
+
+    // Where the cells of the current row are.
+    Filas& Celdas() { return fila == Fila::Añadida ? añadida : filas; }
+    const Filas& Celdas() const { return fila == Fila::Añadida ? añadida : filas; }
+    std::size_t Linea() const { return fila == Fila::Añadida ? 0 : actual; }
+
+    void Abandonar() {
+        pendientes.Vaciar();
+        añadida.Vaciar();
+        fila = Fila::Leida;
     }
 
     void ExigirEscritura() const {
@@ -123,7 +88,7 @@ struct Recordset::Interior {
     }
 
     // The column behind a field that is about to be assigned.
-    const ColumnaTabla* Asignable(int columna) const {
+    const ColumnaTabla* Asignable(int columna) {
         ExigirEscritura();
         ExigirFila();
         const auto& salida = Salida(columna);
@@ -132,16 +97,13 @@ struct Recordset::Interior {
         return salida.columna;
     }
 
-    const Valor* Pendiente(int columna) const {
-        const auto it = std::find_if(pendientes.begin(), pendientes.end(),
-                                     [&](const auto& p) { return p.first == columna; });
-        return it == pendientes.end() ? nullptr : &it->second;
-    }
+    // Values of the row just added wait in `pendientes` until somebody asks for one, which loops never do.
+    const Valor* Pendiente(int columna) const { return pendientes.Buscar(columna); }
 
     Celda CeldaDe(int columna) const {
-        if (nueva)
-            return {};
-        return filas.Leer(actual, static_cast<std::size_t>(columna));
+        if (fila == Fila::Leida) [[likely]]
+            return filas.Leer(actual, static_cast<std::size_t>(columna));
+        return fila == Fila::Nueva ? Celda() : añadida.Leer(0, static_cast<std::size_t>(columna));
     }
 
     // The table whose row goes when a line of a join is deleted or added: the one on the many side.
@@ -154,7 +116,7 @@ struct Recordset::Interior {
     }
 
     std::int64_t FilaDe(std::size_t tabla) const {
-        const auto c = filas.Leer(actual, ColumnasVisibles() + tabla);
+        const auto c = Celdas().Leer(Linea(), ColumnasVisibles() + tabla);
         if (c.clase != Celda::Clase::Entero)
             Fallar(CodigoError::SinFilaActual,
                    "El registro no existe en la tabla " + T().tablas[tabla].tabla->nombre);
@@ -162,16 +124,12 @@ struct Recordset::Interior {
     }
 
     void Correr(const std::string& sql, const std::vector<Valor>& v) const {
-        auto* base = conexion->Manejador();
-        sqlite3_stmt* s = nullptr;
-        int codigo = sqlite3_prepare_v2(base, sql.c_str(), static_cast<int>(sql.size()), &s, nullptr);
-        if (codigo == SQLITE_OK)
-            codigo = Corrida(s, v).Paso();
-        const auto cambios = sqlite3_changes(base);
-        sqlite3_finalize(s);
-        if (codigo != SQLITE_DONE)
-            LanzarError(base, codigo, sentencia);
-        if (cambios == 0)
+        Instruccion s(conexion->Manejador(), sql, sentencia);
+        int lugar = 0;
+        for (const auto& valor : v)
+            s.Enlazar(++lugar, valor);
+        s.Correr();
+        if (sqlite3_changes(conexion->Manejador()) == 0)
             Fallar(CodigoError::SinFilaActual, "Otro proceso ha borrado el registro");
     }
 
@@ -180,7 +138,7 @@ struct Recordset::Interior {
         for (std::size_t t = 0; t < T().tablas.size(); ++t) {
             std::string asignaciones;
             std::vector<Valor> v;
-            for (const auto& [columna, valor] : pendientes)
+            for (const auto& [columna, valor] : pendientes.Todas())
                 if (Salida(columna).tabla == T().tablas[t].tabla) {
                     asignaciones += (asignaciones.empty() ? "" : ", ") +
                                     Entrecomillar(Salida(columna).columna->nombre) + " = ?";
@@ -193,75 +151,74 @@ struct Recordset::Interior {
                        " WHERE rowid = ?",
                    v);
         }
-        for (const auto& [columna, valor] : pendientes)
-            filas.Poner(actual, static_cast<std::size_t>(columna), valor);
+        for (const auto& [columna, valor] : pendientes.Todas())
+            Celdas().Poner(Linea(), static_cast<std::size_t>(columna), valor);
+        pendientes.Vaciar();
     }
 
     void PrepararInsercion(const TablaCatalogo& tabla) {
-        sqlite3_finalize(insercion);
-        insercion = nullptr;
         columnasInsercion.clear();
         std::string columnas;
         std::string marcas;
-        for (const auto& p : pendientes) {
-            columnasInsercion.push_back(p.first);
-            columnas += (columnas.empty() ? "" : ", ") + Entrecomillar(Salida(p.first).columna->nombre);
+        for (const auto& p : pendientes.Todas()) {
+            columnasInsercion.push_back(p.columna);
+            columnas += (columnas.empty() ? "" : ", ") + Entrecomillar(Salida(p.columna).columna->nombre);
             marcas += marcas.empty() ? "?" : ", ?";
         }
         const auto sql =
             "INSERT INTO " + Entrecomillar(tabla.nombre) +
             (columnas.empty() ? " DEFAULT VALUES" : " (" + columnas + ") VALUES (" + marcas + ")");
-        auto* base = conexion->Manejador();
-        if (const int codigo =
-                sqlite3_prepare_v2(base, sql.c_str(), static_cast<int>(sql.size()), &insercion, nullptr);
-            codigo != SQLITE_OK)
-            LanzarError(base, codigo, sentencia);
+        insercion = Instruccion(conexion->Manejador(), sql, sentencia, true);
     }
 
     void Insertar() {
-        const auto lugar = TablaDeMuchos();
-        const auto& tabla = *T().tablas[lugar].tabla;
+        const auto& tabla = *T().tablas[TablaDeMuchos()].tabla;
+        const auto asignadas = pendientes.Todas();
         for (const auto& c : tabla.clave)
-            if (std::none_of(pendientes.begin(), pendientes.end(), [&](const auto& p) {
-                    return Salida(p.first).columna->nombre == c && !EsNulo(p.second);
+            if (std::none_of(asignadas.begin(), asignadas.end(), [&](const auto& p) {
+                    return Salida(p.columna).columna->nombre == c && !EsNulo(p.valor);
                 }))
                 Fallar(CodigoError::Restriccion, "Falta un dato obligatorio: " + c);
-        const bool lista = insercion && columnasInsercion.size() == pendientes.size() &&
-                           std::equal(pendientes.begin(), pendientes.end(), columnasInsercion.begin(),
-                                      [](const auto& p, int c) { return p.first == c; });
+        const bool lista = insercion && std::equal(asignadas.begin(), asignadas.end(),
+                                                   columnasInsercion.begin(), columnasInsercion.end(),
+                                                   [](const auto& p, int c) { return p.columna == c; });
         if (!lista)
             PrepararInsercion(tabla);
         int n = 0;
-        for (const auto& p : pendientes)
-            Enlazar(insercion, ++n, p.second);
-        const int codigo = sqlite3_step(insercion);
-        if (codigo != SQLITE_DONE) {
-            sqlite3_reset(insercion);
-            LanzarError(conexion->Manejador(), codigo, sentencia);
-        }
-        sqlite3_reset(insercion);
-        actual = filas.Añadir();
+        for (const auto& p : asignadas)
+            EnlazarSinCopia(insercion.Manejador(), ++n, p.valor);
+        insercion.Correr();
+        idAñadida = sqlite3_last_insert_rowid(conexion->Manejador());
+        fila = Fila::Añadida;
+    }
+
+    void TraerAñadida() {
+        añadida.Columnas(ColumnasVisibles() + T().tablas.size());
+        añadida.Añadir();
         for (std::size_t i = 0; i < ColumnasVisibles(); ++i)
             if (Salida(static_cast<int>(i)).tipo == TipoColumna::SiNo)
-                filas.Poner(actual, i, Valor(std::int64_t{0}));
-        for (const auto& [columna, valor] : pendientes)
-            filas.Poner(actual, static_cast<std::size_t>(columna), valor);
-        filas.Poner(actual, ColumnasVisibles() + lugar,
-                    Valor(static_cast<std::int64_t>(sqlite3_last_insert_rowid(conexion->Manejador()))));
-        nueva = false;
+                añadida.Poner(0, i, Valor(std::int64_t{0}));
+        for (const auto& [columna, valor] : pendientes.Todas())
+            añadida.Poner(0, static_cast<std::size_t>(columna), valor);
+        añadida.Poner(0, ColumnasVisibles() + TablaDeMuchos(), Valor(idAñadida));
+        pendientes.Vaciar();
+    }
+
+    void Preparar(Conexion& c, std::string_view texto, bool conFilas, std::vector<Valor>& literales) {
+        conexion = &c;
+        sentencia = texto;
+        preparada = c.Preparar(texto, conFilas, literales);
+        if (T().clase != ClaseSentencia::Select)
+            Fallar(CodigoError::Sintaxis, "Solo se puede abrir una consulta SELECT");
+        escribible = conFilas && T().escribible;
+        pendientes.Columnas(ColumnasVisibles());
     }
 };
 
 Recordset::Recordset(Conexion& conexion, std::string_view sentencia, Cursor, Bloqueo bloqueo)
     : m(std::make_unique<Interior>()) {
-    const bool conFilas = bloqueo == Bloqueo::Optimista;
     std::vector<Valor> literales;
-    m->conexion = &conexion;
-    m->sentencia = sentencia;
-    m->preparada = conexion.Preparar(sentencia, conFilas, literales);
-    if (m->T().clase != ClaseSentencia::Select)
-        m->Fallar(CodigoError::Sintaxis, "Solo se puede abrir una consulta SELECT");
-    m->escribible = conFilas && m->T().escribible;
+    m->Preparar(conexion, sentencia, bloqueo == Bloqueo::Optimista, literales);
     auto* s = m->preparada->Manejador();
     Corrida corrida(s, literales);
     m->filas.Columnas(static_cast<std::size_t>(sqlite3_column_count(s)));
@@ -270,6 +227,16 @@ Recordset::Recordset(Conexion& conexion, std::string_view sentencia, Cursor, Blo
         m->filas.Añadir(s);
     if (codigo != SQLITE_DONE)
         LanzarError(conexion.Manejador(), codigo, sentencia);
+}
+
+Recordset::Recordset(std::unique_ptr<Interior> interior)
+    : m(std::move(interior)) {}
+
+Recordset Recordset::ParaAñadir(Conexion& conexion, std::string_view sentencia) {
+    auto interior = std::make_unique<Interior>();
+    std::vector<Valor> literales;
+    interior->Preparar(conexion, sentencia, true, literales);
+    return Recordset(std::move(interior));
 }
 
 Recordset::~Recordset() = default;
@@ -323,23 +290,21 @@ Campo Recordset::operator[](int indice) {
 
 void Recordset::AddNew() {
     m->ExigirEscritura();
-    m->pendientes.clear();
-    m->nueva = true;
+    m->Abandonar();
+    m->fila = Interior::Fila::Nueva;
 }
 
 void Recordset::Update() {
     m->ExigirEscritura();
     m->ExigirFila();
-    if (m->nueva)
+    if (m->fila == Interior::Fila::Nueva)
         m->Insertar();
-    else if (!m->pendientes.empty())
+    else if (!m->pendientes.Vacio())
         m->Cambiar();
-    m->pendientes.clear();
 }
 
 void Recordset::CancelarCambios() {
-    m->pendientes.clear();
-    m->nueva = false;
+    m->Abandonar();
 }
 
 void Recordset::Delete() {
@@ -367,7 +332,7 @@ std::string_view Campo::Vista() const {
         return t ? std::string_view(*t) : std::string_view();
     }
     const auto c = m_r.m->CeldaDe(m_indice);
-    return c.clase == Celda::Clase::Texto ? m_r.m->filas.Texto(c) : std::string_view();
+    return c.clase == Celda::Clase::Texto ? m_r.m->Celdas().Texto(c) : std::string_view();
 }
 
 std::string Campo::Texto() const {
@@ -376,7 +341,7 @@ std::string Campo::Texto() const {
 
 double Campo::Numero() const {
     m_r.m->ExigirFila();
-    if (m_r.m->pendientes.empty()) {
+    if (m_r.m->pendientes.Vacio()) {
         const auto c = m_r.m->CeldaDe(m_indice);
         if (c.clase == Celda::Clase::Real)
             return c.real;
@@ -390,7 +355,7 @@ double Campo::Numero() const {
 
 std::int64_t Campo::Entero() const {
     m_r.m->ExigirFila();
-    if (m_r.m->pendientes.empty())
+    if (m_r.m->pendientes.Vacio())
         if (const auto c = m_r.m->CeldaDe(m_indice); c.clase == Celda::Clase::Entero)
             return c.entero;
     return static_cast<std::int64_t>(std::nearbyint(Numero()));
@@ -420,31 +385,36 @@ Valor Campo::Leer() const {
     case Celda::Clase::Texto:
         break;
     }
-    const auto t = m_r.m->filas.Texto(c);
+    const auto t = m_r.m->Celdas().Texto(c);
     if (EsFecha(m_r.m->Salida(m_indice).tipo))
         if (const auto f = FechaDeIso(t))
             return *f;
     return std::string(t);
 }
 
-Campo& Campo::operator=(const Valor& v) {
+Campo& Campo::operator=(Valor v) {
     const auto* columna = m_r.m->Asignable(m_indice);
-    Asignar(Convertido(v, *columna));
+    v = Convertido(std::move(v), *columna);
+    m_r.m->pendientes.De(m_indice) = std::move(v);
+    return *this;
+}
+
+Campo& Campo::operator=(std::string_view texto) {
+    const auto* columna = m_r.m->Asignable(m_indice);
+    if (!EsTexto(columna->tipo))
+        return *this = Valor(std::string(texto));
+    ExigirAnchura(texto, *columna);
+    Valor& v = m_r.m->pendientes.De(m_indice);
+    if (auto* t = std::get_if<std::string>(&v))
+        t->assign(texto);
+    else
+        v = std::string(texto);
     return *this;
 }
 
 void Campo::Reponer(const Valor& leido) {
     const auto* columna = m_r.m->Asignable(m_indice);
-    Asignar(EsNulo(leido) ? Convertido(leido, *columna) : leido);
-}
-
-void Campo::Asignar(Valor v) {
-    auto& p = m_r.m->pendientes;
-    const auto it = std::find_if(p.begin(), p.end(), [&](const auto& x) { return x.first == m_indice; });
-    if (it != p.end())
-        it->second = std::move(v);
-    else
-        p.emplace_back(m_indice, std::move(v));
+    m_r.m->pendientes.De(m_indice) = EsNulo(leido) ? Convertido(leido, *columna) : leido;
 }
 
 double SiguienteId(Conexion& conexion, std::string_view sentencia, int indice) {

@@ -30,12 +30,12 @@ public:
 
     // Converts as the column asks: a typed number or date text is taken in the program's own form. Throws
     // ErrorAlmacen(TipoInadecuado) for a text that is no number in a number column or one that is too long.
-    Campo& operator=(const Valor& v);
+    Campo& operator=(Valor v);
     // Puts back what was read from this very column, as it is: a text in a number column, one longer than the column is wide.
     void Reponer(const Valor& leido);
-    Campo& operator=(std::string_view texto) { return *this = Valor(std::string(texto)); }
-    Campo& operator=(const char* texto) { return *this = Valor(std::string(texto)); }
-    Campo& operator=(const std::string& texto) { return *this = Valor(texto); }
+    Campo& operator=(std::string_view texto);
+    Campo& operator=(const char* texto) { return *this = std::string_view(texto); }
+    Campo& operator=(const std::string& texto) { return *this = std::string_view(texto); }
     Campo& operator=(double n) { return *this = Valor(n); }
     Campo& operator=(int n) { return *this = Valor(static_cast<std::int64_t>(n)); }
     Campo& operator=(std::int64_t n) { return *this = Valor(n); }
@@ -44,7 +44,6 @@ public:
 
 private:
     friend class Recordset;
-    void Asignar(Valor v);
     Campo(Recordset& r, int indice)
         : m_r(r)
         , m_indice(indice) {}
@@ -53,13 +52,16 @@ private:
 };
 
 // An open query, closed by its destructor. The rows are read when it opens and do not follow later changes of others, so that
-// a walk never meets a row twice. Writing goes row by row to the tables the fields come from, over joins too.
+// a walk never meets a row twice, nor one that was added through it. Writing goes row by row to the tables the fields come from, over
+// joins too.
 class Recordset {
 public:
     Recordset(Conexion& conexion, std::string_view sentencia, Cursor cursor = Cursor::Keyset,
               Bloqueo bloqueo = Bloqueo::Optimista);
     ~Recordset();
     Recordset(Recordset&&) noexcept;
+    // Opens a query for new rows alone: none of those that are there is read.
+    static Recordset ParaAñadir(Conexion& conexion, std::string_view sentencia);
     Recordset& operator=(Recordset&&) = delete;
 
     bool Eof() const;
@@ -77,7 +79,8 @@ public:
     Campo operator[](std::string_view nombre);
     Campo operator[](int indice);
 
-    // A new row of the query's one table; or, for a join, of the table on the many side. Assign, then Update().
+    // A new row of the query's one table; or, for a join, of the table on the many side. Assign, then Update(). It is the current one
+    // until the cursor moves.
     void AddNew();
     // Writes the assigned fields of the current or the new row. Throws ErrorAlmacen(Restriccion) and leaves the database as it was.
     void Update();
@@ -90,6 +93,7 @@ public:
 private:
     friend class Campo;
     struct Interior;
+    explicit Recordset(std::unique_ptr<Interior> interior);
     std::unique_ptr<Interior> m;
 };
 

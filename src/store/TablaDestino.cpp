@@ -1,7 +1,5 @@
 #include "store/TablaDestino.h"
 
-#include "store/Errores.h"
-#include "store/Preparada.h"
 #include "store/Textos.h"
 #include "store/Valor.h"
 
@@ -76,10 +74,6 @@ TablaDestino::TablaDestino(sqlite3* base, const TablaCatalogo& canonica)
     : m_base(base)
     , m_canonica(canonica) {}
 
-TablaDestino::~TablaDestino() {
-    sqlite3_finalize(m_insercion);
-}
-
 bool TablaDestino::Reconocer(const access::Columna& columna) {
     const int lugar = m_canonica.Buscar(columna.nombre);
     if (lugar < 0)
@@ -91,10 +85,8 @@ bool TablaDestino::Reconocer(const access::Columna& columna) {
 
 void TablaDestino::Ampliar(const access::Columna& columna) {
     const auto c = ColumnaPara(columna);
-    const auto sql = "ALTER TABLE " + Entrecomillar(m_canonica.nombre) + " ADD COLUMN " +
-                     Entrecomillar(c.nombre) + " " + DeclaracionCompleta(c);
-    if (const int codigo = sqlite3_exec(m_base, sql.c_str(), nullptr, nullptr, nullptr); codigo != SQLITE_OK)
-        LanzarError(m_base, codigo, sql);
+    EjecutarDirecto(m_base, "ALTER TABLE " + Entrecomillar(m_canonica.nombre) + " ADD COLUMN " +
+                                Entrecomillar(c.nombre) + " " + DeclaracionCompleta(c));
     Añadir(columna);
 }
 
@@ -119,11 +111,8 @@ void TablaDestino::Preparar() {
         columnas += (columnas.empty() ? "" : ", ") + Entrecomillar(d.nombre);
         marcas += marcas.empty() ? "?" : ", ?";
     }
-    const auto sql =
-        "INSERT INTO " + Entrecomillar(m_canonica.nombre) + " (" + columnas + ") VALUES (" + marcas + ")";
-    if (const int codigo = sqlite3_prepare_v2(m_base, sql.c_str(), -1, &m_insercion, nullptr);
-        codigo != SQLITE_OK)
-        LanzarError(m_base, codigo, sql);
+    m_insercion = Instruccion(m_base, "INSERT INTO " + Entrecomillar(m_canonica.nombre) + " (" + columnas +
+                                          ") VALUES (" + marcas + ")");
 }
 
 void TablaDestino::Escribir(std::span<const access::Celda> fila) {
@@ -132,25 +121,24 @@ void TablaDestino::Escribir(std::span<const access::Celda> fila) {
         const int lugar = static_cast<int>(i) + 1;
         if (std::holds_alternative<std::monostate>(fila[i])) {
             if (d.noNula)
-                sqlite3_bind_int(m_insercion, lugar, 0);
+                sqlite3_bind_int(m_insercion.Manejador(), lugar, 0);
             else
-                sqlite3_bind_null(m_insercion, lugar);
+                sqlite3_bind_null(m_insercion.Manejador(), lugar);
         } else if (!EnlazarCelda(lugar, fila[i], d.tipo)) {
             ++m_raros[d.nombre];
         }
     }
-    if (const int codigo = sqlite3_step(m_insercion); codigo != SQLITE_DONE)
-        LanzarError(m_base, codigo, "INSERT INTO " + m_canonica.nombre);
-    sqlite3_reset(m_insercion);
+    m_insercion.Correr();
 }
 
 void TablaDestino::EnlazarTexto(int lugar, const std::string& texto) {
-    sqlite3_bind_text64(m_insercion, lugar, texto.data(), texto.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    sqlite3_bind_text64(m_insercion.Manejador(), lugar, texto.data(), texto.size(), SQLITE_TRANSIENT,
+                        SQLITE_UTF8);
 }
 
 bool TablaDestino::EnlazarCelda(int lugar, const access::Celda& celda, TipoColumna tipo) {
     if (const auto* bytes = std::get_if<access::Bytes>(&celda)) {
-        sqlite3_bind_blob64(m_insercion, lugar, bytes->data(), bytes->size(), SQLITE_TRANSIENT);
+        sqlite3_bind_blob64(m_insercion.Manejador(), lugar, bytes->data(), bytes->size(), SQLITE_TRANSIENT);
         return tipo == TipoColumna::Otro;
     }
     switch (tipo) {
@@ -162,15 +150,15 @@ bool TablaDestino::EnlazarCelda(int lugar, const access::Celda& celda, TipoColum
         return EnlazarFechaEn(lugar, celda);
     case TipoColumna::SiNo:
         if (const auto* b = std::get_if<bool>(&celda)) {
-            sqlite3_bind_int(m_insercion, lugar, *b ? -1 : 0);
+            sqlite3_bind_int(m_insercion.Manejador(), lugar, *b ? -1 : 0);
             return true;
         }
         if (const auto* n = std::get_if<std::int64_t>(&celda)) {
-            sqlite3_bind_int(m_insercion, lugar, *n != 0 ? -1 : 0);
+            sqlite3_bind_int(m_insercion.Manejador(), lugar, *n != 0 ? -1 : 0);
             return true;
         }
         if (const auto* n = std::get_if<double>(&celda)) {
-            sqlite3_bind_int(m_insercion, lugar, *n != 0 ? -1 : 0);
+            sqlite3_bind_int(m_insercion.Manejador(), lugar, *n != 0 ? -1 : 0);
             return true;
         }
         return EnlazarTextoEn(lugar, celda);
@@ -182,7 +170,7 @@ bool TablaDestino::EnlazarCelda(int lugar, const access::Celda& celda, TipoColum
 bool TablaDestino::EnlazarTextoEn(int lugar, const access::Celda& celda) {
     if (const auto* t = std::get_if<std::string>(&celda)) {
         // The row outlives the statement's run: no copy.
-        sqlite3_bind_text64(m_insercion, lugar, t->data(), t->size(), SQLITE_STATIC, SQLITE_UTF8);
+        sqlite3_bind_text64(m_insercion.Manejador(), lugar, t->data(), t->size(), SQLITE_STATIC, SQLITE_UTF8);
         return true;
     }
     if (const auto* b = std::get_if<bool>(&celda))
@@ -198,26 +186,30 @@ bool TablaDestino::EnlazarTextoEn(int lugar, const access::Celda& celda) {
 
 bool TablaDestino::EnlazarNumeroEn(int lugar, const access::Celda& celda) {
     if (const auto* n = std::get_if<std::int64_t>(&celda)) {
-        sqlite3_bind_int64(m_insercion, lugar, *n);
+        sqlite3_bind_int64(m_insercion.Manejador(), lugar, *n);
         return true;
     }
     if (const auto* d = std::get_if<double>(&celda)) {
-        sqlite3_bind_double(m_insercion, lugar, *d);
+        sqlite3_bind_double(m_insercion.Manejador(), lugar, *d);
         return true;
     }
     if (const auto* b = std::get_if<bool>(&celda)) {
-        sqlite3_bind_int(m_insercion, lugar, *b ? -1 : 0);
+        sqlite3_bind_int(m_insercion.Manejador(), lugar, *b ? -1 : 0);
         return true;
     }
     if (const auto* m = std::get_if<access::Momento>(&celda)) {
         EnlazarTexto(lugar, FormatoFecha(FechaDe(*m), "dd/mm/yyyy"));
         return false;
     }
-    // Currency and decimals come as exact texts, which the column turns into numbers; other texts stay texts.
+    // Currency and decimals come as exact texts, which the column turns into numbers; of other texts those do that read as one.
     const auto& t = std::get<std::string>(celda);
     double n = 0;
-    EnlazarTexto(lugar, t);
-    return NumeroDeTexto(t, n);
+    const bool esNumero = NumeroDeTexto(t, n);
+    if (esNumero && t.find_first_of(", ") != std::string::npos)
+        sqlite3_bind_double(m_insercion.Manejador(), lugar, n);
+    else
+        EnlazarTexto(lugar, t);
+    return esNumero;
 }
 
 bool TablaDestino::EnlazarFechaEn(int lugar, const access::Celda& celda) {
@@ -234,14 +226,9 @@ bool TablaDestino::EnlazarFechaEn(int lugar, const access::Celda& celda) {
 }
 
 std::uint64_t TablaDestino::Contar() const {
-    sqlite3_stmt* s = nullptr;
-    const auto sql = "SELECT count(*) FROM " + Entrecomillar(m_canonica.nombre);
-    std::uint64_t n = 0;
-    if (sqlite3_prepare_v2(m_base, sql.c_str(), -1, &s, nullptr) == SQLITE_OK &&
-        sqlite3_step(s) == SQLITE_ROW)
-        n = static_cast<std::uint64_t>(sqlite3_column_int64(s, 0));
-    sqlite3_finalize(s);
-    return n;
+    Instruccion s(m_base, "SELECT count(*) FROM " + Entrecomillar(m_canonica.nombre));
+    s.Fila();
+    return static_cast<std::uint64_t>(s.Entero(0));
 }
 
 std::vector<std::string> TablaDestino::Curiosidades() const {

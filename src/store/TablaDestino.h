@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/Catalogo.h"
+#include "store/Instruccion.h"
 
 #include "access/BaseAccess.h"
 
@@ -9,9 +10,6 @@
 #include <string>
 #include <vector>
 
-struct sqlite3;
-struct sqlite3_stmt;
-
 namespace pastorix {
 
 // One table of a database under conversion: which column of the Access table goes to which of ours, and how its values are
@@ -19,7 +17,6 @@ namespace pastorix {
 class TablaDestino {
 public:
     TablaDestino(sqlite3* base, const TablaCatalogo& canonica);
-    ~TablaDestino();
     TablaDestino(const TablaDestino&) = delete;
     TablaDestino& operator=(const TablaDestino&) = delete;
 
@@ -59,7 +56,7 @@ private:
     const TablaCatalogo& m_canonica;
     std::vector<Destino> m_destinos; // one per column of the Access table, in its order
     std::map<std::string, int> m_raros;
-    sqlite3_stmt* m_insercion = nullptr;
+    Instruccion m_insercion;
 };
 
 } // namespace pastorix

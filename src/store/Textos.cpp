@@ -111,6 +111,14 @@ int CompararEspañol(std::string_view a, std::string_view b) {
     return j < b.size() ? -1 : acento;
 }
 
+std::u32string ClaveDeBusqueda(std::string_view texto) {
+    std::u32string clave;
+    clave.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size();)
+        clave += static_cast<char32_t>(PesoDe(Siguiente(texto, i)).primario);
+    return clave;
+}
+
 bool Parecido(std::string_view patron, std::string_view texto) {
     // Greedy match with one point of return: the last % seen and the text position it was tried from.
     std::size_t p = 0;

@@ -187,6 +187,8 @@ private:
     Bytes Fila(const TablaNueva& tabla, const FilaNueva& nueva) {
         const auto cuantas = nueva.columnas < 0 ? MaxColumnas(tabla) : std::size_t(nueva.columnas);
         Bytes mascara((cuantas + 7) / 8), fila = Numero(cuantas, int(m_f.cuenta));
+        if (cuantas % 8 != 0) // bits of no column mean nothing
+            mascara.back() = static_cast<std::uint8_t>(0xFFU << (cuantas % 8));
         std::vector<Bytes> variables;
         std::size_t fijos = 0;
         for (const ColumnaNueva& c : tabla.columnas)

@@ -119,171 +119,110 @@ private Q_SLOTS:
     void Concretos_data() {
         QTest::addColumn<void*>("estropear");
         QTest::addColumn<QString>("mensaje");
-        const auto Fila = [](const char* nombre, Estropear e, const char* mensaje) {
+        const auto Fila = [](const char* nombre, const char* mensaje, Estropear e) {
             QTest::newRow(nombre) << reinterpret_cast<void*>(e) << QString::fromUtf8(mensaje);
         };
-        Fila(
-            "two pages", [](Fichero& f) { f.b.resize(2 * P); }, "cortado: mide 8192 bytes");
-        Fila(
-            "not whole pages", [](Fichero& f) { f.b.pop_back(); }, "páginas enteras");
-        Fila(
-            "last page lost", [](Fichero& f) { f.b.resize(f.b.size() - P); }, "cortado: faltan páginas");
-        Fila(
-            "creation date", [](Fichero& f) { f.PonerEnCabecera(0x78, 0x7FF8); }, "fecha de creación");
-        Fila(
-            "catalogue's type column",
-            [](Fichero& f) { f.b[2 * P + Jet4.finFijo + 2 * Jet4.descriptor] = 4; },
-            "no tiene la columna Type");
-        Fila(
-            "catalogue's page owner", [](Fichero& f) { f.b[f.b.size() - P + 4] = 3; }, "de otra tabla");
-        Fila(
-            "two tables, one definition",
-            [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, f.def / P, 4); },
-            "la definición de otra");
-        Fila(
-            "table without definition", [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, 9999, 4); },
-            "la página 9999, que no existe");
+        Fila("two pages", "cortado: mide 8192 bytes", [](Fichero& f) { f.b.resize(2 * P); });
+        Fila("not whole pages", "páginas enteras", [](Fichero& f) { f.b.pop_back(); });
+        Fila("last page lost", "cortado: faltan páginas", [](Fichero& f) { f.b.resize(f.b.size() - P); });
+        Fila("creation date", "fecha de creación", [](Fichero& f) { f.PonerEnCabecera(0x78, 0x7FF8); });
+        Fila("catalogue's type column", "no tiene la columna Type",
+             [](Fichero& f) { f.b[2 * P + Jet4.finFijo + 2 * Jet4.descriptor] = 4; });
+        Fila("catalogue's page owner", "de otra tabla", [](Fichero& f) { f.b[f.b.size() - P + 4] = 3; });
+        Fila("two tables, one definition", "la definición de otra",
+             [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, f.def / P, 4); });
+        Fila("table without definition", "la página 9999, que no existe",
+             [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, 9999, 4); });
 
-        Fila(
-            "definition loops", [](Fichero& f) { f.Poner(f.def + 4, f.def / P, 4); }, "ya usada");
-        Fila(
-            "definition goes on in data", [](Fichero& f) { f.Poner(f.def + 4, f.datos / P, 4); },
-            "no es de la clase");
-        Fila(
-            "definition too long", [](Fichero& f) { f.Poner(f.def + 8, P + 1, 4); }, "un largo imposible");
-        Fila(
-            "definition too short", [](Fichero& f) { f.Poner(f.def + 8, 62, 4); }, "un largo imposible");
-        Fila(
-            "definition ends late", [](Fichero& f) { f.Poner(f.def + 8, f.Leer(f.def + 8, 4) + 1, 4); },
-            "no termina donde debe");
-        Fila(
-            "kind of table", [](Fichero& f) { f.b[f.def + Jet4.tipoTabla] = 0; }, "ninguna clase");
-        Fila(
-            "more columns than ever", [](Fichero& f) { f.b[f.def + Jet4.columnas] = 9; },
-            "imposible de columnas");
-        Fila(
-            "256 columns", [](Fichero& f) { f.Poner(f.def + Jet4.maxColumnas, 256, 2); },
-            "imposible de columnas");
-        Fila(
-            "many indexes", [](Fichero& f) { f.Poner(f.def + Jet4.indicesReales, 0x10000001, 4); },
-            "de índices");
-        Fila(
-            "column twice", [](Fichero& f) { f.b[f.Columna(1) + Jet4.numero] = 0; },
-            "repite un número de columna");
-        Fila(
-            "column number", [](Fichero& f) { f.b[f.Columna(1) + Jet4.numero] = 8; }, "demasiado alto");
+        Fila("definition loops", "ya usada", [](Fichero& f) { f.Poner(f.def + 4, f.def / P, 4); });
+        Fila("definition goes on in data", "no es de la clase",
+             [](Fichero& f) { f.Poner(f.def + 4, f.datos / P, 4); });
+        Fila("definition too long", "un largo imposible", [](Fichero& f) { f.Poner(f.def + 8, P + 1, 4); });
+        Fila("definition too short", "un largo imposible", [](Fichero& f) { f.Poner(f.def + 8, 62, 4); });
+        Fila("definition ends late", "no termina donde debe",
+             [](Fichero& f) { f.Poner(f.def + 8, f.Leer(f.def + 8, 4) + 1, 4); });
+        Fila("kind of table", "ninguna clase", [](Fichero& f) { f.b[f.def + Jet4.tipoTabla] = 0; });
+        Fila("more columns than ever", "imposible de columnas",
+             [](Fichero& f) { f.b[f.def + Jet4.columnas] = 9; });
+        Fila("256 columns", "imposible de columnas",
+             [](Fichero& f) { f.Poner(f.def + Jet4.maxColumnas, 256, 2); });
+        Fila("many indexes", "de índices",
+             [](Fichero& f) { f.Poner(f.def + Jet4.indicesReales, 0x10000001, 4); });
+        Fila("column twice", "repite un número de columna",
+             [](Fichero& f) { f.b[f.Columna(1) + Jet4.numero] = 0; });
+        Fila("column number", "demasiado alto", [](Fichero& f) { f.b[f.Columna(1) + Jet4.numero] = 8; });
 
-        Fila(
-            "map elsewhere", [](Fichero& f) { f.b[f.def + Jet4.mapaPropio] = 200; }, "se busca la fila 200");
-        Fila(
-            "map in no page", [](Fichero& f) { f.Poner(f.def + Jet4.mapaPropio, 0, 4); }, "la cabecera");
-        Fila(
-            "short map", [](Fichero& f) { f.Poner(f.Entrada(f.plano.mapas * P, 0), P - 4, 2); },
-            "demasiado corto");
-        Fila(
-            "kind of map", [](Fichero& f) { f.b[f.Mapa()] = 2; }, "clase desconocida");
-        Fila(
-            "map beyond the file", [](Fichero& f) { f.Poner(f.Mapa() + 1, 0xFFFFFFFF, 4); },
-            "cortado: tabla Pesadas");
-        Fila(
-            "map's bitmap", [](Fichero& f) { f.b[f.plano.bitmap * P] = 1; },
-            "tabla Otra: la página no es de la clase");
-        Fila(
-            "bitmap of later pages",
-            [](Fichero& f) {
-                const std::size_t mapa = f.Fila(f.plano.mapas * P, 1);
-                f.Poner(mapa + 1, 0, 4);
-                f.Poner(mapa + 5, f.plano.bitmap, 4);
-            },
-            "cortado: tabla Otra: faltan páginas de datos (la 32");
-        Fila(
-            "bitmap twice", [](Fichero& f) { f.Poner(f.Fila(f.plano.mapas * P, 1) + 5, f.plano.bitmap, 4); },
-            "repite una de sus partes");
+        Fila("map elsewhere", "se busca la fila 200", [](Fichero& f) { f.b[f.def + Jet4.mapaPropio] = 200; });
+        Fila("map in no page", "la cabecera", [](Fichero& f) { f.Poner(f.def + Jet4.mapaPropio, 0, 4); });
+        Fila("short map", "demasiado corto",
+             [](Fichero& f) { f.Poner(f.Entrada(f.plano.mapas * P, 0), P - 4, 2); });
+        Fila("kind of map", "clase desconocida", [](Fichero& f) { f.b[f.Mapa()] = 2; });
+        Fila("map beyond the file", "cortado: tabla Pesadas",
+             [](Fichero& f) { f.Poner(f.Mapa() + 1, 0xFFFFFFFF, 4); });
+        Fila("map's bitmap", "tabla Otra: la página no es de la clase",
+             [](Fichero& f) { f.b[f.plano.bitmap * P] = 1; });
+        Fila("bitmap of later pages", "cortado: tabla Otra: faltan páginas de datos (la 32", [](Fichero& f) {
+            const std::size_t mapa = f.Fila(f.plano.mapas * P, 1);
+            f.Poner(mapa + 1, 0, 4);
+            f.Poner(mapa + 5, f.plano.bitmap, 4);
+        });
+        Fila("bitmap twice", "repite una de sus partes",
+             [](Fichero& f) { f.Poner(f.Fila(f.plano.mapas * P, 1) + 5, f.plano.bitmap, 4); });
 
-        Fila(
-            "page of another kind", [](Fichero& f) { f.b[f.datos] = 4; }, "no es de la clase");
-        Fila(
-            "page of another table", [](Fichero& f) { f.b[f.datos + 4] ^= 1; }, "de otra tabla");
-        Fila(
-            "too many rows", [](Fichero& f) { f.Poner(f.datos + Jet4.numeroFilas, 5000, 2); },
-            "no cabe en su página");
-        Fila(
-            "overlapping rows", [](Fichero& f) { f.Poner(f.Entrada(f.datos, 1), 0xFFF, 2); },
-            "la fila 1 invade otra");
-        Fila(
-            "row in the row table", [](Fichero& f) { f.Poner(f.Entrada(f.datos, 12), 20, 2); },
-            "la fila 12 invade");
-        Fila(
-            "row before the one above", [](Fichero& f) { f.Poner(f.Entrada(f.datos, 0), 0x100, 2); },
-            "la fila 1 invade");
-        Fila(
-            "columns of a row", [](Fichero& f) { f.b[f.Fila(f.datos, 1)] = 9; }, "más columnas que su tabla");
-        Fila(
-            "fields of a row", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 3, 256, 2); },
-            "imposible de campos");
-        Fila(
-            "fields past the row", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 3, 200, 2); },
-            "imposible de campos");
-        Fila(
-            "field order", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 7, 500, 2); }, "se pisan");
-        Fila(
-            "end of the fields", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 11, 4000, 2); },
-            "se salen de ella");
-        Fila(
-            "field over the count", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 5, 1, 2); }, "se pisan");
-        Fila(
-            "fixed field", [](Fichero& f) { f.Poner(f.Columna(0) + Jet4.lugarFijo, 4000, 2); },
-            "se sale de su fila");
+        Fila("page of another kind", "no es de la clase", [](Fichero& f) { f.b[f.datos] = 4; });
+        Fila("page of another table", "de otra tabla", [](Fichero& f) { f.b[f.datos + 4] ^= 1; });
+        Fila("too many rows", "no cabe en su página",
+             [](Fichero& f) { f.Poner(f.datos + Jet4.numeroFilas, 5000, 2); });
+        Fila("overlapping rows", "la fila 1 invade otra",
+             [](Fichero& f) { f.Poner(f.Entrada(f.datos, 1), 0xFFF, 2); });
+        Fila("row in the row table", "la fila 12 invade",
+             [](Fichero& f) { f.Poner(f.Entrada(f.datos, 12), 20, 2); });
+        Fila("row before the one above", "la fila 1 invade",
+             [](Fichero& f) { f.Poner(f.Entrada(f.datos, 0), 0x100, 2); });
+        Fila("columns of a row", "más columnas que su tabla",
+             [](Fichero& f) { f.b[f.Fila(f.datos, 1)] = 9; });
+        Fila("fields of a row", "imposible de campos",
+             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 3, 256, 2); });
+        Fila("fields past the row", "imposible de campos",
+             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 3, 200, 2); });
+        Fila("field order", "se pisan", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 7, 500, 2); });
+        Fila("end of the fields", "se salen de ella",
+             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 11, 4000, 2); });
+        Fila("field over the count", "se pisan",
+             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 5, 1, 2); });
+        Fila("fixed field", "se sale de su fila",
+             [](Fichero& f) { f.Poner(f.Columna(0) + Jet4.lugarFijo, 4000, 2); });
 
-        Fila(
-            "moved to itself", [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.datos / P << 8 | 4, 4); },
-            "dos veces a la misma fila");
-        Fila(
-            "moved out of its table", [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.plano.mapas << 8, 4); },
-            "fuera de su tabla");
-        Fila(
-            "new place without its mark",
-            [](Fichero& f) { f.b[f.EntradaTrasladada(f.datos, 4) + 1] &= 0x7F; },
-            "dos veces a la misma fila");
-        Fila(
-            "two moved to one place",
-            [](Fichero& f) { f.Poner(f.Fila(f.datos2, 1), f.Leer(f.Fila(f.datos, 4), 4), 4); },
-            "dos veces a la misma fila");
+        Fila("moved to itself", "dos veces a la misma fila",
+             [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.datos / P << 8 | 4, 4); });
+        Fila("moved out of its table", "fuera de su tabla",
+             [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.plano.mapas << 8, 4); });
+        Fila("new place without its mark", "dos veces a la misma fila",
+             [](Fichero& f) { f.b[f.EntradaTrasladada(f.datos, 4) + 1] &= 0x7F; });
+        Fila("two moved to one place", "dos veces a la misma fila",
+             [](Fichero& f) { f.Poner(f.Fila(f.datos2, 1), f.Leer(f.Fila(f.datos, 4), 4), 4); });
 
-        Fila(
-            "memo's length", [](Fichero& f) { f.Poner(f.Memo(f.datos, 9), 0x7FFFFFFF, 4); },
-            "mayor que el fichero");
-        Fila(
-            "memo longer than its row", [](Fichero& f) { f.Poner(f.Memo(f.datos, 1), 0x80000100, 4); },
-            "se sale");
-        Fila(
-            "memo longer than its parts", [](Fichero& f) { f.Poner(f.Memo(f.datos2, 7), 3000, 4); },
-            "antes de tiempo");
-        Fila(
-            "memo outside", [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.datos / P << 8, 4); },
-            "no es de textos largos");
-        Fila(
-            "memo of a deleted part", [](Fichero& f) { f.b[f.Entrada(f.plano.largos * P, 0) + 1] |= 0x80; },
-            "borrada o trasladada");
-        Fila(
-            "two memos, one place",
-            [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.Leer(f.Memo(f.datos, 8) + 4, 4), 4); },
-            "comparten la fila");
-        Fila(
-            "two tables, one memo",
-            [](Fichero& f) {
-                const std::size_t otra =
-                    f.Fila(f.DatosDeOtra(), 0) + f.Leer(f.FinFila(f.DatosDeOtra(), 0) - 5, 2);
-                f.Poner(otra + 4, f.Leer(f.Memo(f.datos, 9) + 4, 4), 4);
-            },
-            "comparten la fila");
-        Fila(
-            "memo loops",
-            [](Fichero& f) {
-                const std::size_t puntero = f.Leer(f.Memo(f.datos2, 7) + 4, 4);
-                f.Poner(f.Fila((puntero >> 8) * P, puntero & 0xFF), puntero, 4);
-            },
-            "comparten la fila");
+        Fila("memo's length", "mayor que el fichero",
+             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9), 0x7FFFFFFF, 4); });
+        Fila("memo longer than its row", "se sale",
+             [](Fichero& f) { f.Poner(f.Memo(f.datos, 1), 0x80000100, 4); });
+        Fila("memo longer than its parts", "antes de tiempo",
+             [](Fichero& f) { f.Poner(f.Memo(f.datos2, 7), 3000, 4); });
+        Fila("memo outside", "no es de textos largos",
+             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.datos / P << 8, 4); });
+        Fila("memo of a deleted part", "borrada o trasladada",
+             [](Fichero& f) { f.b[f.Entrada(f.plano.largos * P, 0) + 1] |= 0x80; });
+        Fila("two memos, one place", "comparten la fila",
+             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.Leer(f.Memo(f.datos, 8) + 4, 4), 4); });
+        Fila("two tables, one memo", "comparten la fila", [](Fichero& f) {
+            const std::size_t otra =
+                f.Fila(f.DatosDeOtra(), 0) + f.Leer(f.FinFila(f.DatosDeOtra(), 0) - 5, 2);
+            f.Poner(otra + 4, f.Leer(f.Memo(f.datos, 9) + 4, 4), 4);
+        });
+        Fila("memo loops", "comparten la fila", [](Fichero& f) {
+            const std::size_t puntero = f.Leer(f.Memo(f.datos2, 7) + 4, 4);
+            f.Poner(f.Fila((puntero >> 8) * P, puntero & 0xFF), puntero, 4);
+        });
     }
     void Concretos() {
         QFETCH(void*, estropear);
@@ -401,13 +340,6 @@ private Q_SLOTS:
             } catch (const ErrorAccess& error) {
                 QVERIFY(error.DeClase() == ErrorAccess::Clase::NoSeLee);
             }
-        }
-        try {
-            BaseAccess::Abrir(PASTORIX_DATOS "/recortada.mdb");
-            QFAIL("a cut file was opened");
-        } catch (const ErrorAccess& error) {
-            QVERIFY(error.DeClase() == ErrorAccess::Clase::Dañado);
-            QCOMPARE(std::string(error.what()).find("El fichero está cortado: "), std::size_t(0));
         }
     }
 };

@@ -1,32 +1,23 @@
 #pragma once
 
+#include "BaseDePrueba.h"
+
 #include "frame/Arranque.h"
 #include "frame/Entrada.h"
-#include "store/Esquema.h"
-#include "store/Recordset.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <initializer_list>
-#include <string>
-#include <utility>
 
 namespace prueba {
 
 using pastorix::Conexion;
 using pastorix::Valor;
 
-using Fila = std::initializer_list<std::pair<const char*, Valor>>;
-
-inline void Insertar(Conexion& conexion, const std::string& tabla, Fila fila) {
-    pastorix::Recordset rs(conexion, "SELECT * FROM " + tabla);
-    rs.AddNew();
-    for (const auto& [campo, valor] : fila)
-        rs[campo] = valor;
-    rs.Update();
+inline void Insertar(Conexion& conexion, const std::string& tabla, ConFilas::Fila fila) {
+    ConFilas{conexion}.Poner(tabla, fila);
+}
+inline void Insertar(Conexion& conexion, const std::string& tabla, const char* fila) {
+    ConFilas{conexion}.Poner(tabla, fila);
 }
 
 inline long Contar(Conexion& conexion, const std::string& tabla, const std::string& donde = {}) {
@@ -82,14 +73,9 @@ public:
     void PonerUsuarios() const {
         for (const char* base : {"BD_PradalC.mdb", "BD_PradalP.mdb"}) {
             Conexion c = Abrir(base);
-            Insertar(c, "T_Veterinarios",
-                     {{"Id_Veterinario", 2.0}, {"NombreVet", Texto("Eva")}, {"Usuario", Texto("elopez")}});
-            Insertar(
-                c, "Claves",
-                {{"Usuario", Texto("CENTRAL")}, {"Clave", Texto("oficina")}, {"NIVEL", Texto("CENTRAL")}});
-            Insertar(
-                c, "Claves",
-                {{"Usuario", Texto("AUXILIAR")}, {"Clave", Texto("otra")}, {"NIVEL", Texto("AUXILIAR")}});
+            Insertar(c, "T_Veterinarios", "Id_Veterinario=2, NombreVet=Eva, Usuario=elopez");
+            Insertar(c, "Claves", "Usuario=CENTRAL, Clave=oficina, NIVEL=CENTRAL");
+            Insertar(c, "Claves", "Usuario=AUXILIAR, Clave=otra, NIVEL=AUXILIAR");
         }
     }
 
@@ -98,6 +84,14 @@ private:
 
 public:
     pastorix::Sesion sesion;
+};
+
+// One that has been started.
+struct Arrancada : Instalacion {
+    Arrancada() {
+        if (!pastorix::Arrancar(sesion))
+            qCritical("the start failed");
+    }
 };
 
 } // namespace prueba

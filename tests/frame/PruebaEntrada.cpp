@@ -3,12 +3,15 @@
 #include "Cajas.h"
 #include "Instalacion.h"
 #include "frame/Ajustes.h"
+#include "store/Ficheros.h"
+#include "store/Reemplazo.h"
+
+#include <sqlite3.h>
 
 #include <QSet>
 
 using namespace pastorix;
-using prueba::Cajas;
-using prueba::Instalacion;
+using namespace prueba;
 
 namespace {
 
@@ -43,82 +46,26 @@ class PruebaEntrada : public QObject {
 private Q_SLOTS:
     // Who gets in, as whom, and with which panel text; both entries alike.
     void Usuarios_data() {
-        QTest::addColumn<QString>("usuario");
-        QTest::addColumn<QString>("clave");
-        QTest::addColumn<QString>("modo"); // empty: nobody
-        QTest::addColumn<QString>("sesionDe");
-        QTest::addColumn<QString>("panel");
+        // modo: empty: nobody
+        Columnas<QString, QString, QString, QString, QString>("usuario", "clave", "modo", "sesionDe",
+                                                              "panel");
         const QString vet = "VETERINARIO";
-        QTest::newRow("anonymous") << ""
-                                   << "" << vet << ""
-                                   << " Modo: VETERINARIO";
-        QTest::newRow("the word") << "VETERINARIO"
-                                  << "" << vet << "VETERINARIO"
-                                  << " Modo: VETERINARIO";
-        QTest::newRow("the word, lower case") << "veterinario"
-                                              << "" << vet << "veterinario"
-                                              << " Modo: veterinario";
-        QTest::newRow("named") << "elopez"
-                               << "" << vet << "elopez"
-                               << " Modo: elopez";
-        QTest::newRow("named, other case") << "ELopez"
-                                           << "" << vet << "ELopez"
-                                           << " Modo: ELopez";
-        QTest::newRow("central") << "CENTRAL"
-                                 << "oficina"
-                                 << "CENTRAL"
-                                 << "CENTRAL"
-                                 << " Modo: BASE DE DATOS CENTRAL";
-        QTest::newRow("unknown") << "nadie"
-                                 << ""
-                                 << ""
-                                 << ""
-                                 << "";
-        QTest::newRow("veterinarian with a password") << "elopez"
-                                                      << "x"
-                                                      << ""
-                                                      << ""
-                                                      << "";
-        QTest::newRow("password alone") << ""
-                                        << "oficina"
-                                        << ""
-                                        << ""
-                                        << "";
-        QTest::newRow("wrong password") << "CENTRAL"
-                                        << "oficin"
-                                        << ""
-                                        << ""
-                                        << "";
-        QTest::newRow("level that is never read") << "AUXILIAR"
-                                                  << "otra"
-                                                  << ""
-                                                  << ""
-                                                  << "";
-        QTest::newRow("the word with a password") << "VETERINARIO"
-                                                  << "x"
-                                                  << ""
-                                                  << ""
-                                                  << "";
-        QTest::newRow("apostrophe in the user") << "O'Donnell"
-                                                << ""
-                                                << ""
-                                                << ""
-                                                << "";
-        QTest::newRow("apostrophe in the password") << "CENTRAL"
-                                                    << "o'x"
-                                                    << ""
-                                                    << ""
-                                                    << "";
-        QTest::newRow("statement in the user") << "x' OR '1'='1"
-                                               << ""
-                                               << ""
-                                               << ""
-                                               << "";
-        QTest::newRow("statement in the password") << "CENTRAL"
-                                                   << "' OR ''='"
-                                                   << ""
-                                                   << ""
-                                                   << "";
+        Caso("anonymous", "", "", vet, "", " Modo: VETERINARIO");
+        Caso("the word", "VETERINARIO", "", vet, "VETERINARIO", " Modo: VETERINARIO");
+        Caso("the word, lower case", "veterinario", "", vet, "veterinario", " Modo: veterinario");
+        Caso("named", "elopez", "", vet, "elopez", " Modo: elopez");
+        Caso("named, other case", "ELopez", "", vet, "ELopez", " Modo: ELopez");
+        Caso("central", "CENTRAL", "oficina", "CENTRAL", "CENTRAL", " Modo: BASE DE DATOS CENTRAL");
+        Caso("unknown", "nadie", "", "", "", "");
+        Caso("veterinarian with a password", "elopez", "x", "", "", "");
+        Caso("password alone", "", "oficina", "", "", "");
+        Caso("wrong password", "CENTRAL", "oficin", "", "", "");
+        Caso("level that is never read", "AUXILIAR", "otra", "", "", "");
+        Caso("the word with a password", "VETERINARIO", "x", "", "", "");
+        Caso("apostrophe in the user", "O'Donnell", "", "", "", "");
+        Caso("apostrophe in the password", "CENTRAL", "o'x", "", "", "");
+        Caso("statement in the user", "x' OR '1'='1", "", "", "", "");
+        Caso("statement in the password", "CENTRAL", "' OR ''='", "", "", "");
     }
     void Usuarios() {
         QFETCH(QString, usuario);
@@ -126,8 +73,7 @@ private Q_SLOTS:
         QFETCH(QString, modo);
         QFETCH(QString, sesionDe);
         QFETCH(QString, panel);
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         i.PonerUsuarios();
         for (const int entrada : {0, 1}) {
             Cajas cajas;
@@ -138,14 +84,14 @@ private Q_SLOTS:
             if (modo.isEmpty()) {
                 QCOMPARE(vistas.size(), 1);
                 QCOMPARE(static_cast<int>(vistas[0].tipo), 64);
-                QCOMPARE(vistas[0].titulo + "|" + vistas[0].texto, QString("Adios|Usuario No Autorizado"));
+                QCOMPARE(vistas[0].titulo + "|" + vistas[0].texto, u"Adios|Usuario No Autorizado"_s);
                 QCOMPARE(interfaz.preguntas, 0);
                 continue;
             }
             QVERIFY(vistas.isEmpty());
             QCOMPARE(QString::fromStdString(i.sesion.UsuarioSesion), sesionDe);
             QCOMPARE(interfaz.paneles.last(), panel);
-            QCOMPARE(interfaz.titulo, QString("PASTORIX.    (3.09)"));
+            QCOMPARE(interfaz.titulo, u"PASTORIX.    (3.09)"_s);
             QCOMPARE(interfaz.preguntas, 1);
             if (modo == "VETERINARIO")
                 QCOMPARE(interfaz.activas.value("Mnu_Veterinarios"), usuario.isEmpty());
@@ -153,94 +99,133 @@ private Q_SLOTS:
     }
 
     void LaEntradaEligeLaBase() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
+        Cajas cajas;
         i.PonerUsuarios();
         InterfazDeEntrada nada;
-        const auto fichero = [&] { return QString::fromStdString(i.sesion.conexion.Fichero()); };
-        QVERIFY(EntrarEnBase(i.sesion, 1, "elopez", {}, nada));
-        QCOMPARE(fichero(), i.sesion.rutas.BasePersonal());
-        QCOMPARE(int(i.sesion.BaseElegida), 1);
+        for (const char* usuario : {"elopez", "nadie"}) { // a failed attempt stands in the personal one too
+            QCOMPARE(EntrarEnBase(i.sesion, 1, usuario, {}, nada), *usuario == 'e');
+            QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePersonal());
+            QCOMPARE(int(i.sesion.BaseElegida), 1);
+        }
         QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_PSTX")->fichero),
                  i.sesion.rutas.BasePrincipal());
-        QVERIFY(QDir(i.En("Temp")).exists());
-        QVERIFY(QDir(i.En("BackUp")).exists());
-    }
-
-    void TrasUnIntentoPersonalLaOtraEntradaEsLaPrincipal() {
-        Instalacion i;
-        Cajas cajas;
-        QVERIFY(Arrancar(i.sesion));
-        i.PonerUsuarios();
-        InterfazDeEntrada nada;
-        QVERIFY(!EntrarEnBase(i.sesion, 1, "nadie", {}, nada));
-        QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePersonal());
+        QVERIFY(QDir(i.En("Temp")).exists() && QDir(i.En("BackUp")).exists());
         QVERIFY(EntrarEnBase(i.sesion, 0, "elopez", {}, nada));
         QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePrincipal());
         QCOMPARE(int(i.sesion.BaseElegida), 0);
         QCOMPARE(cajas.Tomar().size(), 1);
     }
 
+    // Everything that asks the session's connection reaches the other file, and comes back.
+    void LaSesionEnOtroFichero() {
+        Arrancada i;
+        const std::string propia = i.sesion.conexion.Fichero();
+        CopiarBase(i.sesion.conexion, Ruta(i.En("copia; de ñ.mdb").toStdString()));
+        Insertar(i.sesion.conexion, "T_Vacas", {{"Id_Vaca", 1.0}});
+        AbrirConexionEn(i.sesion, i.En("copia; de ñ.mdb"));
+        QCOMPARE(Contar(i.sesion.conexion, "T_Vacas"), 0L);
+        Insertar(i.sesion.conexion, "T_Vacas", {{"Id_Vaca", 2.0}});
+        AbrirConexionEn(i.sesion, i.En("copia; de ñ.mdb"), true);
+        QVERIFY(i.sesion.conexion.SoloLectura());
+        i.sesion.conexion.Cerrar();
+        i.sesion.conexion.Reabrir(); // with the same arguments
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, i.sesion.conexion.Execute("DELETE FROM T_Vacas"));
+        QCOMPARE(Contar(i.sesion.conexion, "T_Vacas", "Id_Vaca = 2"), 1L);
+        AbrirConexion(i.sesion);
+        QVERIFY(!i.sesion.conexion.SoloLectura());
+        QCOMPARE(i.sesion.conexion.Fichero(), propia);
+        QCOMPARE(Contar(i.sesion.conexion, "T_Vacas", "Id_Vaca = 1"), 1L);
+        QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, AbrirConexionEn(i.sesion, i.En("no hay.mdb")));
+        QVERIFY(!i.sesion.conexion.Abierta());
+    }
+
     void UnaBasePersonalQueNoSeAbreSeDiceYNoHaySesion() {
         Instalacion i;
         Cajas cajas;
         QVERIFY(Arrancar(i.sesion));
-        prueba::Escribir(i.sesion.rutas.BasePersonal(),
-                         "esto no es una base de datos, aunque ocupe su lugar");
+        Escribir(i.sesion.rutas.BasePersonal(), "esto no es una base de datos, aunque ocupe su lugar");
         Anotador interfaz;
         QVERIFY(!EntrarEnBase(i.sesion, 1, {}, {}, interfaz));
         const auto vistas = cajas.Vistas();
         QCOMPARE(vistas.size(), 1);
-        QCOMPARE(vistas[0].titulo, QString(" Error de acceso"));
-        QVERIFY(!vistas[0].detalle.isEmpty());
+        QCOMPARE(vistas[0].titulo, u" Error de acceso"_s);
+        QVERIFY(!vistas[0].causa.isEmpty());
         QVERIFY(i.sesion.ModoSesion.empty());
         QCOMPARE(interfaz.preguntas, 0);
         QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, interfaz)); // the other entry still works
     }
 
-    void LaCarpetaBackUpDeOtraCajaSirve() {
-        Instalacion i;
-        QVERIFY(QDir().mkpath(i.En("Backup")));
-        QVERIFY(Arrancar(i.sesion));
-        InterfazDeEntrada nada;
-        QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, nada));
-        QVERIFY(!i.Contenido().contains("BackUp"));
-    }
-
     void CadaEntradaTieneSuMarca() {
         SaveSetting("Version_0", {});
         SaveSetting("Version_1", "308");
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         InterfazDeEntrada nada;
         QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada));
         QCOMPARE(GetSetting("Version_0", "nada"), QString());
-        QCOMPARE(GetSetting("Version_1"), QString("309"));
+        QCOMPARE(GetSetting("Version_1"), u"309"_s);
         SaveSetting("Version_1", "400"); // of a later release: left alone
         QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, nada));
-        QCOMPARE(GetSetting("Version_1"), QString("400"));
+        QCOMPARE(GetSetting("Version_1"), u"400"_s);
     }
 
     void LaPreguntaAnualAbreSusFilas() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         {
             Conexion c = i.Abrir("BD_PradalP.mdb");
-            prueba::Insertar(c, "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
+            Insertar(c, "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
         }
         Anotador interfaz;
         QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, interfaz));
-        QCOMPARE(prueba::Contar(i.sesion.conexion, "T_IBRBVD"), 0L);
+        QCOMPARE(Contar(i.sesion.conexion, "T_IBRBVD"), 0L);
         QVERIFY(interfaz.avances.isEmpty());
         interfaz.contestar = true;
         QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, interfaz));
-        QCOMPARE(prueba::Contar(i.sesion.conexion, "T_IBRBVD"), 1L);
+        QCOMPARE(Contar(i.sesion.conexion, "T_IBRBVD"), 1L);
         QCOMPARE(interfaz.avances, QStringList{"Inicializando Aplicación..."});
     }
 
+    // A locked database is told as what it is, at the login and at the repairs, and nobody is called unauthorized for it.
+    void UnBloqueoSeDice() {
+        Arrancada i;
+        i.PonerUsuarios();
+        Cajas cajas;
+        Anotador interfaz;
+        sqlite3* otro = nullptr;
+        sqlite3_open(i.sesion.conexion.Fichero().c_str(), &otro);
+        const auto bloquear = [&](const char* como) {
+            sqlite3_busy_timeout(i.sesion.conexion.Manejador(), 0);
+            sqlite3_exec(otro, como, nullptr, nullptr, nullptr);
+        };
+        const auto caja = [&] {
+            const auto vistas = cajas.Vistas();
+            return vistas.size() == 1 ? vistas[0].titulo + "|" + vistas[0].texto + "|" + vistas[0].causa
+                                      : QString::number(vistas.size());
+        };
+        bloquear("BEGIN EXCLUSIVE");
+        for (const char* clave : {"", "oficina"}) {
+            QVERIFY(!EntrarEnBase(i.sesion, 0, "CENTRAL", clave, interfaz));
+            QCOMPARE(caja(), u"Atención|No se ha podido comprobar la base de datos|Otro programa tiene "
+                             "bloqueada la base de datos"_s);
+            QVERIFY(!ComprobarSesion(i.sesion, "CENTRAL", clave, interfaz));
+            QCOMPARE(caja(), u"Atención|No se ha podido comprobar el usuario|Otro programa tiene "
+                             "bloqueada la base de datos"_s);
+        }
+        bloquear("ROLLBACK; BEGIN IMMEDIATE"); // it can be read, not written
+        QVERIFY(EntrarEnBase(i.sesion, 0, "CENTRAL", "oficina", interfaz));
+        QCOMPARE(caja(), u"Atención|No se ha podido poner al día la base de datos; se intentará en la "
+                         "próxima entrada|Otro programa tiene bloqueada la base de datos"_s);
+        bloquear("ROLLBACK");
+        Insertar(i.sesion.conexion, "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
+        bloquear("BEGIN IMMEDIATE");
+        interfaz.contestar = true;
+        QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, interfaz));
+        QCOMPARE(cajas.Vistas().size(), 2); // the repairs, and the rows of the year
+        sqlite3_close(otro);
+    }
+
     void UsuariosLibres() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         i.PonerUsuarios();
         Conexion& c = i.sesion.conexion;
         QVERIFY(!UsuarioLibre(c, "central"));

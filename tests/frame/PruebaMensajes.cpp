@@ -2,6 +2,7 @@
 
 #include "Cajas.h"
 #include "frame/Mensajes.h"
+#include "store/Errores.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QTimer>
 
 using namespace pastorix;
+using namespace prueba;
 
 namespace {
 
@@ -39,14 +41,15 @@ class PruebaMensajes : public QObject {
 
 private Q_SLOTS:
     void LasPreguntasHablanEspanolYElNoEsLoPrevisto_data() {
-        QTest::addColumn<int>("tecla");
-        QTest::addColumn<bool>("respuesta");
-        QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return) << false;
-        QTest::newRow("Escape") << static_cast<int>(Qt::Key_Escape) << false;
-        QTest::newRow("S") << static_cast<int>(Qt::Key_S) << true;
-        QTest::newRow("N") << static_cast<int>(Qt::Key_N) << false;
+        Columnas<bool, int, bool>("previsto", "tecla", "respuesta");
+        Caso("Enter, yes expected", true, static_cast<int>(Qt::Key_Return), true);
+        Caso("Enter", false, static_cast<int>(Qt::Key_Return), false);
+        Caso("Escape", false, static_cast<int>(Qt::Key_Escape), false);
+        Caso("S", false, static_cast<int>(Qt::Key_S), true);
+        Caso("N", false, static_cast<int>(Qt::Key_N), false);
     }
     void LasPreguntasHablanEspanolYElNoEsLoPrevisto() {
+        QFETCH(bool, previsto);
         QFETCH(int, tecla);
         QStringList botones;
         ConVentanas ventanas([&](QMessageBox& caja) {
@@ -54,44 +57,48 @@ private Q_SLOTS:
                 botones << b->text();
             QTest::keyClick(&caja, static_cast<Qt::Key>(tecla));
         });
-        QTEST(Preguntar(nullptr, " Confirme", "Desea inicializar los Años Naturales ? "), "respuesta");
+        QTEST(Preguntar(nullptr, " Confirme", "Desea Eliminar ? ", TipoMensaje::Critico, previsto),
+              "respuesta");
         botones.sort();
         QCOMPARE(botones, QStringList({"&No", "&Sí"}));
     }
 
-    void UnSiPrevistoSeAceptaConEnter() {
-        ConVentanas ventanas([](QMessageBox& caja) { QTest::keyClick(&caja, Qt::Key_Return); });
-        QVERIFY(Preguntar(nullptr, "Confirme Eliminar", "Desea Eliminar ? ", TipoMensaje::Critico, true));
-    }
-
     void ElTextoSaleTalCual() {
         ConVentanas ventanas([](QMessageBox& caja) {
-            QCOMPARE(caja.windowTitle(), QString(" Error inesperado"));
-            QCOMPARE(caja.text(), QString("uno\ndos <b>tres</b>\ncuatro"));
+            QCOMPARE(caja.windowTitle(), u" Error inesperado"_s);
+            QCOMPARE(caja.text(), u"uno\ndos <b>tres</b>\ncuatro"_s);
             QCOMPARE(caja.textFormat(), Qt::PlainText);
-            QCOMPARE(caja.informativeText(), QString("la causa"));
+            QCOMPARE(caja.informativeText(), u"la causa"_s);
             QCOMPARE(caja.icon(), QMessageBox::Warning);
             QCOMPARE(caja.buttons().size(), 1);
-            QCOMPARE(caja.buttons().constFirst()->text(), QString("Aceptar"));
+            QCOMPARE(caja.buttons().constFirst()->text(), u"Aceptar"_s);
             caja.close();
         });
         Avisar(nullptr, TipoMensaje::Atencion, " Error inesperado", "uno\rdos <b>tres</b>\r\ncuatro",
                "la causa");
     }
 
-    void UnRespondedorSustituyeALasVentanas() {
-        prueba::Cajas cajas;
-        cajas.Responder(true);
-        QVERIFY(Preguntar(nullptr, "t", "x"));
-        QCOMPARE(ElegirFicheroGuardar(nullptr, "Guardar", "/informe.pdf", "Documento PDF (*.pdf)"),
-                 QString());
-        const auto vistas = cajas.Vistas();
-        QCOMPARE(vistas.size(), 2);
-        QCOMPARE(vistas[1].propuesta, QString("/informe.pdf"));
+    // The technician's words wait behind a button; Enter and Escape still mean Aceptar.
+    void ElDetalleSeMuestraSiSePide() {
+        for (const auto tecla : {Qt::Key_Return, Qt::Key_Escape}) {
+            bool cerrada = false;
+            ConVentanas ventanas([&](QMessageBox& caja) {
+                QCOMPARE(caja.text(), u"5 ... El disco está lleno"_s);
+                QCOMPARE(caja.informativeText(), QString());
+                QCOMPARE(caja.detailedText(), u"database or disk is full (SQLite 13)\nDELETE FROM T_Vacas"_s);
+                QCOMPARE(caja.buttons().size(), 2);
+                QTest::keyClick(&caja, tecla);
+                cerrada = !caja.isVisible();
+            });
+            AvisarFallo(nullptr, "Atención...", 5,
+                        ErrorAlmacen(CodigoError::DiscoOFichero, "El disco está lleno",
+                                     "database or disk is full (SQLite 13)\nDELETE FROM T_Vacas"));
+            QVERIFY(cerrada);
+        }
     }
 
     void UnaCajaSinRespuestaNoEspera() {
-        prueba::EsperarAviso("unanswered box: [Atención]");
+        EsperarAviso("unanswered box: [Atención]");
         Avisar(nullptr, TipoMensaje::Critico, "Atención", "nadie contesta");
     }
 };

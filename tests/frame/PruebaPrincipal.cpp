@@ -14,15 +14,9 @@
 #include <QSet>
 #include <QSignalSpy>
 #include <QTimer>
-#include <QToolBar>
-#include <QToolButton>
 
 using namespace pastorix;
-using prueba::Cajas;
-using prueba::Contar;
-using prueba::Insertar;
-using prueba::Instalacion;
-using prueba::Texto;
+using namespace prueba;
 
 class PruebaPrincipal : public QObject {
     Q_OBJECT
@@ -37,13 +31,14 @@ private:
                 p.Vincular(QString::fromUtf8(e.nombre), [] {});
     }
 
-    // The letters that choose among those entries; a letter twice makes the keyboard stop at the first.
+    // The letters that choose among those entries: one for each, and none twice, for the keyboard stops at the first.
     static void ExigirMnemonicosUnicos(const QList<QAction*>& acciones) {
         QSet<QChar> letras;
         for (const QAction* a : acciones) {
             const qsizetype i = a->text().indexOf('&');
-            if (i < 0)
+            if (a->isSeparator() || a->objectName() == QLatin1String("MnuCausaPrincipal")) // never on the bar
                 continue;
+            QVERIFY2(i >= 0, qUtf8Printable(a->text()));
             const QChar letra = a->text().at(i + 1).toLower();
             QVERIFY2(!letras.contains(letra), qUtf8Printable(a->text()));
             letras << letra;
@@ -62,32 +57,17 @@ private Q_SLOTS:
 
     // The state of every entry that depends on database and mode: V visible, h hidden; E enabled, d disabled.
     void EstadoPorEntradaYModo_data() {
-        QTest::addColumn<int>("entrada");
-        QTest::addColumn<QString>("usuario");
-        QTest::addColumn<QString>("clave");
-        QTest::addColumn<QString>("ocultas");
-        QTest::addColumn<QString>("inactivas"); // numbers are toolbar buttons
-        QTest::newRow("main, anonymous") << 0 << ""
-                                         << ""
-                                         << "Mnu_ControlCli Mnu_ExpTD"
-                                         << "MnuT MnuT1 4";
-        QTest::newRow("main, named") << 0 << "elopez"
-                                     << ""
-                                     << "Mnu_ControlCli Mnu_ExpTD"
-                                     << "MnuT MnuT1 Mnu_Veterinarios 3 4";
-        QTest::newRow("main, central") << 0 << "CENTRAL"
-                                       << "oficina"
-                                       << ""
-                                       << "MnuT MnuT1";
+        // inactivas: numbers are toolbar buttons
+        Columnas<int, QString, QString, QString, QString>("entrada", "usuario", "clave", "ocultas",
+                                                          "inactivas");
+        Caso("main, anonymous", 0, "", "", "Mnu_ControlCli Mnu_ExpTD", "MnuT MnuT1 4");
+        Caso("main, named", 0, "elopez", "", "Mnu_ControlCli Mnu_ExpTD", "MnuT MnuT1 Mnu_Veterinarios 3 4");
+        Caso("main, central", 0, "CENTRAL", "oficina", "", "MnuT MnuT1");
         const QString personal = "Sep4 Mnu_Importar Mnu_Exportar Mnu_BorrarBackup";
-        QTest::newRow("personal, anonymous") << 1 << ""
-                                             << "" << personal + " Mnu_ControlCli Mnu_ExpTD"
-                                             << "MnuT MnuT2 4";
-        QTest::newRow("personal, named") << 1 << "elopez"
-                                         << "" << personal + " Mnu_ControlCli Mnu_ExpTD"
-                                         << "MnuT MnuT2 Mnu_Veterinarios 3 4";
-        QTest::newRow("personal, central") << 1 << "CENTRAL"
-                                           << "oficina" << personal << "MnuT MnuT2";
+        Caso("personal, anonymous", 1, "", "", personal + " Mnu_ControlCli Mnu_ExpTD", "MnuT MnuT2 4");
+        Caso("personal, named", 1, "elopez", "", personal + " Mnu_ControlCli Mnu_ExpTD",
+             "MnuT MnuT2 Mnu_Veterinarios 3 4");
+        Caso("personal, central", 1, "CENTRAL", "oficina", personal, "MnuT MnuT2");
     }
     void EstadoPorEntradaYModo() {
         QFETCH(int, entrada);
@@ -95,13 +75,14 @@ private Q_SLOTS:
         QFETCH(QString, clave);
         QFETCH(QString, ocultas);
         QFETCH(QString, inactivas);
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         i.PonerUsuarios();
         Principal p(i.sesion);
         VincularTodo(p);
         EntradaEnPrincipal interfaz(p);
+        p.setEnabled(false); // as the login has it
         QVERIFY(EntrarEnBase(i.sesion, entrada, usuario, clave, interfaz));
+        p.setEnabled(true);
 
         QStringList escondidas = ocultas.split(' ', Qt::SkipEmptyParts), apagadas = inactivas.split(' ');
         escondidas << "MnuCausaPrincipal";
@@ -114,7 +95,7 @@ private Q_SLOTS:
         for (const int boton : {1, 3, 4, 5, 7, 8})
             QVERIFY2(p.Boton(boton)->isEnabled() == !apagadas.contains(QString::number(boton)),
                      qPrintable(QString::number(boton)));
-        QCOMPARE(p.windowTitle(), QString("PASTORIX.    (3.09)"));
+        QCOMPARE(p.windowTitle(), u"PASTORIX.    (3.09)"_s);
     }
 
     void UnIntentoFallidoNoDejaRestoEnElSiguiente() {
@@ -126,18 +107,17 @@ private Q_SLOTS:
         Principal p(i.sesion);
         EntradaEnPrincipal interfaz(p);
         QVERIFY(!EntrarEnBase(i.sesion, 1, "nadie", {}, interfaz));
-        QCOMPARE(p.Panel(), QString(" Modo: (Base de Datos Personal)"));
+        QCOMPARE(p.Panel(), u" Modo: (Base de Datos Personal)"_s);
         QVERIFY(EntrarEnBase(i.sesion, 0, "CENTRAL", "oficina", interfaz));
         for (const char* orden :
              {"Mnu_ControlCli", "Sep4", "Mnu_Importar", "Mnu_Exportar", "Mnu_ExpTD", "Mnu_BorrarBackup"})
             QVERIFY2(p.Orden(orden)->isVisible(), orden);
-        QCOMPARE(p.Panel(), QString(" Modo: BASE DE DATOS CENTRAL"));
+        QCOMPARE(p.Panel(), u" Modo: BASE DE DATOS CENTRAL"_s);
         QCOMPARE(cajas.Tomar().size(), 1);
     }
 
     void LasOrdenesSeVinculanDesdeFuera() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Principal p(i.sesion);
         QVERIFY(!p.Orden("Mnu_Vacas")->isEnabled());
         QVERIFY(!p.Boton(7)->isEnabled());
@@ -154,13 +134,12 @@ private Q_SLOTS:
         p.Boton(3)->trigger();
         p.Boton(4)->trigger(); // no command at all
         QCOMPARE(veces, 2);
-        prueba::EsperarAviso("no such command: Mnu_Nada");
+        EsperarAviso("no such command: Mnu_Nada");
         p.Vincular("Mnu_Nada", [] {});
     }
 
     void LaCausaPrincipalSeEligeEnUnMenuDeContexto() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Principal p(i.sesion);
         bool elegida = false;
         p.Vincular("MnuPpal", [&] { elegida = true; });
@@ -174,8 +153,7 @@ private Q_SLOTS:
     }
 
     void LosNombresSonUnicosYLasLetrasTambien() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Principal p(i.sesion);
         QSet<QString> nombres;
         for (const EntradaDeMenu& e : MenusDePrincipal()) {
@@ -185,30 +163,15 @@ private Q_SLOTS:
                          p.Orden(QString::fromUtf8(e.nombre)),
                      e.nombre);
         }
+        for (const BotonDeBarra& b : BarraDePrincipal())
+            QVERIFY2(!*b.texto || !p.Boton(b.indice)->icon().pixmap(32).isNull(), b.texto);
         ExigirMnemonicosUnicos(p.menuBar()->actions());
         for (const QMenu* menu : p.findChildren<QMenu*>())
             ExigirMnemonicosUnicos(menu->actions());
     }
 
-    void TodosLosBotonesTienenDibujoYNombre() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
-        Principal p(i.sesion);
-        auto* barra = p.findChild<QToolBar*>("BarraHerr");
-        for (const BotonDeBarra& b : BarraDePrincipal()) {
-            if (!*b.texto) {
-                QVERIFY(p.Boton(b.indice)->isSeparator());
-                continue;
-            }
-            QVERIFY2(!p.Boton(b.indice)->icon().pixmap(32).isNull(), b.texto);
-            QCOMPARE(p.Boton(b.indice)->toolTip(), QString::fromUtf8(b.texto));
-            QVERIFY(barra->widgetForAction(p.Boton(b.indice)));
-        }
-    }
-
     void ElHistorialGuardaDiezDias() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         for (const int hace : {0, 10, 11, 400})
             Insertar(i.sesion.conexion, "Historial",
                      {{"Equipo", Texto("CENTRAL")}, {"Fecha", Hoy().MasDias(-hace)}});
@@ -223,31 +186,25 @@ private Q_SLOTS:
         QCOMPARE(Contar(i.sesion.conexion, "Historial"), 1L); // the personal one is never purged
     }
 
-    void SalirTerminaElPrograma_data() {
-        QTest::addColumn<QString>("por");
-        for (const char* por : {"menu", "boton", "cierre"})
-            QTest::newRow(por) << por;
-    }
     void SalirTerminaElPrograma() {
-        QFETCH(QString, por);
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
-        Principal p(i.sesion);
-        p.show();
-        QSignalSpy salida(&p, &Principal::Salida);
-        if (por == "menu")
-            p.Orden("Mnu_Salir")->trigger();
-        else if (por == "boton")
-            p.Boton(1)->trigger();
-        else
-            p.close();
-        QCOMPARE(salida.size(), 1);
-        QVERIFY(!p.isVisible());
+        for (const QString por : {"menu", "boton", "cierre"}) {
+            Arrancada i;
+            Principal p(i.sesion);
+            p.show();
+            QSignalSpy salida(&p, &Principal::Salida);
+            if (por == "menu")
+                p.Orden("Mnu_Salir")->trigger();
+            else if (por == "boton")
+                p.Boton(1)->trigger();
+            else
+                p.close();
+            QCOMPARE(salida.size(), 1);
+            QVERIFY(!p.isVisible());
+        }
     }
 
     void ElManual() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Principal p(i.sesion);
         QDesktopServices::setUrlHandler("file", this, "Abrir");
         {
@@ -259,25 +216,24 @@ private Q_SLOTS:
                                  "\r\nCompruebe el funcionamiento de su visor de ficheros PDF"});
             QVERIFY(m_abierto.isEmpty());
         }
-        prueba::Escribir(i.En("Manual.PDF"));
+        Escribir(i.En("Manual.PDF"));
         p.Orden("Mnu_Manual")->trigger();
         QCOMPARE(m_abierto.toLocalFile(), i.En("Manual.PDF"));
     }
 
     void LosPanelesDeEstado() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Principal p(i.sesion);
         p.show();
         auto* modo = p.findChild<QLabel*>("StatusBar1.Panel(1)");
         auto* fecha = p.findChild<QLabel*>("StatusBar1.Panel(2)");
         p.FijarPanel(" Modo: <b>x</b>");
-        QCOMPARE(modo->text(), QString(" Modo: <b>x</b>"));
+        QCOMPARE(modo->text(), u" Modo: <b>x</b>"_s);
         QCOMPARE(modo->textFormat(), Qt::PlainText);
-        QCOMPARE(fecha->text(), QString("22/11/2026"));
+        QCOMPARE(fecha->text(), u"22/11/2026"_s);
         FijarHoy(Fecha::De(2026, 11, 23)); // midnight passes
         p.resize(700, 500);
-        QCOMPARE(fecha->text(), QString("23/11/2026"));
+        QCOMPARE(fecha->text(), u"23/11/2026"_s);
         QVERIFY(modo->width() > fecha->width());
         QVERIFY(p.minimumSizeHint().width() <= 700);
     }

@@ -17,10 +17,7 @@
 #include <QTimer>
 
 using namespace pastorix;
-using prueba::Cajas;
-using prueba::Insertar;
-using prueba::Instalacion;
-using prueba::Texto;
+using namespace prueba;
 
 class PruebaVentanas : public QObject {
     Q_OBJECT
@@ -29,8 +26,6 @@ private:
     // A started program with its main window loaded and the login on show.
     struct Escena {
         explicit Escena(bool entradaPrincipal = false) {
-            if (!Arrancar(i.sesion))
-                qFatal("the start failed");
             i.PonerUsuarios();
             principal = std::make_unique<Principal>(i.sesion);
             abrir = std::make_unique<AbrirSesion>(i.sesion, *principal, entradaPrincipal);
@@ -38,14 +33,12 @@ private:
             if (!QTest::qWaitForWindowActive(abrir.get()))
                 qCritical("the login does not become active");
         }
-        QLineEdit* Campo(int n) const {
-            return abrir->findChild<QLineEdit*>(QStringLiteral("Text1(%1)").arg(n));
-        }
+        QLineEdit* Campo(int n) const { return abrir->findChild<QLineEdit*>(u"Text1(%1)"_s.arg(n)); }
         QPushButton* Boton(const char* nombre) const {
             return abrir->findChild<QPushButton*>(QString::fromUtf8(nombre));
         }
 
-        Instalacion i;
+        Arrancada i;
         Cajas cajas;
         std::unique_ptr<Principal> principal;
         std::unique_ptr<AbrirSesion> abrir;
@@ -61,7 +54,7 @@ private Q_SLOTS:
         p.show();
         QVERIFY(reloj->isActive());
         QCOMPARE(reloj->interval(), 5000);
-        QCOMPARE(p.findChild<QLabel*>("Version")->text(), QString("Pastorix (3.09)"));
+        QCOMPARE(p.findChild<QLabel*>("Version")->text(), u"Pastorix (3.09)"_s);
         QTest::mouseClick(&p, Qt::LeftButton); // nothing to press
         QTest::keyClick(&p, Qt::Key_Escape);
         QVERIFY(p.isVisible());
@@ -76,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(!e.Boton("B_Aceptar(0)")->isEnabled());
         QVERIFY(e.Boton("B_Aceptar(1)")->isEnabled());
         QCOMPARE(e.Boton("B_Aceptar(1)")->toolTip(),
-                 QString(" No es necesario que indique contraseña, déjelo en blanco "));
+                 u" No es necesario que indique contraseña, déjelo en blanco "_s);
         QCOMPARE(e.abrir->focusWidget(), e.Campo(0));
         QCOMPARE(e.Campo(1)->echoMode(), QLineEdit::Password);
         QTest::mouseClick(e.Boton("B_Aceptar(0)"), Qt::LeftButton);
@@ -85,13 +78,12 @@ private Q_SLOTS:
 
     // Enter takes the personal entry wherever the focus is, in both editions.
     void EnterEntraEnLaPersonal_data() {
-        QTest::addColumn<bool>("entradaPrincipal");
-        QTest::addColumn<QString>("foco");
+        Columnas<bool, QString>("entradaPrincipal", "foco");
         for (const char* foco : {"Text1(0)", "Text1(1)", "B_Aceptar(1)", "IDF_Cancelar"}) {
             QTest::addRow("%s", foco) << false << foco;
             QTest::addRow("%s, office", foco) << true << foco;
         }
-        QTest::newRow("B_Aceptar(0), office") << true << "B_Aceptar(0)";
+        Caso("B_Aceptar(0), office", true, "B_Aceptar(0)");
     }
     void EnterEntraEnLaPersonal() {
         QFETCH(bool, entradaPrincipal);
@@ -120,10 +112,10 @@ private Q_SLOTS:
         e.cajas.Responder(true);
         QTest::keyClick(e.Boton("B_Aceptar(0)"), Qt::Key_Space);
         QCOMPARE(e.cajas.Tomar().size(), 1);
-        QCOMPARE(e.i.sesion.ModoSesion, std::string("CENTRAL"));
+        QCOMPARE(e.i.sesion.ModoSesion, "CENTRAL"s);
         QCOMPARE(int(e.i.sesion.BaseElegida), 0);
         QCOMPARE(QString::fromStdString(e.i.sesion.conexion.Fichero()), e.i.sesion.rutas.BasePrincipal());
-        QCOMPARE(e.principal->Panel(), QString(" Modo: BASE DE DATOS CENTRAL"));
+        QCOMPARE(e.principal->Panel(), u" Modo: BASE DE DATOS CENTRAL"_s);
         QVERIFY(!QApplication::activeModalWidget()); // Ciclo has gone
     }
 
@@ -138,40 +130,32 @@ private Q_SLOTS:
         QVERIFY(!e.principal->isVisible());
         QCOMPARE(e.Campo(1)->text(), QString());
         QCOMPARE(e.abrir->focusWidget(), e.Campo(0));
-        QTRY_COMPARE(e.Campo(0)->selectedText(), QString("o'brien"));
+        QTRY_COMPARE(e.Campo(0)->selectedText(), u"o'brien"_s);
     }
 
-    void LosDosCaminosDeSalida_data() {
-        QTest::addColumn<QString>("por");
-        for (const char* por : {"Escape", "Cancelar", "cierre"})
-            QTest::newRow(por) << por;
-    }
     void LosDosCaminosDeSalida() {
-        QFETCH(QString, por);
-        Escena e;
-        QSignalSpy salida(e.abrir.get(), &AbrirSesion::Salida);
-        if (por == "Escape")
-            QTest::keyClick(e.Campo(1), Qt::Key_Escape);
-        else if (por == "Cancelar")
-            QTest::mouseClick(e.Boton("IDF_Cancelar"), Qt::LeftButton);
-        else
-            e.abrir->close();
-        QCOMPARE(salida.size(), 1);
-        QVERIFY(!e.principal->isVisible());
+        for (const QString por : {"Escape", "Cancelar", "cierre"}) {
+            Escena e;
+            QSignalSpy salida(e.abrir.get(), &AbrirSesion::Salida);
+            if (por == "Escape")
+                QTest::keyClick(e.Campo(1), Qt::Key_Escape);
+            else if (por == "Cancelar")
+                QTest::mouseClick(e.Boton("IDF_Cancelar"), Qt::LeftButton);
+            else
+                e.abrir->close();
+            QCOMPARE(salida.size(), 1);
+            QVERIFY(!e.principal->isVisible());
+        }
     }
 
     void ElCicloMuestraTantosPorCiento_data() {
-        QTest::addColumn<int>("hecho");
-        QTest::addColumn<int>("total");
-        QTest::addColumn<int>("porcentaje");
-        QTest::newRow("nothing done") << 0 << 700 << 1;
-        QTest::newRow("rounds to nothing") << 1 << 700 << 1;
-        QTest::newRow("half to even") << 5 << 200 << 2;
-        QTest::newRow("half to even, up") << 7 << 200 << 4;
-        QTest::newRow("all") << 700 << 700 << 100;
-        QTest::newRow("no total") << 0 << 0 << 1;
-        QTest::newRow("more than there is") << 9 << 3 << 100;
-        QTest::newRow("large") << 2'000'000'000 << 2'000'000'000 << 100;
+        Columnas<int, int, int>("hecho", "total", "porcentaje");
+        Caso("nothing done", 0, 700, 1);
+        Caso("rounds to nothing", 1, 700, 1);
+        Caso("half to even, up", 7, 200, 4);
+        Caso("all", 700, 700, 100);
+        Caso("no total", 0, 0, 1);
+        Caso("more than there is", 9, 3, 100);
     }
     void ElCicloMuestraTantosPorCiento() {
         QFETCH(int, hecho);
@@ -182,7 +166,7 @@ private Q_SLOTS:
         ciclo.Avance(hecho, total);
         QCOMPARE(ciclo.findChild<QProgressBar*>("PBar")->value(), porcentaje);
         QCOMPARE(ciclo.findChild<QLabel*>("Porcentaje")->text(), QString::number(porcentaje) + " %");
-        QCOMPARE(ciclo.findChild<QLabel*>("Ct_Estandar")->text(), QString("Generando informe"));
+        QCOMPARE(ciclo.findChild<QLabel*>("Ct_Estandar")->text(), u"Generando informe"_s);
         QTest::keyClick(&ciclo, Qt::Key_Escape);
         QVERIFY(ciclo.isVisible());
     }
@@ -220,29 +204,23 @@ private Q_SLOTS:
     }
 
     void LaRelacionDeDistribucion() {
-        Instalacion i;
-        QVERIFY(Arrancar(i.sesion));
+        Arrancada i;
         Conexion& c = i.sesion.conexion;
         Insertar(c, "T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", Texto("Sofía")}});
         Insertar(c, "T_Veterinarios", {{"Id_Veterinario", 3.0}, {"NombreVet", Texto("Ángel")}});
-        Insertar(c, "T_Ganaderos",
-                 {{"Id_Ganadero", 12.0}, {"Nombre", Texto("Nicolás")}, {"Id_Veterinario", 2.0}});
-        Insertar(c, "T_Ganaderos",
-                 {{"Id_Ganadero", 57.0},
-                  {"Nombre", Texto("Ñoel")},
-                  {"Apellidos", Texto("Cuesta")},
-                  {"Id_Veterinario", 3.0}});
+        Insertar(c, "T_Ganaderos", "Id_Ganadero=12, Nombre=Nicolás, Id_Veterinario=2");
+        Insertar(c, "T_Ganaderos", "Id_Ganadero=57, Nombre=Ñoel, Apellidos=Cuesta, Id_Veterinario=3");
         Insertar(c, "T_Ganaderos", {{"Id_Ganadero", 85.0}, {"Nombre", Texto("Sin veterinario")}});
         const auto filas = RelacionDeDistribucion(c);
         QCOMPARE(filas.size(), std::size_t{3});
         QCOMPARE(filas[0], (std::array<std::string, 3>{"", "Sin veterinario", ""}));
         QCOMPARE(filas[1], (std::array<std::string, 3>{"Ángel", "Ñoel", "Cuesta"}));
-        QCOMPARE(filas[2][0], std::string("Sofía"));
+        QCOMPARE(filas[2][0], "Sofía"s);
 
         ControlEquipos forma(filas, nullptr);
         forma.show();
         auto* rejilla = forma.findChild<QTableWidget*>("Grid");
-        QCOMPARE(rejilla->item(1, 1)->text(), QString("Ñoel"));
+        QCOMPARE(rejilla->item(1, 1)->text(), u"Ñoel"_s);
         QVERIFY(rejilla->currentItem());
         QVERIFY(!(rejilla->item(0, 0)->flags() & Qt::ItemIsEditable) ||
                 rejilla->editTriggers() == QAbstractItemView::NoEditTriggers);

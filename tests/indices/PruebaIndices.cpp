@@ -18,6 +18,28 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(ErrorDeEjecucion, InicioDeAño(0));
     }
 
+    // A list holds what its count counts: a record without the counted column is in neither. What is left over of twins is a twin.
+    void Listas() {
+        Granja g;
+        g.Vaca(1, 2);
+        for (const char* muere : {"Perinatal", "Perinatal", "No"})
+            g.Parto(1, 2, 2020, "1/12/2019", {{"Muere", muere}});
+        g.Parto(1, 2, 2020, "1/12/2019", {{"Muere", "AntesD"}, {"N_Parto", Valor()}});
+        const auto muertos = Listar(g.c, RegistrosTernerosMuertos(12, 2020), "Fecha_Parto", "Muere");
+        QCOMPARE(muertos.size(), std::size_t(2));
+        QCOMPARE(Contar(g.c, RegistrosTernerosMuertos(12, 2020)), 2.0);
+        QCOMPARE(muertos[0].fecha + muertos[0].dato, std::string("01/12/19Perinatal"));
+        const auto todos = Listar(g.c, RegistrosPartosDelAño(12, 2020), "Fecha_Parto", "Muere");
+        QCOMPARE(todos.size(), std::size_t(4));
+        auto resto = Resto(todos, {muertos[0]});
+        QCOMPARE(resto.size(), std::size_t(3));
+        QCOMPARE(
+            std::count_if(resto.begin(), resto.end(), [](const auto& a) { return a.dato == "Perinatal"; }),
+            1);
+        Nombrar(g.c, 12, resto);
+        QCOMPARE(resto[2].crotal + resto[2].nombre, std::string("1V"));
+    }
+
     void Censo() {
         Granja g;
         g.Vaca(1, 0);
@@ -219,6 +241,31 @@ private Q_SLOTS:
         g.Parto(3, 6, 2019, "30/11/2019", {{"FVentaAD", Granja::Dia("1/12/2019")}});
         QCOMPARE(TernerosMamonesAFecha(g.c, 12, "1/12/2019", 2020, "INICIO"),
                  std::string("4")); // three of cow 1, one of cow 3
+    }
+
+    // The end of a year is the start of the next: everything is counted on 1 December, and cows by their records of the next year. So many of
+    // each that a day or a year beside it changes the figure.
+    void CargaAlFin() {
+        Granja g;
+        for (int i = 1; i <= 3; ++i) {
+            g.Poner("T_Sementales", {{"Id_Semental", double(i)},
+                                     {"Id_Ganadero", 12.0},
+                                     {"FechaBaja", Granja::Dia("1/12/2019")}}); // still there the day before
+            g.Vaca(i, -1);
+            g.Cubricion(i, 2019, 4, "30/11/2019"); // calved the day before
+            g.Vaca(10 + i, -1);
+            g.Cubricion(10 + i, 2020, 0); // heifer of the next year
+            g.Parto(1, 10 + i, 2019, "1/10/2018", {{"DESTINOTERNERO", "Recría"}});
+            g.Poner(
+                "T_Cebo",
+                {{"Id_Cebo", double(i)}, {"Id_Ganadero", 12.0}, {"FechaCebo", Granja::Dia("30/11/2019")}});
+        }
+        for (int i = 0; i < 5; ++i)
+            g.Parto(1, 20 + i, 2019, "30/9/2018", {{"DESTINOTERNERO", "Recría"}}); // 15 months on that day
+        // 3 cows + 3 heifers * 0.8 + 3 replacement * 0.4 + 3 fattening * 0.6 = 8.4
+        QCOMPARE(CargaUGM(g.c, 12, 2019, "FIN"), std::string("8"));
+        QCOMPARE(CargaUGM(g.c, 12, 2020, "INICIO"), std::string("8"));
+        QCOMPARE(CargaUGM(g.c, 12, 2019, "INICIO"), std::string("5")); // 3 bulls * 1.5
     }
 };
 

@@ -4,7 +4,7 @@
 #include "registers/datos/Borrados.h"
 
 using namespace pastorix;
-using prueba::Base;
+using namespace prueba;
 
 // The deletion cascades: what goes, what stays, and what a failure half way leaves.
 class PruebaBorrados : public QObject {
@@ -49,28 +49,26 @@ private Q_SLOTS:
         Base b;
         Sembrar(b);
         EnGrupo(b.c, [&] { BorrarVaca(b.c, 12001, 12); });
-        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), std::string("12002/57001/57002"));
+        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), "12002/57001/57002"s);
         for (const char* t : {"T_Mamitis", "T_Cubriciones", "T_Servicios", "T_Partos", "T_CCVacas",
                               "T_CCNATVACAS", "T_IBRBVD", "T_R_IBRBVD", "T_NEOSPIROSIS", "T_R_NEOSPIROSIS"})
-            QCOMPARE(b.Texto(std::string("SELECT Count(Id_Vaca) AS N FROM ") + t), std::string("3"));
-        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_MAMIVACU"), std::string("4")); // stays
+            QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM "s + t), "3"s);
+        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_MAMIVACU"), "4"s); // stays
         // the calf's fattening record goes under its farmer alone
         QCOMPARE(b.Texto("SELECT Id_Ganadero, Id_Cebo FROM T_Cebo ORDER BY Id_Ganadero, Id_Cebo"),
-                 std::string("12|5/57|4/57|5"));
+                 "12|5/57|4/57|5"s);
     }
 
     void Ganadero() {
         Base b;
         Sembrar(b);
         EnGrupo(b.c, [&] { BorrarGanadero(b.c, 12); });
-        QCOMPARE(
-            Cuentas(b),
-            std::string(
-                "Ganaderos 1, Direcciones 1, IPR 1, AlimentacionInvernal 1, AbonadoSuperficie 1, "
-                "PastosComunales 1, SistemaProduccion 1, Vacunaciones 1, FechasVacu 2, Vacas 2, Mamitis 2, "
-                "MAMIVACU 4, CCVacas 2, CCNATVACAS 2, IBRBVD 2, R_IBRBVD 2, NEOSPIROSIS 2, R_NEOSPIROSIS 2, "
-                "Sementales 1, PatologiaSem 1, PatologiaSemR 2, Cubriciones 2, Servicios 2, Partos 2, Cebo "
-                "2, "));
+        QCOMPARE(Cuentas(b),
+                 "Ganaderos 1, Direcciones 1, IPR 1, AlimentacionInvernal 1, AbonadoSuperficie 1, "
+                 "PastosComunales 1, SistemaProduccion 1, Vacunaciones 1, FechasVacu 2, Vacas 2, Mamitis 2, "
+                 "MAMIVACU 4, CCVacas 2, CCNATVACAS 2, IBRBVD 2, R_IBRBVD 2, NEOSPIROSIS 2, R_NEOSPIROSIS 2, "
+                 "Sementales 1, PatologiaSem 1, PatologiaSemR 2, Cubriciones 2, Servicios 2, Partos 2, Cebo "
+                 "2, "s);
     }
 
     void FalloAMedias() {
@@ -86,8 +84,8 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, EnGrupo(b.c, [&] { BorrarVaca(b.c, 12001, 12); }));
         // what was done before stays done, and durably; what comes after is untouched
         QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
-        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Vacas"), std::string("3"));
-        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Partos"), std::string("4"));
+        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Vacas"), "3"s);
+        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Partos"), "4"s);
     }
 };
 

@@ -4,12 +4,6 @@
 #include "registers/DarBaja.h"
 #include "registers/Ganaderos.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTimer>
-
 using namespace pastorix;
 using namespace prueba;
 
@@ -25,9 +19,9 @@ private Q_SLOTS:
         p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
         Ganaderos f(p.sesion);
         Mostrar(f);
-        auto* vet = f.findChild<QComboBox*>(QStringLiteral("CD_Veterinarios"));
-        auto* toros = f.findChild<QComboBox*>(QStringLiteral("Combo1"));
-        QCOMPARE(vet->itemText(1), QStringLiteral("Zoe Gil"));
+        auto* vet = f.findChild<QComboBox*>(u"CD_Veterinarios"_s);
+        auto* toros = f.findChild<QComboBox*>(u"Combo1"_s);
+        QCOMPARE(vet->itemText(1), u"Zoe Gil"_s);
         QVERIFY(CampoDe(f, 0)->hasFocus());
         for (const int i : {1, 16, 2, 3}) { // reading order
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -35,20 +29,19 @@ private Q_SLOTS:
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QVERIFY(CampoDe(f, i)->hasFocus());
         }
-        QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHIJLMNOPRSTUVY"));
-        auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
-        QCOMPARE(tab->tabText(2), QStringLiteral(" Inicio Periodo Reproductivo "));
+        QCOMPARE(Mnemonicos(f), u"ABCDEFGHIJLMNOPRSTUVY"_s);
+        auto* tab = f.findChild<QTabWidget*>(u"TabGanaderos"_s);
+        QCOMPARE(tab->tabText(2), u" Inicio Periodo Reproductivo "_s);
         BotonDe(f, "B_Añadir")->click();
-        QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1"));
-        QCOMPARE(CampoDe(f, 12)->text(), QStringLiteral("22/11/2026"));
+        QCOMPARE(CampoDe(f, 0)->text(), u"1"_s);
+        QCOMPARE(CampoDe(f, 12)->text(), u"22/11/2026"_s);
         Teclear(f, 2, "Nora");
         Teclear(f, 3, "Díaz");
         Teclear(f, 15, "La Ñisu");
-        QCOMPARE(f.findChild<QLabel*>(QStringLiteral("Encabezado"))->text(),
-                 QStringLiteral("Nora Díaz (La Ñisu)"));
+        QCOMPARE(f.findChild<QLabel*>(u"Encabezado"_s)->text(), u"Nora Díaz (La Ñisu)"_s);
         toros->setCurrentIndex(1);
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Debe Indicar el Veterinario"));
+        QCOMPARE(p.Caja(), u"Debe Indicar el Veterinario"_s);
         QVERIFY(vet->hasFocus());
         vet->setCurrentIndex(1);
         BotonDe(f, "B_Guardar")->click();
@@ -56,9 +49,9 @@ private Q_SLOTS:
         // farmer 1 owns the common bulls whatever was chosen; no address text, no address
         QCOMPARE(p.Texto("SELECT Id_Ganadero, Nombre, Apodo, FechaAlta, TorosComun, Id_Veterinario, "
                          "Id_Direccion FROM T_Ganaderos"),
-                 std::string("1|Nora|La Ñisu|22/11/26|Sí|5|-"));
+                 "1|Nora|La Ñisu|22/11/26|Sí|5|-"s);
         QCOMPARE(p.Texto("SELECT Id_GV FROM T_Direcciones"), std::string());
-        QCOMPARE(Botones(f), QStringLiteral("AMER"));
+        QCOMPARE(Botones(f), u"AMER"_s);
         BotonDe(f, "B_Añadir")->click();
         Teclear(f, 0, "57");
         Teclear(f, 2, "Ana");
@@ -66,14 +59,14 @@ private Q_SLOTS:
         toros->setCurrentIndex(0);
         vet->setCurrentIndex(0);
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT TorosComun FROM T_Ganaderos WHERE Id_Ganadero = 57"), std::string("No"));
-        QCOMPARE(p.Texto("SELECT Id_GV, TelefonoP, TelefonoM FROM T_Direcciones"), std::string("57|-|600"));
+        QCOMPARE(p.Texto("SELECT TorosComun FROM T_Ganaderos WHERE Id_Ganadero = 57"), "No"s);
+        QCOMPARE(p.Texto("SELECT Id_GV, TelefonoP, TelefonoM FROM T_Direcciones"), "57|-|600"s);
 
         // removal: date and reason, shown again, and forgotten with the date
         const auto conDialogo = [&](const char* fecha, const char* motivo, const char* boton) {
             QTimer::singleShot(0, &f, [&f, fecha, motivo, boton] {
-                auto* d = f.findChild<QDialog*>(QStringLiteral("DarBaja"));
-                QCOMPARE(d->windowTitle(), QStringLiteral("Dar de Baja a: Ana "));
+                auto* d = f.findChild<QDialog*>(u"DarBaja"_s);
+                QCOMPARE(d->windowTitle(), u"Dar de Baja a: Ana "_s);
                 TeclearEn(*CampoDe(*d, 0), fecha);
                 TeclearEn(*CampoDe(*d, 1), motivo);
                 BotonDe(*d, boton)->click();
@@ -85,28 +78,27 @@ private Q_SLOTS:
         conDialogo("31/02/26", "x", "B_Aceptar");
         const auto mal = p.cajas.Vistas();
         QCOMPARE(mal.size(), 1);
-        QCOMPARE(mal[0].titulo, QStringLiteral("Atención!"));
-        QCOMPARE(mal[0].texto, QStringLiteral("La fecha no es correcta, dd/mm/aa"));
-        QCOMPARE(p.Texto("SELECT FechaBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"), std::string("-"));
+        QCOMPARE(mal[0].titulo, u"Atención!"_s);
+        QCOMPARE(mal[0].texto, u"La fecha no es correcta, dd/mm/aa"_s);
+        QCOMPARE(p.Texto("SELECT FechaBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"), "-"s);
         conDialogo("1/11/26", "Venta d'a casería", "B_Aceptar");
         QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"),
-                 std::string("01/11/26|Venta d'a casería"));
-        QCOMPARE(CampoDe(f, 13)->text(), QStringLiteral("1/11/26"));
+                 "01/11/26|Venta d'a casería"s);
+        QCOMPARE(CampoDe(f, 13)->text(), u"1/11/26"_s);
         BotonDe(f, "B_MotivoBaja")->click();
         const auto motivo = p.cajas.Vistas();
-        QCOMPARE(motivo[0].titulo, QStringLiteral("Causa de la Baja."));
-        QCOMPARE(motivo[0].texto, QStringLiteral("Venta d'a casería"));
+        QCOMPARE(motivo[0].titulo, u"Causa de la Baja."_s);
+        QCOMPARE(motivo[0].texto, u"Venta d'a casería"_s);
         Teclear(f, 13, "");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"),
-                 std::string("-|-"));
+        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"), "-|-"s);
 
         p.cajas.Responder(true);
         BotonDe(f, "B_Borrar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Eliminar Ganadero: Ana "));
-        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Ganaderos"), std::string("1"));
+        QCOMPARE(p.Caja(), u"Eliminar Ganadero: Ana "_s);
+        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Ganaderos"), "1"s);
         QCOMPARE(p.Texto("SELECT Id_GV FROM T_Direcciones"), std::string());
-        QCOMPARE(Botones(f), QStringLiteral("AR"));
+        QCOMPARE(Botones(f), u"AR"_s);
         QCOMPARE(CampoDe(f, 2)->text(), QString());
         f.close();
     }
@@ -134,11 +126,11 @@ private Q_SLOTS:
                      },
                      {}});
         Mostrar(f);
-        auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
+        auto* tab = f.findChild<QTabWidget*>(u"TabGanaderos"_s);
         QVERIFY(!tab->isTabEnabled(1));
         f.CargarFicha(12);
         tab->setCurrentIndex(1);
-        auto* grid = f.findChild<QTableWidget*>(QStringLiteral("GridCebo"));
+        auto* grid = f.findChild<QTableWidget*>(u"GridCebo"_s);
         const auto filas = [&] {
             QString todo;
             for (int i = 0; i < grid->rowCount(); ++i)
@@ -146,16 +138,16 @@ private Q_SLOTS:
                         QLatin1String(grid->item(i, 0)->isSelected() ? "* " : " ");
             return todo;
         };
-        QCOMPARE(filas(), QStringLiteral("2* 1Luna "));
+        QCOMPARE(filas(), u"2* 1Luna "_s);
         grid->setFocus();
         QTest::keyClick(grid, Qt::Key_Down);
         QTest::keyClick(grid, Qt::Key_Return);
-        QCOMPARE(filas(), QStringLiteral("1Luna* 2 "));
+        QCOMPARE(filas(), u"1Luna* 2 "_s);
         BotonDe(f, "B_AñadirCebo")->click();
-        QCOMPARE(filas(), QStringLiteral("4 1Luna* 2 "));
+        QCOMPARE(filas(), u"4 1Luna* 2 "_s);
         QTest::keyClick(grid, Qt::Key_Down);
         QCOMPARE(grid->currentRow(), 2);
-        QCOMPARE(ordenes, std::string("12:1 12: "));
+        QCOMPARE(ordenes, "12:1 12: "s);
         BotonDe(f, "B_Añadir")->click(); // a farmer that is not there yet has none
         QVERIFY(!tab->isTabEnabled(1) && grid->rowCount() == 0);
     }

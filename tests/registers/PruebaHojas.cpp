@@ -2,19 +2,18 @@
 #include "prueba.h"
 
 #include "frame/ficha/CampoTexto.h"
-#include "frame/ficha/RejillaHijos.h"
 #include "registers/Ganaderos.h"
 #include "registers/Veterinarios.h"
 #include "registers/datos/AsuntosSanidad.h"
 #include "registers/datos/Mamitis.h"
 #include "registers/datos/Materia.h"
 #include "registers/datos/PatologiasSemental.h"
+#include "registers/sementales/Sementales.h"
 #include "registers/vacas/Vacas.h"
 
-#include <QTimer>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QToolButton>
-
-#include <sqlite3.h>
 
 using namespace pastorix;
 using namespace prueba;
@@ -22,10 +21,6 @@ using namespace prueba;
 // What all record sheets promise: nothing that stands on them is lost, and nothing that nobody touched changes.
 class PruebaHojas : public QObject {
     Q_OBJECT
-
-    static void Ejecutar(Conexion& c, const char* sql) {
-        QCOMPARE(sqlite3_exec(c.Manejador(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
-    }
 
 private Q_SLOTS:
     // A reader of another program makes the commit fail: the record is not there, and is still to be added.
@@ -39,18 +34,17 @@ private Q_SLOTS:
         sqlite3_busy_timeout(p.sesion.conexion.Manejador(), 0);
         Conexion lector;
         lector.AbrirFichero(p.sesion.conexion.Fichero(), kClave);
-        Ejecutar(lector, "BEGIN; SELECT * FROM T_Vacas");
+        Crudo(lector, "BEGIN; SELECT * FROM T_Vacas");
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 1);
         QCOMPARE(f.Clave(), 0.0);
-        Ejecutar(lector, "COMMIT");
+        Crudo(lector, "COMMIT");
         p.cajas.Responder(false); // what stands here alone is not given up by a slip
         BotonDe(f, "B_Cancelar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 1);
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT NombreVet, Usuario FROM T_Veterinarios"), std::string("Ana|ana"));
-        QVERIFY(
-            f.findChild<QLabel*>(QStringLiteral("Estado"))->text().startsWith(QStringLiteral("Guardado ")));
+        QCOMPARE(p.Texto("SELECT NombreVet, Usuario FROM T_Veterinarios"), "Ana|ana"s);
+        QVERIFY(f.findChild<QLabel*>(u"Estado"_s)->text().startsWith(u"Guardado "_s));
     }
 
     // What a column holds beyond what the field shows: centuries, long texts, texts that are no dates.
@@ -63,7 +57,7 @@ private Q_SLOTS:
                                     {"Id_Veterinario", 2.0},
                                     {"FechaBaja", baja},
                                     {"MotivoBaja", "x"}});
-        Ejecutar(p.sesion.conexion, "UPDATE T_Ganaderos SET Apodo = printf('%.*c', 300, 'y')");
+        Crudo(p.sesion.conexion, "UPDATE T_Ganaderos SET Apodo = printf('%.*c', 300, 'y')");
         const char* const sql = "SELECT FechaBaja, MotivoBaja, Apodo FROM T_Ganaderos";
         const auto crudo = [&] {
             Recordset rs(p.sesion.conexion, sql);
@@ -81,28 +75,22 @@ private Q_SLOTS:
             Teclear(f, 3, "Gil");
             BotonDe(f, "B_Guardar")->click();
         }
-        QCOMPARE(p.Texto("SELECT Apellidos FROM T_Ganaderos"), std::string("Gil/Gil/Gil"));
+        QCOMPARE(p.Texto("SELECT Apellidos FROM T_Ganaderos"), "Gil/Gil/Gil"s);
         QVERIFY(crudo() == antes);
         Teclear(f, 13, "");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 16"),
-                 std::string("-|-"));
+        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 16"), "-|-"s);
     }
 
     // Rows deleted to be written anew, and one of them cannot be: all are as they were.
     void ConjuntosEnteros_data() {
-        QTest::addColumn<QString>("indice"); // that the rewrite trips over
-        QTest::addColumn<QString>("tabla");
-        QTest::newRow("farm years") << "T_IPR (IPRPrimNov)"
-                                    << "T_IPR";
-        QTest::newRow("health, cycles") << "T_CCVacas (CCmar)"
-                                        << "T_CCVacas";
-        QTest::newRow("health, years") << "T_CCNATVACAS (CCmar)"
-                                       << "T_CCNATVACAS";
-        QTest::newRow("teats") << "T_Mamitis (DescMamitis)"
-                               << "T_Mamitis";
-        QTest::newRow("bull") << "T_PatologiaSem (IBRsp)"
-                              << "T_PatologiaSem";
+        // indice: that the rewrite trips over
+        Columnas<QString, QString>("indice", "tabla");
+        Caso("farm years", "T_IPR (IPRPrimNov)", "T_IPR");
+        Caso("health, cycles", "T_CCVacas (CCmar)", "T_CCVacas");
+        Caso("health, years", "T_CCNATVACAS (CCmar)", "T_CCNATVACAS");
+        Caso("teats", "T_Mamitis (DescMamitis)", "T_Mamitis");
+        Caso("bull", "T_PatologiaSem (IBRsp)", "T_PatologiaSem");
     }
     void ConjuntosEnteros() {
         QFETCH(QString, indice);
@@ -123,7 +111,7 @@ private Q_SLOTS:
             p.Poner("T_Mamitis", {{"Id_Vaca", 1.0}, {"Id_Teto", teto}, {"DescMamitis", TextoNumero(teto)}});
         const auto sql = "SELECT * FROM " + tabla.toStdString();
         const auto antes = p.Texto(sql);
-        Ejecutar(c, ("CREATE UNIQUE INDEX roto ON " + indice.toStdString()).c_str());
+        Crudo(c, ("CREATE UNIQUE INDEX roto ON " + indice.toStdString()).c_str());
         const auto repetir = [](std::vector<Linea> lineas, std::size_t columna) {
             lineas[1].celdas[columna] = lineas[0].celdas[columna];
             return lineas;
@@ -156,12 +144,12 @@ private Q_SLOTS:
         Mostrar(f);
         f.CargarFicha(1);
         BotonDe(f, "B_Modificar")->click();
-        auto* icono = f.findChild<QToolButton*>(QStringLiteral("IconoBusDato(1)"));
+        auto* icono = f.findChild<QToolButton*>(u"IconoBusDato(1)"_s);
         icono->click();
-        QVERIFY(p.Caja().startsWith(QStringLiteral("La vaca ya tiene ganadero")));
+        QVERIFY(p.Caja().startsWith(u"La vaca ya tiene ganadero"_s));
         BotonDe(f, "B_Cancelar")->click();
         f.CargarFicha(2);
-        auto* observacion = f.findChild<QPlainTextEdit*>(QStringLiteral("CT_ObsCC"));
+        auto* observacion = f.findChild<QPlainTextEdit*>(u"CT_ObsCC"_s);
         QVERIFY(!observacion->isEnabled());
         BotonDe(f, "B_Modificar")->click();
         QTimer::singleShot(0, [] { // the list of farmers: the first one
@@ -169,7 +157,7 @@ private Q_SLOTS:
         });
         icono->click();
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Vacas"), std::string("12/12"));
+        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Vacas"), "12/12"s);
         QVERIFY(observacion->isEnabled());
     }
 
@@ -185,12 +173,14 @@ private Q_SLOTS:
         };
         entrar("2");
         QCOMPARE(f.focusWidget(), CampoDe(f, 0));
-        QCOMPARE(CampoDe(f, 0)->selectedText(), QStringLiteral("2"));
+        QCOMPARE(CampoDe(f, 0)->selectedText(), u"2"_s);
         p.sesion.conexion.Execute("UPDATE T_Veterinarios SET NombreVet = 'Eva'");
         entrar("2");
-        QCOMPARE(CampoDe(f, 2)->text(), QStringLiteral("Eva"));
-        entrar("0");
-        QCOMPARE(p.Caja(), QStringLiteral("No Encuentro el Codigo: 0"));
+        QCOMPARE(CampoDe(f, 2)->text(), u"Eva"_s);
+        for (const char* codigo : {"0", "99"}) {
+            entrar(codigo);
+            QCOMPARE(p.cajas.Tomar(), QStringList{u"Atención...|No Encuentro el Codigo: "_s + codigo});
+        }
     }
 
     // Alt with the letter of a button that is off means the button: nothing is typed, and no edit begins.
@@ -202,8 +192,8 @@ private Q_SLOTS:
         f.CargarFicha(2);
         CampoDe(f, 2)->setFocus();
         QTest::keyClick(CampoDe(f, 2), Qt::Key_G, Qt::AltModifier);
-        QCOMPARE(CampoDe(f, 2)->text(), QStringLiteral("Ana"));
-        QCOMPARE(Encendidos(f), QStringLiteral("AMER"));
+        QCOMPARE(CampoDe(f, 2)->text(), u"Ana"_s);
+        QCOMPARE(Encendidos(f), u"AMER"_s);
     }
 
     // A text that is no date is told as such from the moment the field is left; a day on and back by keys.
@@ -213,49 +203,83 @@ private Q_SLOTS:
         Mostrar(f);
         BotonDe(f, "B_Añadir")->click();
         auto* alta = static_cast<CampoTexto*>(CampoDe(f, 12));
-        const auto* pie = f.findChild<QLabel*>(QStringLiteral("Reparos"));
+        const auto* pie = f.findChild<QLabel*>(u"Reparos"_s);
         Teclear(f, 12, "31/2/2026");
         QVERIFY(alta->Señal().isEmpty()); // not while it is being typed
         CampoDe(f, 2)->setFocus();
-        QVERIFY(alta->Señal().contains(QStringLiteral("No es una fecha")));
+        QVERIFY(alta->Señal().contains(u"No es una fecha"_s));
         QCOMPARE(alta->accessibleDescription(), alta->Señal());
         QVERIFY(alta->palette().color(QPalette::Text) != CampoDe(f, 2)->palette().color(QPalette::Text));
-        QVERIFY(!pie->isHidden() && pie->text().contains(QStringLiteral("31/2/2026")));
+        QVERIFY(!pie->isHidden() && pie->text().contains(u"31/2/2026"_s));
         Teclear(f, 12, "1/3/2026");
         QVERIFY(pie->isHidden());
         QTest::keyClick(alta, Qt::Key_Down);
-        QCOMPARE(alta->text(), QStringLiteral("28/02/2026"));
+        QCOMPARE(alta->text(), u"28/02/2026"_s);
         QTest::keyClick(alta, Qt::Key_Up);
-        QCOMPARE(alta->text(), QStringLiteral("01/03/2026"));
+        QCOMPARE(alta->text(), u"01/03/2026"_s);
     }
 
-    // The first column is hidden in the grid of matings: the arrows choose all the same.
-    void FlechasConColumnaOculta() {
-        constexpr ColumnaHijos columnas[] = {{nullptr, "Id", 0}, {nullptr, "Año", 6}};
-        RejillaHijos r(columnas);
-        r.Llenar({{Valor(std::int64_t{1}), std::string("a")}, {Valor(std::int64_t{2}), std::string("b")}});
-        Mostrar(r);
-        r.setFocus(Qt::TabFocusReason);
-        QTest::keyClick(&r, Qt::Key_Down);
-        QVERIFY(!r.selectedItems().isEmpty());
-        QCOMPARE(r.currentRow(), 1);
-    }
-
-    // A father is nobody's while there is no animal on the sheet.
-    void PadreSinVaca() {
+    // Alt+Left: to the record before, and on a fresh sheet to the one on which the last was closed; of this database.
+    void VolverAlAnterior() {
         PuestoDeFichas p;
-        Vacas f(p.sesion, {});
+        for (const double id : {2.0, 3.0, 4.0})
+            p.Poner("T_Veterinarios", {{"Id_Veterinario", id}, {"NombreVet", "V"}});
+        const auto volver = [](Ficha& f) {
+            QTest::keyClick(CampoDe(f, 2), Qt::Key_Left, Qt::AltModifier);
+            return f.Clave();
+        };
+        {
+            Veterinarios f(p.sesion);
+            Mostrar(f);
+            QCOMPARE(volver(f), 0.0);
+            QVERIFY(!f.findChild<QLabel*>(u"Estado"_s)->text().isEmpty());
+            f.CargarFicha(2);
+            f.CargarFicha(3);
+            QCOMPARE(volver(f), 2.0);
+            QCOMPARE(volver(f), 3.0);
+            Teclear(f, 2, "W");
+            p.cajas.Responder(false);
+            QCOMPARE(volver(f), 3.0);
+            QVERIFY(p.Caja().startsWith(u"Hay cambios sin guardar"_s));
+            BotonDe(f, "B_Cancelar")->click();
+            f.close();
+        }
+        Veterinarios f(p.sesion);
         Mostrar(f);
-        bool lista = false;
-        QTimer::singleShot(0, [&] {
-            if (auto* ventana = QApplication::activeModalWidget(); ventana && ventana != &f) {
-                lista = true;
-                ventana->close();
-            }
-        });
-        f.findChild<QToolButton*>(QStringLiteral("IconoBusDato(2)"))->click();
-        QCoreApplication::processEvents();
-        QVERIFY(!lista);
+        QCOMPARE(f.Clave(), 0.0); // nothing is shown unasked
+        QCOMPARE(volver(f), 3.0);
+        PuestoDeFichas otra;
+        Veterinarios g(otra.sesion);
+        Mostrar(g);
+        QCOMPARE(volver(g), 0.0);
+    }
+
+    // Codes in headings have words, and no sheet is larger than the screen.
+    void TitulosYMedidas() {
+        PuestoDeFichas p;
+        std::vector<std::unique_ptr<Ficha>> hojas;
+        hojas.push_back(std::make_unique<Veterinarios>(p.sesion));
+        hojas.push_back(std::make_unique<Ganaderos>(p.sesion));
+        hojas.push_back(std::make_unique<Vacas>(p.sesion, OrdenesDeVaca{}));
+        hojas.push_back(std::make_unique<Sementales>(p.sesion));
+        const QRegularExpression clave(QStringLiteral(R"(\.|%|\p{Ll}\p{Lu}|\p{Lu}{2}|\bRef\b)"));
+        int claves = 0;
+        for (const auto& hoja : hojas) {
+            for (const auto* tabla : hoja->findChildren<QTableWidget*>())
+                for (int c = 0; c < tabla->columnCount(); ++c) {
+                    const auto* titulo = tabla->horizontalHeaderItem(c);
+                    if (tabla->isColumnHidden(c) || !titulo->text().contains(clave))
+                        continue;
+                    ++claves;
+                    QVERIFY2(titulo->toolTip().size() > titulo->text().size(),
+                             qUtf8Printable(titulo->text()));
+                }
+            hoja->show();
+            const auto pantalla = hoja->screen()->availableSize();
+            QVERIFY2(hoja->width() < pantalla.width() && hoja->height() < pantalla.height(),
+                     qUtf8Printable(hoja->objectName()));
+        }
+        QVERIFY(claves > 50);
     }
 };
 

@@ -18,14 +18,14 @@ private Q_SLOTS:
         TiraNavegacion tira;
         auto* primera = new QWidget;
         auto* segunda = new QWidget;
-        tira.Añadir("hoja", QStringLiteral("&Uno"), primera);
-        tira.Añadir("hoja", QStringLiteral("&Dos"), segunda);
+        tira.Añadir("hoja", u"&Uno"_s, primera);
+        tira.Añadir("hoja", u"&Dos"_s, segunda);
         Mostrar(tira);
         QVERIFY(primera->isVisible() && !segunda->isVisible());
         QTest::keyClick(&tira, Qt::Key_D, Qt::AltModifier);
         QTRY_VERIFY(segunda->isVisible() && !primera->isVisible());
         QCOMPARE(tira.Actual(), 1);
-        tira.findChild<QToolButton*>(QStringLiteral("IconoNav(0)"))->click();
+        tira.findChild<QToolButton*>(u"IconoNav(0)"_s)->click();
         QVERIFY(primera->isVisible());
     }
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
         rejilla.Llenar(rs);
         Mostrar(rejilla);
         QVERIFY(elegidas.empty()); // showing rows chooses none
-        QCOMPARE(rejilla.item(0, 0)->text(), QStringLiteral("3"));
+        QCOMPARE(rejilla.item(0, 0)->text(), u"3"_s);
         QCOMPARE(rejilla.item(1, 1)->text(), QString());
         QVERIFY(EsNulo(rejilla.De(1, 1)));
         rejilla.setFocus();
@@ -54,8 +54,13 @@ private Q_SLOTS:
         QTest::keyClick(&rejilla, Qt::Key_Return);
         QCOMPARE(elegidas, std::vector{1});
         QCOMPARE(abiertas, std::vector{1});
-        QTest::keyClicks(&rejilla, QStringLiteral("9"));
-        QCOMPARE(rejilla.item(1, 0)->text(), QStringLiteral("2")); // read-only
+        QTest::keyClicks(&rejilla, u"9"_s);
+        QCOMPARE(rejilla.item(1, 0)->text(), u"2"_s); // read-only
+        rejilla.hideColumn(0); // as in the grid of matings: the arrows choose all the same
+        rejilla.clearSelection();
+        QTest::keyClick(&rejilla, Qt::Key_Down);
+        QVERIFY(!rejilla.selectedItems().isEmpty());
+        QCOMPARE(rejilla.currentRow(), 2);
         rejilla.Vaciar();
         QCOMPARE(rejilla.Filas(), 0);
     }

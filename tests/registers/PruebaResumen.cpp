@@ -1,11 +1,10 @@
 #include "PuestoDeFichas.h"
 #include "prueba.h"
 
+#include "frame/calendario/Formatos.h"
 #include "registers/Ganaderos.h"
 #include "registers/datos/Resumen.h"
-
-#include <QTabWidget>
-#include <QTableWidget>
+#include "reports/indices/IndicesTec.h"
 
 using namespace pastorix;
 using namespace prueba;
@@ -43,11 +42,10 @@ private Q_SLOTS:
     // At 1/12/24 the load is 4 cows and 2 bulls, 7; at 1/12/23 too (their calvings are of 2023, and the record of 2024 is within year 2024); at
     // 1/12/25 one bull has gone: 5,5, which the load rounds to 6. So 2024 has 7, and 2025 the mean 6,5, shown as 7.
     void Cifras_data() {
-        QTest::addColumn<QString>("tabla");
-        QTest::addColumn<QString>("fila"); // field=value; year 2025
-        QTest::addColumn<QString>("linea");
+        // fila: field=value; year 2025
+        Columnas<QString, QString, QString>("tabla", "fila", "linea");
         const auto caso = [](const char* nombre, const char* tabla, const char* fila, const char* linea) {
-            QTest::newRow(nombre) << tabla << fila << linea;
+            Caso(nombre, tabla, fila, linea);
         };
         caso("only IPR", "", "", "2025|7|Inv.||||||||||");
         caso("no year of its own", "T_SistemaProduccion", "TipoSP=SE", "2025|7|Inv.|||||||||SE|");
@@ -79,9 +77,8 @@ private Q_SLOTS:
             rs.AddNew();
             rs["Id_Ganadero"] = 12.0;
             rs["AñoNatural"] = 2025;
-            for (const auto& par : fila.split(QLatin1Char(',')))
-                rs[par.section(QLatin1Char('='), 0, 0).toStdString()] =
-                    par.section(QLatin1Char('='), 1).toStdString();
+            for (const auto& par : fila.split(u','))
+                rs[par.section(u'=', 0, 0).toStdString()] = par.section(u'=', 1).toStdString();
             rs.Update();
         }
         QCOMPARE(Lineas(p), linea.toStdString());
@@ -102,6 +99,35 @@ private Q_SLOTS:
         QCOMPARE(Lineas(p, 14), "2025|0|" + vacias);
     }
 
+    // A load that was counted for the end of a year serves the next one only where it is what would be counted anew. It travels with two figures
+    // of the year: 1/12/1949 becomes one of 2049, 1/12/2050 one of 1950.
+    void CargaDeAnosLejanos() {
+        PuestoDeFichas p;
+        PonerRebaño(p);
+        int n = 0;
+        for (const auto& [año, nace] :
+             {std::pair{1949, "1/6/1949"}, {2050, "1/6/2048"}, {2025, "1/6/2024"}}) {
+            for (int i = 0; i < 10; ++i)
+                p.Poner("T_Partos", {{"Id_Parto", ++n},
+                                     {"Id_Vaca", 120001.0},
+                                     {"N_Parto", n},
+                                     {"Año_Ref", año},
+                                     {"Fecha_Parto", F(nace)},
+                                     {"DESTINOTERNERO", "Recría"}});
+        }
+        for (const int año : {1949, 1950, 2025, 2026, 2048, 2049, 2050, 2051})
+            p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}});
+        auto& c = p.sesion.conexion;
+        const auto resumen = LeerResumen(c, 12);
+        QCOMPARE(resumen.size(), std::size_t(8));
+        for (const auto& r : resumen) {
+            const double año = std::stod(r.año);
+            const double ambos =
+                std::stod(CargaUGM(c, 12, año, "INICIO")) + std::stod(CargaUGM(c, 12, año, "FIN"));
+            QVERIFY2(r.ugm == FormatoNumero(ambos / 2, "####0"), r.año.c_str());
+        }
+    }
+
     // In the sheet: worked out each time it comes up, with the types of years without a line kept out of sight.
     void EnLaFicha() {
         PuestoDeFichas p;
@@ -113,32 +139,26 @@ private Q_SLOTS:
         Ganaderos f(p.sesion);
         Mostrar(f);
         f.CargarFicha(12);
-        auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabGanaderos"));
+        auto* tab = f.findChild<QTabWidget*>(u"TabGanaderos"_s);
         const auto ir = [&](int i) {
             tab->setCurrentIndex(i);
-            f.findChild<QAbstractButton*>(QStringLiteral("IconoNav(3)"))->click();
+            f.findChild<QAbstractButton*>(u"IconoNav(3)"_s)->click();
         };
-        auto* rejilla = f.findChild<QTableWidget*>(QStringLiteral("GridSP"));
+        auto* rejilla = f.findChild<QTableWidget*>(u"GridSP"_s);
         const auto filas = [rejilla] {
             QString t;
             for (int i = 0; i < rejilla->rowCount(); ++i)
                 t += rejilla->item(i, 0)->text() + rejilla->item(i, 1)->text() +
-                     rejilla->item(i, 11)->text() + QLatin1Char('/');
+                     rejilla->item(i, 11)->text() + u'/';
             return t;
         };
         const auto tipos = [&p] {
             return p.Texto("SELECT AñoNatural, TipoSP FROM T_SistemaProduccion ORDER BY AñoNatural");
         };
         ir(3);
-        QStringList titulos;
-        for (int i = 0; i < rejilla->columnCount(); ++i)
-            titulos << rejilla->horizontalHeaderItem(i)->text();
-        QCOMPARE(titulos.join(QLatin1Char(' ')),
-                 QStringLiteral("AñoNat UGM PartosAgr. Abonado %HaAbon. CargaGNoC DíasPC "
-                                "AlimPC %UGMenPC DíasPI AlimPI TipoSP"));
-        QCOMPARE(filas(), QStringLiteral("20247/20257SE/20257SE/")); // two rows of a year are two lines
-        auto* año = f.findChild<QLineEdit*>(QStringLiteral("Ct_TipoSP(0)"));
-        auto* tipo = f.findChild<QLineEdit*>(QStringLiteral("Ct_TipoSP(1)"));
+        QCOMPARE(filas(), u"20247/20257SE/20257SE/"_s); // two rows of a year are two lines
+        auto* año = f.findChild<QLineEdit*>(u"Ct_TipoSP(0)"_s);
+        auto* tipo = f.findChild<QLineEdit*>(u"Ct_TipoSP(1)"_s);
         const auto linea = [&](const char* a, const char* t) {
             año->setFocus();
             TeclearEn(*año, a);
@@ -146,26 +166,26 @@ private Q_SLOTS:
             QTest::keyClick(tipo, Qt::Key_Return);
         };
         linea("2020", "nuevo"); // kept without a line, and so cannot be written over unseen
-        QCOMPARE(p.Caja(), QStringLiteral("Ya existe una línea para el año natural 2020"));
+        QCOMPARE(p.Caja(), u"Ya existe una línea para el año natural 2020"_s);
         QTest::keyClick(tipo, Qt::Key_Escape);
         linea("2021", "nuevo");
-        QVERIFY(p.Caja().startsWith(QStringLiteral("El año queda guardado, pero no se ve en la tabla")));
-        QCOMPARE(tipos(), std::string("2019|viejo/2020|otro/2021|nuevo/2024|-/2025|SE"));
-        QCOMPARE(filas(), QStringLiteral("20247/20257SE/20257SE/")); // two rows of a year are two lines
+        QVERIFY(p.Caja().startsWith(u"El año queda guardado, pero no se ve en la tabla"_s));
+        QCOMPARE(tipos(), "2019|viejo/2020|otro/2021|nuevo/2024|-/2025|SE"s);
+        QCOMPARE(filas(), u"20247/20257SE/20257SE/"_s); // two rows of a year are two lines
         rejilla->setCurrentCell(1, 0);
         p.cajas.Responder(true);
         QTest::keyClick(rejilla, Qt::Key_Delete);
-        QCOMPARE(p.Caja(), QStringLiteral("Eliminar la línea para 2025"));
-        QCOMPARE(tipos(), std::string("2019|viejo/2020|otro/2021|nuevo/2024|-"));
+        QCOMPARE(p.Caja(), u"Eliminar la línea para 2025"_s);
+        QCOMPARE(tipos(), "2019|viejo/2020|otro/2021|nuevo/2024|-"s);
         p.Poner("T_Sementales", {{"Id_Semental", 1203.0}, {"Id_Ganadero", 12.0}});
         p.Poner("T_Sementales", {{"Id_Semental", 1204.0}, {"Id_Ganadero", 12.0}});
         ir(0);
         ir(3);
-        QCOMPARE(filas(), QStringLiteral("202410/202510/202510/"));
+        QCOMPARE(filas(), u"202410/202510/202510/"_s);
         TeclearEn(*tipo, "x"); // what is being typed outlives a look at another tab
         ir(0);
         ir(3);
-        QCOMPARE(tipo->text(), QStringLiteral("x"));
+        QCOMPARE(tipo->text(), u"x"_s);
         QTest::keyClick(tipo, Qt::Key_Escape);
     }
 };

@@ -3,9 +3,6 @@
 
 #include "registers/datos/AsuntosSanidad.h"
 #include "registers/datos/Mamitis.h"
-#include "store/Literales.h"
-
-#include <set>
 
 using namespace pastorix;
 using namespace prueba;
@@ -27,31 +24,6 @@ std::string Celdas(const std::vector<Linea>& lineas) {
             t += (i ? "|" : "") + l.celdas[i];
     }
     return t;
-}
-
-using Filas = std::multiset<std::string>;
-
-// A table as a set of rows, each as one text with its types' own precision.
-Filas FilasDe(Conexion& c, const std::string& tabla) {
-    Filas filas;
-    for (Recordset rs(c, "SELECT * FROM " + tabla, Cursor::Estatico, Bloqueo::SoloLectura); !rs.Eof();
-         rs.Siguiente()) {
-        std::string fila;
-        for (int i = 0; i < rs.Campos(); ++i) {
-            const auto v = rs[i].Leer();
-            const auto* f = std::get_if<Fecha>(&v);
-            fila += EsNulo(v) ? std::string("|-") : "|" + (f ? FechaIso(*f) : TextoDe(v));
-        }
-        filas.insert(fila);
-    }
-    return filas;
-}
-
-Filas SinLosDe(const Filas& unas, const Filas& otras) {
-    Filas resto;
-    std::set_difference(unas.begin(), unas.end(), otras.begin(), otras.end(),
-                        std::inserter(resto, resto.end()));
-    return resto;
 }
 
 } // namespace
@@ -80,16 +52,16 @@ private Q_SLOTS:
         parto(2025, {}, "", 0);   // no parity: nothing says that they are twins
         parto(2022, 3, "", 7, 5); // another cow
         auto lineas = LeerLactaciones(p.sesion.conexion, 1200001);
-        QCOMPARE(Celdas(lineas), std::string("2025|||||0/2025|||||0/2024||5|02/08/24 - ||/"
-                                             "2023||4|<?> - 09/07/23||/2022||3|01/06/22 - 05/06/22||1"));
+        QCOMPARE(Celdas(lineas), "2025|||||0/2025|||||0/2024||5|02/08/24 - ||/"
+                                 "2023||4|<?> - 09/07/23||/2022||3|01/06/22 - 05/06/22||1"s);
         lineas[0].celdas[kTratSecado] = "sin parto";
         lineas[2].celdas[kTratSecado] = "Sí, d'un día";
         lineas[2].celdas[kCuartosPerdidos] = "x";
         lineas[4].celdas[kCuartosPerdidos] = "2";
         EscribirLactaciones(p.sesion.conexion, 1200001, lineas);
         QCOMPARE(p.Texto("SELECT Año_Ref, TratSecado, CuartosPerdidos FROM T_Partos"),
-                 std::string("2022|-|2/2022|-|2/2023|-|-/2023|-|-/2024|Sí, d'un día|-/2024|Sí, d'un día|-/"
-                             "2025|-|0/2025|-|0/2022|-|7"));
+                 "2022|-|2/2022|-|2/2023|-|-/2023|-|-/2024|Sí, d'un día|-/2024|Sí, d'un día|-/"
+                 "2025|-|0/2025|-|0/2022|-|7"s);
     }
 
     void CuatroTetos() {
@@ -99,15 +71,15 @@ private Q_SLOTS:
                 "T_Mamitis",
                 {{"Id_Vaca", 7.0}, {"Id_Teto", teto}, {"marcado", marcado ? -1 : 0}, {"DescMamitis", nota}});
         };
-        tetos(3, true, std::string("Golpe"));
+        tetos(3, true, "Golpe"s);
         tetos(9, true, {}); // there is no such teat
         auto leidos = LeerTetos(p.sesion.conexion, 7);
-        QCOMPARE(leidos[0].nombre, std::string("Anterior izquierdo"));
+        QCOMPARE(leidos[0].nombre, "Anterior izquierdo"s);
         QVERIFY(leidos[2].marcado && !leidos[3].marcado);
         leidos[0].fecha = F("1/3/2205");
         EscribirTetos(p.sesion.conexion, 7, leidos);
         QCOMPARE(p.Texto("SELECT Id_Teto, DescMamitis, marcado FROM T_Mamitis ORDER BY Id_Teto"),
-                 std::string("1|-|0/2|-|0/3|Golpe|-1/4|-|0"));
+                 "1|-|0/2|-|0/3|Golpe|-1/4|-|0"s);
         QCOMPARE(LeerTetos(p.sesion.conexion, 7)[0].fecha, Valor(F("1/3/2205")));
     }
 
@@ -117,7 +89,7 @@ private Q_SLOTS:
         Cubricion(p, 2023, 4);
         Cubricion(p, 2023, {}); // a mating record without parity has a line of its own
         const auto de = [&](const char* tabla, const char* campo, const char* fecha, int servicio = 0) {
-            pastorix::Recordset rs(p.sesion.conexion, std::string("SELECT * FROM ") + tabla);
+            pastorix::Recordset rs(p.sesion.conexion, "SELECT * FROM "s + tabla);
             rs.AddNew();
             rs["Id_Vaca"] = kVaca.idVaca;
             rs["Año_Ref"] = 2022;
@@ -141,28 +113,25 @@ private Q_SLOTS:
         valores(2023, {}, 1.5);
         valores(2019, 1, 3.0); // its mating record is gone
         auto datos = LeerAsunto(p.sesion.conexion, kCondicionCorporal, kVaca.idVaca);
-        QCOMPARE(Celdas(datos.ciclos),
-                 std::string("2023|4||||||||/2023|||1,5||||||/2022|3|04/01/22|2,25|||05/06/22|||"));
+        QCOMPARE(Celdas(datos.ciclos), "2023|4||||||||/2023|||1,5||||||/2022|3|04/01/22|2,25|||05/06/22|||"s);
         QCOMPARE(Celdas(LeerAsunto(p.sesion.conexion, kIBRBVD, kVaca.idVaca).ciclos),
-                 std::string("2023|4||||/2023|||||/2022|3|04/01/22|02/05/22||"));
+                 "2023|4||||/2023|||||/2022|3|04/01/22|02/05/22||"s);
         GuardarAsunto(p.sesion.conexion, kCondicionCorporal, kVaca, datos);
         QCOMPARE(p.Texto("SELECT Id_Ganadero, AñoRef, NumParto, CCParto, MobReservas FROM T_CCVacas"),
-                 std::string("12|2023|4|-|-/12|2023|-|1,5|-/12|2022|3|2,25|-"));
+                 "12|2023|4|-|-/12|2023|-|1,5|-/12|2022|3|2,25|-"s);
     }
 
     // One table, the observation, the other table; what fails leaves what was done before it.
     void OrdenDeGuardar_data() {
-        QTest::addColumn<int>("asunto");
-        QTest::addColumn<QString>("observacion");
-        QTest::addColumn<QString>("guardado"); // natural years / cycles / observation
-        const QString corte = QStringLiteral("d'aldea\r\nsegunda");
-        QTest::newRow("CC") << 0 << corte << QStringLiteral("2026/2022/") + corte;
-        QTest::newRow("IBR") << 1 << corte << QStringLiteral("2026/2022/") + corte;
-        QTest::newRow("Neospora, quote") << 2 << corte << QStringLiteral("2026/1999/antes");
-        QTest::newRow("Neospora") << 2 << QStringLiteral("uno\r\ndos")
-                                  << QStringLiteral("2026/2022/uno\r\ndos");
-        QTest::newRow("Neospora, empty") << 2 << QString() << QStringLiteral("2026/2022/-");
-        QTest::newRow("IBR, empty") << 1 << QString() << QStringLiteral("2026/2022/-");
+        // guardado: natural years / cycles / observation
+        Columnas<int, QString, QString>("asunto", "observacion", "guardado");
+        const QString corte = u"d'aldea\r\nsegunda"_s;
+        Caso("CC", 0, corte, u"2026/2022/"_s + corte);
+        Caso("IBR", 1, corte, u"2026/2022/"_s + corte);
+        Caso("Neospora, quote", 2, corte, u"2026/1999/antes"_s);
+        Caso("Neospora", 2, u"uno\r\ndos"_s, u"2026/2022/uno\r\ndos"_s);
+        Caso("Neospora, empty", 2, QString(), u"2026/2022/-"_s);
+        Caso("IBR, empty", 1, QString(), u"2026/2022/-"_s);
     }
     void OrdenDeGuardar() {
         QFETCH(int, asunto);
@@ -170,7 +139,7 @@ private Q_SLOTS:
         QFETCH(QString, guardado);
         const AsuntoSanidad& a = asunto == 0 ? kCondicionCorporal : asunto == 1 ? kIBRBVD : kNeospora;
         PuestoDeFichas p;
-        p.Poner("T_Vacas", {{"Id_Vaca", kVaca.idVaca}, {a.observacion, std::string("antes")}});
+        p.Poner("T_Vacas", {{"Id_Vaca", kVaca.idVaca}, {a.observacion, "antes"s}});
         Cubricion(p, 2022, 3);
         const std::string natural = a.natural.tabla;
         const std::string ciclo = a.ciclo.tabla;
@@ -190,7 +159,7 @@ private Q_SLOTS:
         QCOMPARE(fallo, guardado.endsWith(QLatin1String("antes")));
         QCOMPARE(QString::fromStdString(p.Texto("SELECT AñoNat FROM " + natural) + "/" +
                                         p.Texto("SELECT AñoRef FROM " + ciclo) + "/" +
-                                        p.Texto(std::string("SELECT ") + a.observacion + " FROM T_Vacas")),
+                                        p.Texto("SELECT "s + a.observacion + " FROM T_Vacas")),
                  guardado);
     }
 
@@ -198,14 +167,11 @@ private Q_SLOTS:
     // nothing else; rows of no mating record of their cow go.
     void IdaYVuelta() {
         QTemporaryDir carpeta;
-        const auto fichero = carpeta.filePath(QStringLiteral("BD_PradalP.mdb"));
-        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_EJEMPLO "/BD_PradalP.mdb"), fichero));
-        QVERIFY(QFile::setPermissions(fichero, QFile::ReadOwner | QFile::WriteOwner));
         Conexion c;
-        c.AbrirFichero(fichero.toStdString(), kClave);
+        AbrirEjemplo(c, carpeta, u"BD_PradalP.mdb"_s);
         const char* tablas[] = {"T_Mamitis", "T_MAMIVACU", "T_CCNATVACAS", "T_IBRBVD",   "T_NEOSPIROSIS",
                                 "T_Partos",  "T_Vacas",    "T_CCVacas",    "T_R_IBRBVD", "T_R_NEOSPIROSIS"};
-        std::map<std::string, Filas> antes;
+        std::map<std::string, QStringList> antes;
         for (const char* t : tablas)
             antes[t] = FilasDe(c, t);
         EnGrupo(c, [&] {
@@ -222,17 +188,17 @@ private Q_SLOTS:
         for (const char* t : tablas) {
             const QByteArray tabla(t);
             const auto ahora = FilasDe(c, t);
-            QVERIFY2(SinLosDe(antes[t], ahora).empty(), t);
+            QVERIFY2(SinLosDe(antes[t], ahora).isEmpty(), t);
             const auto nuevas = SinLosDe(ahora, antes[t]);
             if (tabla == "T_Mamitis")
                 QCOMPARE(ahora.size(), cuantas("T_Vacas") * kTetos);
             else if (tabla == "T_CCVacas" || tabla.startsWith("T_R_"))
                 QCOMPARE(ahora.size(), cuantas("T_Cubriciones"));
             else
-                QVERIFY2(nuevas.empty(), t);
-            const auto vacia = tabla == "T_Mamitis" ? "|-|-|0" : "|-";
+                QVERIFY2(nuevas.isEmpty(), t);
+            const auto vacia = tabla == "T_Mamitis" ? u"|-|-|=0"_s : u"|-"_s;
             for (const auto& fila : nuevas)
-                QVERIFY2(QByteArray::fromStdString(fila).endsWith(vacia), fila.c_str());
+                QVERIFY2(fila.endsWith(vacia), qUtf8Printable(fila));
         }
     }
 };

@@ -6,10 +6,7 @@
 #include "registers/sementales/Sementales.h"
 #include "store/Literales.h"
 
-#include <QComboBox>
-#include <QTabWidget>
 #include <QTableView>
-#include <QTimer>
 #include <QToolButton>
 
 using namespace pastorix;
@@ -23,8 +20,7 @@ struct Puesto : PuestoDeFichas {
 
     Puesto() {
         Poner("T_Ganaderos", {{"Id_Ganadero", 1.0}, {"Nombre", "Centro"}, {"Apellidos", "de IA"}});
-        Poner("T_Ganaderos",
-              {{"Id_Ganadero", 57.0}, {"Nombre", "Ana"}, {"Apodo", "La Xuan"}, {"Id_Direccion", 7.0}});
+        Poner("T_Ganaderos", "Id_Ganadero=57, Nombre=Ana, Apodo=La Xuan, Id_Direccion=7");
         Poner("T_Direcciones", {{"Id_Direccion", 7.0}, {"Id_GV", 57.0}, {"Localidad", "Llanes"}});
         for (const double id : {57001.0, 57002.0}) {
             Poner("T_Sementales", {{"Id_Semental", id},
@@ -45,9 +41,7 @@ struct Puesto : PuestoDeFichas {
     }
 
     QComboBox* Combo(const char* nombre) { return f->findChild<QComboBox*>(QString::fromUtf8(nombre)); }
-    QString Ganadero(int i) {
-        return f->findChild<QLabel*>(QStringLiteral("Et_Ganadero(%1)").arg(i))->text();
-    }
+    QString Ganadero(int i) { return f->findChild<QLabel*>(u"Et_Ganadero(%1)"_s.arg(i))->text(); }
     RejillaPatologia* Rejilla(const char* nombre) {
         return static_cast<RejillaPatologia*>(f->findChild<QTableWidget*>(QString::fromUtf8(nombre)));
     }
@@ -59,7 +53,7 @@ struct Puesto : PuestoDeFichas {
             lista->setCurrentIndex(lista->model()->index(fila, 0));
             QTest::keyClick(lista, Qt::Key_Return);
         });
-        f->findChild<QToolButton*>(QStringLiteral("IconoBusDato(%1)").arg(icono))->click();
+        f->findChild<QToolButton*>(u"IconoBusDato(%1)"_s.arg(icono))->click();
         Mostrar(*f); // active again after the selector
     }
     // Opens the cell by typing, and ends with a key.
@@ -76,7 +70,7 @@ struct Puesto : PuestoDeFichas {
         QStringList t;
         for (int c = 0; c < r->columnCount(); ++c)
             t << r->item(fila, c)->text();
-        return t.join(QLatin1Char('|'));
+        return t.join(u'|');
     }
 };
 
@@ -93,30 +87,30 @@ private Q_SLOTS:
     // Adding: the messages in their order, the proposed code, the compound name, a code that is taken.
     void Alta() {
         Puesto p;
-        QCOMPARE(Mnemonicos(*p.f), QStringLiteral("ABCDEFGHIJLMNOPRSTUVZ"));
-        QCOMPARE(p.Botones(), QStringLiteral("AR"));
+        QCOMPARE(Mnemonicos(*p.f), u"ABCDEFGHIJLMNOPRSTUVZ"_s);
+        QCOMPARE(p.Botones(), u"AR"_s);
         BotonDe(*p.f, "B_Añadir")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Seleccione el Ganadero al que le va añadir un Toro"));
-        QCOMPARE(p.Botones(), QStringLiteral("AR"));
+        QCOMPARE(p.Caja(), u"Seleccione el Ganadero al que le va añadir un Toro"_s);
+        QCOMPARE(p.Botones(), u"AR"_s);
         p.Buscar(1, 1);
-        QCOMPARE(p.Ganadero(0) + p.Ganadero(1) + p.Ganadero(2), QStringLiteral("57La XuanLlanes"));
-        QCOMPARE(p.Botones(), QStringLiteral("AR")); // no bull, nothing to modify
+        QCOMPARE(p.Ganadero(0) + p.Ganadero(1) + p.Ganadero(2), u"57La XuanLlanes"_s);
+        QCOMPARE(p.Botones(), u"AR"_s); // no bull, nothing to modify
         BotonDe(*p.f, "B_Añadir")->click();
-        QCOMPARE(CampoDe(*p.f, 0)->text(), QStringLiteral("57003"));
+        QCOMPARE(CampoDe(*p.f, 0)->text(), u"57003"_s);
         QVERIFY(p.f->focusWidget() == CampoDe(*p.f, 0) && CampoDe(*p.f, 0)->hasSelectedText());
         QVERIFY(!p.Rejilla("GridPatologia")->isEnabled());
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Debe incluir como mínimo el Código y el Nombre"));
+        QCOMPARE(p.Caja(), u"Debe incluir como mínimo el Código y el Nombre"_s);
         Teclear(*p.f, 1, "Ceo");
         p.Combo("CD_Cularidad")->setCurrentIndex(1);
-        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Ceo-N"));
+        QCOMPARE(CampoDe(*p.f, 2)->text(), u"Ceo-N"_s);
         Teclear(*p.f, 1, "Cobalto");
         QTest::keyClick(CampoDe(*p.f, 1), Qt::Key_Tab);
-        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Cobalto-N"));
+        QCOMPARE(CampoDe(*p.f, 2)->text(), u"Cobalto-N"_s);
         Teclear(*p.f, 0, "57002");
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Codigo no Valido, Cambielo por Otro"));
-        QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        QCOMPARE(p.Caja(), u"Codigo no Valido, Cambielo por Otro"_s);
+        QCOMPARE(p.Botones(), u"GC"_s);
         Teclear(*p.f, 0, "57003");
         Teclear(*p.f, 14, "-0,119");
         Teclear(*p.f, 19, "31/2/26"); // no date
@@ -124,54 +118,53 @@ private Q_SLOTS:
         QCOMPARE(p.Texto("SELECT Nombre, NombreC, Id_Ganadero, Cularidad, MG_PN, FechaAlta, FechaNac, "
                          "FechaBaja, CBaja, "
                          "OtraCausa, ToroP, Origen FROM T_Sementales WHERE Id_Semental = 57003"),
-                 std::string("Cobalto|Cobalto-N|57|G-Normal|-0,119|22/11/26|-|-|-|-|-|-"));
-        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+                 "Cobalto|Cobalto-N|57|G-Normal|-0,119|22/11/26|-|-|-|-|-|-"s);
+        QCOMPARE(p.Botones(), u"AMER"_s);
         QVERIFY(p.Rejilla("GridPatologia")->isEnabled());
         // of farmer 1 the same class marks an insemination bull
         p.Buscar(1, 0);
-        QCOMPARE(p.Ganadero(1), QStringLiteral("Centro de IA"));
-        QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        QCOMPARE(p.Ganadero(1), u"Centro de IA"_s);
+        QCOMPARE(p.Botones(), u"GC"_s);
         p.Combo("CD_Cularidad")->setCurrentIndex(3);
-        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Cobalto(IA)-C"));
+        QCOMPARE(CampoDe(*p.f, 2)->text(), u"Cobalto(IA)-C"_s);
         p.Combo("CD_Cularidad")->setCurrentIndex(0);
-        QCOMPARE(CampoDe(*p.f, 2)->text(), QStringLiteral("Cobalto"));
+        QCOMPARE(CampoDe(*p.f, 2)->text(), u"Cobalto"_s);
     }
 
     // Modifying: what reaches services and calvings, what dates and codes are kept, what an apostrophe stops.
     void Modificacion() {
         Puesto p;
         p.f->CargarFicha(57001);
-        QCOMPARE(p.Ganadero(1), QStringLiteral("La Xuan"));
-        QCOMPARE(p.Combo("CD_Cularidad")->currentText(), QStringLiteral("G-Culón"));
+        QCOMPARE(p.Ganadero(1), u"La Xuan"_s);
+        QCOMPARE(p.Combo("CD_Cularidad")->currentText(), u"G-Culón"_s);
         Teclear(*p.f, 1, "Argos");
-        QCOMPARE(p.Botones(), QStringLiteral("GC"));
+        QCOMPARE(p.Botones(), u"GC"_s);
         QTest::keyClick(CampoDe(*p.f, 1), Qt::Key_Tab);
         Teclear(*p.f, 0, "99");
         Teclear(*p.f, 6, "31/2/20");
         Teclear(*p.f, 19, "1/2/26");
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("El Código no se puede cambiar"));
+        QCOMPARE(p.Caja(), u"El Código no se puede cambiar"_s);
         const char* const toro =
             "SELECT Id_Semental, NombreC, FechaNac, FechaBaja FROM T_Sementales WHERE Nombre = 'Argos'";
-        QCOMPARE(p.Texto(toro), std::string("57001|Argos-C|06/08/11|01/02/26"));
-        QCOMPARE(p.Texto(kCopias), std::string("Argos-C|Argos-C/Viejo|Viejo"));
+        QCOMPARE(p.Texto(toro), "57001|Argos-C|06/08/11|01/02/26"s);
+        QCOMPARE(p.Texto(kCopias), "Argos-C|Argos-C/Viejo|Viejo"s);
         Teclear(*p.f, 19, "x");
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Texto(toro), std::string("57001|Argos-C|06/08/11|-"));
+        QCOMPARE(p.Texto(toro), "57001|Argos-C|06/08/11|-"s);
 
         Teclear(*p.f, 2, "L'Argos");
         BotonDe(*p.f, "B_Guardar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 1); // the store's own cause
-        QCOMPARE(p.Texto(toro), std::string("57001|L'Argos|06/08/11|-"));
-        QCOMPARE(p.Texto(kCopias), std::string("Argos-C|Argos-C/Viejo|Viejo"));
-        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+        QCOMPARE(p.Texto(toro), "57001|L'Argos|06/08/11|-"s);
+        QCOMPARE(p.Texto(kCopias), "Argos-C|Argos-C/Viejo|Viejo"s);
+        QCOMPARE(p.Botones(), u"AMER"_s);
 
         // saved with the keyboard from the name itself, which is not left
         Teclear(*p.f, 1, "Argón");
         QTest::keyClick(p.f.get(), Qt::Key_G, Qt::AltModifier);
-        QTRY_COMPARE(p.Texto(kCopias), std::string("Argón-C|Argón-C/Viejo|Viejo"));
-        QCOMPARE(p.Texto("SELECT NombreC FROM T_Sementales WHERE Id_Semental = 57001"),
-                 std::string("Argón-C"));
+        QTRY_COMPARE(p.Texto(kCopias), "Argón-C|Argón-C/Viejo|Viejo"s);
+        QCOMPARE(p.Texto("SELECT NombreC FROM T_Sementales WHERE Id_Semental = 57001"), "Argón-C"s);
     }
 
     // A health grid that could not be written asks before it goes, and is written by the next save.
@@ -180,53 +173,48 @@ private Q_SLOTS:
         p.Poner("T_Sementales", {{"Id_Semental", 9.0}, {"Nombre", "X"}, {"Id_Ganadero", 57.0}});
         for (const auto& [año, bvd] : {std::pair{2019, "Positiva"}, {2021, "Dudosa"}})
             p.Poner("T_PatologiaSem", {{"Id_Animal", 9.0}, {"ANatural", año}, {"BVDsp", bvd}});
-        auto* base = p.sesion.conexion.Manejador();
-        sqlite3_exec(base, "CREATE UNIQUE INDEX estorbo ON T_PatologiaSem (BVDsp)", nullptr, nullptr,
-                     nullptr);
+        Crudo(p.sesion.conexion, "CREATE UNIQUE INDEX estorbo ON T_PatologiaSem (BVDsp)");
         p.f->CargarFicha(9);
         auto* tab = p.f->findChild<QTabWidget*>();
         tab->setCurrentIndex(1);
-        auto* r = p.f->findChild<RejillaPatologia*>(QStringLiteral("GridPatologia"));
-        r->Cambiar(1, 4, QStringLiteral("Dudosa"));
+        auto* r = p.f->findChild<RejillaPatologia*>(u"GridPatologia"_s);
+        r->Cambiar(1, 4, u"Dudosa"_s);
         QTRY_COMPARE(p.cajas.Cuantas(), 1);
         p.cajas.Vistas();
         p.cajas.Responder(false);
         p.f->reject();
         QVERIFY(p.f->isVisible());
         QCOMPARE(p.cajas.Vistas().size(), 1);
-        sqlite3_exec(base, "DROP INDEX estorbo", nullptr, nullptr, nullptr);
+        Crudo(p.sesion.conexion, "DROP INDEX estorbo");
         BotonDe(*p.f, "B_GuardarPato")->click();
         QCOMPARE(p.Texto("SELECT ANatural, BVDsp FROM T_PatologiaSem WHERE Id_Animal = 9 ORDER BY ANatural"),
-                 std::string("2019|Dudosa/2021|Dudosa"));
+                 "2019|Dudosa/2021|Dudosa"s);
         p.f->reject();
         QVERIFY(!p.f->isVisible());
     }
 
     void Baja() {
         Puesto p;
-        p.Poner("T_Sementales", {{"Id_Semental", 9.0},
-                                 {"Nombre", "X"},
-                                 {"Id_Ganadero", 57.0},
-                                 {"CBaja", "Robo"},
-                                 {"OtraCausa", "con nocturnidad"},
-                                 {"Raza", "a. valles"}});
+        p.Poner(
+            "T_Sementales",
+            "Id_Semental=9, Nombre=X, Id_Ganadero=57, CBaja=Robo, OtraCausa=con nocturnidad, Raza=a. valles");
         p.f->CargarFicha(9);
         auto* causa = p.Combo("CD_CBaja");
-        auto* otra = p.f->findChild<QLineEdit*>(QStringLiteral("CtextoBaja"));
+        auto* otra = p.f->findChild<QLineEdit*>(u"CtextoBaja"_s);
         QCOMPARE(causa->currentText(), QString()); // unknown: nothing is chosen, and nothing is stored
         QVERIFY(!otra->isHidden());                // what is stored is in sight
-        QCOMPARE(p.Combo("CD_Raza")->currentText(), QStringLiteral("A. Valles"));
+        QCOMPARE(p.Combo("CD_Raza")->currentText(), u"A. Valles"_s);
         Teclear(*p.f, 13, "B+");
         BotonDe(*p.f, "B_Guardar")->click();
         const char* const fila = "SELECT Raza, CBaja, OtraCausa FROM T_Sementales WHERE Id_Semental = 9";
-        QCOMPARE(p.Texto(fila), std::string("a. valles|-|con nocturnidad"));
+        QCOMPARE(p.Texto(fila), "a. valles|-|con nocturnidad"s);
         BotonDe(*p.f, "B_Modificar")->click();
-        causa->setCurrentIndex(causa->findText(QStringLiteral("Otra")));
+        causa->setCurrentIndex(causa->findText(u"Otra"_s));
         otra->setFocus();
         otra->selectAll();
         QTest::keyClick(otra, Qt::Key_Delete);
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Texto(fila), std::string("a. valles|Otra|-"));
+        QCOMPARE(p.Texto(fila), "a. valles|Otra|-"s);
         QVERIFY(!otra->isHidden());
         p.f->CargarFicha(57001);
         QVERIFY(otra->isHidden());
@@ -238,52 +226,47 @@ private Q_SLOTS:
         p.cajas.Responder(true);
         BotonDe(*p.f, "B_Borrar")->click();
         const auto cajas = p.cajas.Vistas();
-        QCOMPARE(cajas[0].titulo + cajas[0].texto,
-                 QStringLiteral("Confirme EliminarEliminar Semental: Ares"));
-        QCOMPARE(p.Texto("SELECT Id_Semental FROM T_Sementales"), std::string("57002"));
+        QCOMPARE(cajas[0].titulo + cajas[0].texto, u"Confirme EliminarEliminar Semental: Ares"_s);
+        QCOMPARE(p.Texto("SELECT Id_Semental FROM T_Sementales"), "57002"s);
         QCOMPARE(p.Texto("SELECT Id_Animal FROM T_PatologiaSem"), std::string());
-        QCOMPARE(p.Texto("SELECT Id_Animal FROM T_PatologiaSemR ORDER BY Id_Animal"),
-                 std::string("57001/57002"));
-        QCOMPARE(p.Texto(kCopias), std::string("Viejo|Viejo/Viejo|Viejo"));
-        QCOMPARE(CampoDe(*p.f, 1)->text() + p.Ganadero(0), QStringLiteral("57"));
+        QCOMPARE(p.Texto("SELECT Id_Animal FROM T_PatologiaSemR ORDER BY Id_Animal"), "57001/57002"s);
+        QCOMPARE(p.Texto(kCopias), "Viejo|Viejo/Viejo|Viejo"s);
+        QCOMPARE(CampoDe(*p.f, 1)->text() + p.Ganadero(0), u"57"_s);
         QVERIFY(!p.Rejilla("GridPatologia")->isEnabled());
         // a code that is not there clears the sheet, and the one before it can be looked for again
         p.f->CargarFicha(57002);
         Teclear(*p.f, 0, "57001");
         QTest::keyClick(CampoDe(*p.f, 0), Qt::Key_Return);
-        QCOMPARE(p.cajas.Tomar(), QStringList{QStringLiteral("Atención...|No Encuentro el Codigo: 57001")});
+        QCOMPARE(p.cajas.Tomar(), QStringList{u"Atención...|No Encuentro el Codigo: 57001"_s});
         QCOMPARE(CampoDe(*p.f, 0)->text() + CampoDe(*p.f, 1)->text(), QString());
-        QCOMPARE(p.Botones(), QStringLiteral("AR"));
+        QCOMPARE(p.Botones(), u"AR"_s);
         Teclear(*p.f, 0, "57002");
         QTest::keyClick(CampoDe(*p.f, 0), Qt::Key_Return);
-        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Brío"));
+        QCOMPARE(CampoDe(*p.f, 1)->text(), u"Brío"_s);
     }
 
     void Busquedas() {
         Puesto p;
-        p.Poner("T_Vacas", {{"Id_Vaca", 57009.0},
-                            {"Id_Ganadero", 57.0},
-                            {"Nombre", "Mora"},
-                            {"NombreC", "Mora-A"},
-                            {"RegGenealogico", "AV1"},
-                            {"RegSaneam", "77"}});
+        p.Poner(
+            "T_Vacas",
+            "Id_Vaca=57009, Id_Ganadero=57, Nombre=Mora, NombreC=Mora-A, RegGenealogico=AV1, RegSaneam=77");
         p.Buscar(4, 1); // by merit, without any farmer
-        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Brío"));
+        QCOMPARE(CampoDe(*p.f, 1)->text(), u"Brío"_s);
         p.Buscar(3, 0);
         QCOMPARE(CampoDe(*p.f, 10)->text() + CampoDe(*p.f, 11)->text() + CampoDe(*p.f, 12)->text(),
-                 QStringLiteral("Mora-AAV177"));
-        QCOMPARE(p.Botones(), QStringLiteral("GC")); // choosing began a modification
+                 u"Mora-AAV177"_s);
+        QCOMPARE(p.Botones(), u"GC"_s); // choosing began a modification
         p.Buscar(2, 0);
-        QCOMPARE(CampoDe(*p.f, 7)->text(), QStringLiteral("Ares-C"));
+        QCOMPARE(CampoDe(*p.f, 7)->text(), u"Ares-C"_s);
         p.cajas.Responder(false); // what is being edited is not lost unasked
         p.Buscar(0, 0);
         QVERIFY(p.Caja().startsWith(QLatin1String("Hay cambios sin guardar")));
-        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Brío"));
+        QCOMPARE(CampoDe(*p.f, 1)->text(), u"Brío"_s);
         p.cajas.Responder(true);
         p.Buscar(0, 0);
         p.cajas.Vistas();
-        QCOMPARE(CampoDe(*p.f, 1)->text(), QStringLiteral("Ares"));
-        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+        QCOMPARE(CampoDe(*p.f, 1)->text(), u"Ares"_s);
+        QCOMPARE(p.Botones(), u"AMER"_s);
     }
 
     void Serologias() {
@@ -293,57 +276,53 @@ private Q_SLOTS:
         const char* const filas =
             "SELECT ANatural, Edad, IBRsp, BVDsp, NeospBp FROM T_PatologiaSem ORDER BY ANatural";
         QCOMPARE(r->rowCount(), 3); // two lines and the empty one
-        QCOMPARE(p.Fila(r, 0), QStringLiteral("2021|10|||Negativa|||"));
+        QCOMPARE(p.Fila(r, 0), u"2021|10|||Negativa|||"_s);
         p.Escribir(r, 2, 0, "2021");
         QCoreApplication::processEvents();
-        QCOMPARE(p.cajas.Tomar(),
-                 QStringList{QStringLiteral("Atención|Ya existe una línea para el año natural 2021")});
+        QCOMPARE(p.cajas.Tomar(), QStringList{u"Atención|Ya existe una línea para el año natural 2021"_s});
         QCOMPARE(r->rowCount(), 3);
         p.Escribir(r, 2, 0, "x20z23"); // digits only; Tab passes over the age, which is derived
-        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("Cb_IBR(0)"));
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("d"));
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"Cb_IBR(0)"_s);
+        QTest::keyClicks(QApplication::focusWidget(), u"d"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QCOMPARE(p.Texto(filas), std::string("2019|8|rara|-|-/2021|10|-|Negativa|-/2023|12|Dudosa|-|-"));
-        QCOMPARE(p.Botones(), QStringLiteral("AMER"));
+        QCOMPARE(p.Texto(filas), "2019|8|rara|-|-/2021|10|-|Negativa|-/2023|12|Dudosa|-|-"s);
+        QCOMPARE(p.Botones(), u"AMER"_s);
         // a result waits for its year
         p.Escribir(r, 3, 7, "p");
-        QCOMPARE(p.Texto("SELECT ANatural FROM T_PatologiaSem ORDER BY ANatural"),
-                 std::string("2019/2021/2023"));
+        QCOMPARE(p.Texto("SELECT ANatural FROM T_PatologiaSem ORDER BY ANatural"), "2019/2021/2023"s);
         p.cajas.Responder(false);
         p.f->reject();
-        QVERIFY(p.Caja().startsWith(QStringLiteral("Hay cambios sin guardar en «Patologías»")));
+        QVERIFY(p.Caja().startsWith(u"Hay cambios sin guardar en «Patologías»"_s));
         BotonDe(*p.f, "B_Modificar")->click();
         BotonDe(*p.f, "B_Guardar")->click();
-        QCOMPARE(p.Fila(r, 0).left(4), QStringLiteral("2023")); // newest first again
+        QCOMPARE(p.Fila(r, 0).left(4), u"2023"_s); // newest first again
         Teclear(*p.f, 6, "");
         p.Escribir(r, 3, 0, "2024");
-        QCOMPARE(p.Fila(r, 3), QStringLiteral("2024|||||||Positiva"));
+        QCOMPARE(p.Fila(r, 3), u"2024|||||||Positiva"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("1999"));
+        QTest::keyClicks(QApplication::focusWidget(), u"1999"_s);
         BotonDe(*p.f, "B_Cancelar")->click(); // what the open editor holds is of no line any more
         // an out-of-list value is offered to be kept; the list puts in what is chosen
         QTest::mouseClick(r->viewport(), Qt::LeftButton, {}, r->visualItemRect(r->item(3, 2)).center());
         auto* combo = static_cast<QComboBox*>(r->indexWidget(r->currentIndex()));
-        QCOMPARE(combo->currentText(), QStringLiteral("rara"));
-        QCOMPARE(combo->itemText(3), QStringLiteral("Dudosa"));
+        QCOMPARE(combo->currentText(), u"rara"_s);
+        QCOMPARE(combo->itemText(3), u"Dudosa"_s);
         QTest::keyClick(combo->view(), Qt::Key_Up);
         QTest::keyClick(combo->view(), Qt::Key_Return);
-        QTRY_COMPARE(
-            p.Texto(filas),
-            std::string("2019|8|Dudosa|-|-/2021|10|-|Negativa|-/2023|12|Dudosa|-|-/2024|13|-|-|Positiva"));
+        QTRY_COMPARE(p.Texto(filas),
+                     "2019|8|Dudosa|-|-/2021|10|-|Negativa|-/2023|12|Dudosa|-|-/2024|13|-|-|Positiva"s);
         // deletion begins a modification, and asks
         for (const bool si : {false, true}) {
             r->setFocus();
             r->setCurrentCell(3, 0);
             p.cajas.Responder(si);
             QTest::keyClick(r, Qt::Key_Delete);
-            QCOMPARE(p.cajas.Tomar(), QStringList{QStringLiteral("Eliminar|Confirme Eliminar")});
-            QCOMPARE(p.Botones(), QStringLiteral("GC"));
+            QCOMPARE(p.cajas.Tomar(), QStringList{u"Eliminar|Confirme Eliminar"_s});
+            QCOMPARE(p.Botones(), u"GC"_s);
             QCOMPARE(r->rowCount(), si ? 4 : 5);
         }
-        QCOMPARE(p.Texto("SELECT ANatural FROM T_PatologiaSem ORDER BY ANatural"),
-                 std::string("2021/2023/2024"));
+        QCOMPARE(p.Texto("SELECT ANatural FROM T_PatologiaSem ORDER BY ANatural"), "2021/2023/2024"s);
         r->setCurrentCell(3, 0);
         QTest::keyClick(r, Qt::Key_Delete); // the empty line: nothing to ask
         BotonDe(*p.f, "B_Cancelar")->click();
@@ -357,60 +336,56 @@ private Q_SLOTS:
         p.Escribir(r, 0, 1, "2");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QCOMPARE(p.Texto("SELECT ANatural, VIBR, VBVD, IBR FROM T_PatologiaSemR WHERE Id_Animal = 57001"),
-                 std::string("2020|20/04/17|-|ConvBp"));
+                 "2020|20/04/17|-|ConvBp"s);
 
-        auto* memo = p.f->findChild<QPlainTextEdit*>(QStringLiteral("CT_Estandar(21)"));
+        auto* memo = p.f->findChild<QPlainTextEdit*>(u"CT_Estandar(21)"_s);
         const char* const obs = "SELECT ObsPatologia FROM T_Sementales WHERE Id_Semental = 57001";
         const auto escribir = [&](const char* texto) {
             memo->setFocus();
             memo->selectAll();
             QTest::keyClicks(memo, QString::fromUtf8(texto));
-            QCOMPARE(p.Botones(), QStringLiteral("GC"));
+            QCOMPARE(p.Botones(), u"GC"_s);
         };
         escribir("limpia");
         QTest::keyClick(memo, Qt::Key_Return);
         BotonDe(*p.f, "B_GuardarPato")->click();
-        QCOMPARE(p.Texto(obs), std::string("limpia\r\n"));
-        QCOMPARE(p.Botones(), QStringLiteral("AMER")); // nothing else was being changed
+        QCOMPARE(p.Texto(obs), "limpia\r\n"s);
+        QCOMPARE(p.Botones(), u"AMER"_s); // nothing else was being changed
         escribir("d'afuera");
         BotonDe(*p.f, "B_GuardarPato")->click();
         QVERIFY(p.cajas.Vistas().size() == 1);
-        QCOMPARE(p.Texto(obs), std::string("limpia\r\n"));
-        QCOMPARE(memo->toPlainText(), QStringLiteral("d'afuera"));
+        QCOMPARE(p.Texto(obs), "limpia\r\n"s);
+        QCOMPARE(memo->toPlainText(), u"d'afuera"_s);
         BotonDe(*p.f, "B_Guardar")->click(); // the sheet's own save takes it
-        QCOMPARE(p.Texto(obs), std::string("d'afuera"));
+        QCOMPARE(p.Texto(obs), "d'afuera"s);
         escribir("otra");
         Teclear(*p.f, 13, "B");
         BotonDe(*p.f, "B_CancelarPato")->click();
-        QCOMPARE(memo->toPlainText(), QStringLiteral("d'afuera"));
-        QCOMPARE(CampoDe(*p.f, 13)->text() + p.Botones(), QStringLiteral("BGC"));
+        QCOMPARE(memo->toPlainText(), u"d'afuera"_s);
+        QCOMPARE(CampoDe(*p.f, 13)->text() + p.Botones(), u"BGC"_s);
         memo->selectAll();
         QTest::keyClick(memo, Qt::Key_Delete);
         BotonDe(*p.f, "B_GuardarPato")->click();
-        QCOMPARE(p.Texto(obs), std::string("-"));
+        QCOMPARE(p.Texto(obs), "-"s);
         BotonDe(*p.f, "B_Cancelar")->click();
     }
 
     // Every bull of the example, saved as it was shown, is the row that it was.
     void VuelvenIguales() {
         PuestoDeFichas p;
-        const auto copia = p.carpeta.filePath(QStringLiteral("P.mdb"));
-        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_EJEMPLO "/BD_PradalP.mdb"), copia));
         p.sesion.conexion.Cerrar();
-        p.sesion.conexion.AbrirFichero(copia.toStdString(), kClave);
-        const char* const todas[] = {
-            "SELECT * FROM T_Sementales ORDER BY Id_Semental",
-            "SELECT Id_Semental, FechaNac, MG_PN FROM T_Sementales ORDER BY Id_Semental"};
-        const auto antes = p.Texto(todas[0]);
-        QVERIFY(!antes.empty());
+        AbrirEjemplo(p.sesion.conexion, p.carpeta, u"BD_PradalP.mdb"_s);
+        const auto antes = FilasDe(p.sesion.conexion, "T_Sementales");
+        QVERIFY(!antes.isEmpty());
         Sementales f(p.sesion);
-        for (Recordset rs(p.sesion.conexion, todas[1]); !rs.Eof(); rs.Siguiente()) {
+        for (Recordset rs(p.sesion.conexion, "SELECT Id_Semental FROM T_Sementales ORDER BY Id_Semental");
+             !rs.Eof(); rs.Siguiente()) {
             QVERIFY(f.CargarFicha(rs["Id_Semental"].Numero()));
             f.Modificar();
             f.Guardar();
         }
         QCOMPARE(p.cajas.Vistas().size(), 0);
-        QCOMPARE(QString::fromStdString(p.Texto(todas[0])), QString::fromStdString(antes));
+        QCOMPARE(FilasDe(p.sesion.conexion, "T_Sementales"), antes);
     }
 };
 

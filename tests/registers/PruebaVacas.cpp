@@ -8,12 +8,6 @@
 #include "registers/vacas/ObsControlRebano.h"
 #include "registers/vacas/Vacas.h"
 
-#include <QComboBox>
-#include <QPlainTextEdit>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTimer>
-
 using namespace pastorix;
 using namespace prueba;
 
@@ -21,8 +15,7 @@ namespace {
 
 struct Cuadra : PuestoDeFichas {
     Cuadra() {
-        Poner("T_Ganaderos",
-              {{"Id_Ganadero", 12.0}, {"Nombre", "Ana"}, {"Apellidos", "Gil"}, {"Id_Direccion", 3.0}});
+        Poner("T_Ganaderos", "Id_Ganadero=12, Nombre=Ana, Apellidos=Gil, Id_Direccion=3");
         Poner("T_Direcciones", {{"Id_Direccion", 3.0}, {"Id_GV", 12.0}, {"Localidad", "Grado"}});
         Poner("T_Ganaderos", {{"Id_Ganadero", 57.0}, {"Nombre", "Luis"}, {"Apodo", "El Xeitu"}});
         Vaca(1200001, "Luna", "ES0100011234");
@@ -42,7 +35,7 @@ QComboBox* ComboDe(QWidget& f, const char* nombre) {
     return f.findChild<QComboBox*>(QString::fromUtf8(nombre));
 }
 QString EtiquetaDe(QWidget& f, int i) {
-    return f.findChild<QLabel*>(QStringLiteral("Et_Ganadero(%1)").arg(i))->text();
+    return f.findChild<QLabel*>(u"Et_Ganadero(%1)"_s.arg(i))->text();
 }
 void Pulsar(QWidget* w, Qt::Key tecla) {
     w->setFocus();
@@ -59,16 +52,15 @@ class PruebaVacas : public QObject {
 
 private Q_SLOTS:
     void Codigos_data() {
-        QTest::addColumn<double>("ganadero");
-        QTest::addColumn<double>("ultima"); // 0: none
-        QTest::addColumn<QString>("codigo");
-        QTest::newRow("first of 12") << 12.0 << 0.0 << "1200001";
-        QTest::newRow("ninth to tenth") << 12.0 << 1200009.0 << "1200010";
-        QTest::newRow("farmer 1") << 1.0 << 0.0 << "1";
-        QTest::newRow("farmer 2") << 2.0 << 0.0 << "2000001";
-        QTest::newRow("six digits") << 123456.0 << 0.0 << "1234561";
-        QTest::newRow("seven digits") << 1234567.0 << 0.0 << "error 5";
-        QTest::newRow("low code of old") << 12.0 << 5.0 << "1200001";
+        // ultima: 0: none
+        Columnas<double, double, QString>("ganadero", "ultima", "codigo");
+        Caso("first of 12", 12.0, 0.0, "1200001");
+        Caso("ninth to tenth", 12.0, 1200009.0, "1200010");
+        Caso("farmer 1", 1.0, 0.0, "1");
+        Caso("farmer 2", 2.0, 0.0, "2000001");
+        Caso("six digits", 123456.0, 0.0, "1234561");
+        Caso("seven digits", 1234567.0, 0.0, "error 5");
+        Caso("low code of old", 12.0, 5.0, "1200001");
     }
     void Codigos() {
         QFETCH(double, ganadero);
@@ -80,16 +72,16 @@ private Q_SLOTS:
         try {
             codigo = QString::fromStdString(CodigoDeVaca(b.c, ganadero));
         } catch (const ErrorDeEjecucion& e) {
-            codigo = QStringLiteral("error %1").arg(e.Numero());
+            codigo = u"error %1"_s.arg(e.Numero());
         }
         QTEST(codigo, "codigo");
     }
 
     void NombresCompuestos() {
-        QCOMPARE(NombreCompuestoDeVaca("Luna", "G-Culón"), std::string("Luna-Culón"));
-        QCOMPARE(NombreCompuestoDeVaca("Luna", "g-normal"), std::string("Luna-normal"));
-        QCOMPARE(NombreCompuestoDeVaca("Luna", "Culón"), std::string("Luna"));
-        QCOMPARE(NombreCompuestoDeVaca("Luna", "G"), std::string("Luna-"));
+        QCOMPARE(NombreCompuestoDeVaca("Luna", "G-Culón"), "Luna-Culón"s);
+        QCOMPARE(NombreCompuestoDeVaca("Luna", "g-normal"), "Luna-normal"s);
+        QCOMPARE(NombreCompuestoDeVaca("Luna", "Culón"), "Luna"s);
+        QCOMPARE(NombreCompuestoDeVaca("Luna", "G"), "Luna-"s);
     }
 
     void Alta() {
@@ -102,52 +94,49 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             orden << QApplication::focusWidget()->objectName();
         }
-        QCOMPARE(orden.mid(0, 7).join(QLatin1Char(' ')),
-                 QStringLiteral("IconoBusDato(0) CT_Estandar(1) CT_Estandar(7) qt_tabwidget_tabbar "
-                                "CT_Estandar(8) CT_Estandar(20) CT_Estandar(34)"));
-        QVERIFY(orden.indexOf(QStringLiteral("B_Añadir")) > orden.indexOf(QStringLiteral("CT_Estandar(19)")));
+        QCOMPARE(orden.mid(0, 7).join(u' '),
+                 u"IconoBusDato(0) CT_Estandar(1) CT_Estandar(7) qt_tabwidget_tabbar "
+                 "CT_Estandar(8) CT_Estandar(20) CT_Estandar(34)"_s);
+        QVERIFY(orden.indexOf(u"B_Añadir"_s) > orden.indexOf(u"CT_Estandar(19)"_s));
         CampoDe(f, 0)->setFocus();
-        QCOMPARE(Mnemonicos(f), QStringLiteral("ABCDEFGHILMNOPRSTUZ"));
+        QCOMPARE(Mnemonicos(f), u"ABCDEFGHILMNOPRSTUZ"_s);
         BotonDe(f, "B_Añadir")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Seleccione el Ganadero al que pretende añadir una Vaca."));
-        auto* tab = f.findChild<QTabWidget*>(QStringLiteral("TabVacas"));
+        QCOMPARE(p.Caja(), u"Seleccione el Ganadero al que pretende añadir una Vaca."_s);
+        auto* tab = f.findChild<QTabWidget*>(u"TabVacas"_s);
         QCOMPARE(tab->count(), 9);
-        QCOMPARE(tab->tabText(4), QStringLiteral(" C.C. "));
+        QCOMPARE(tab->tabText(4), u" C.C. "_s);
         QTest::keyClick(&f, Qt::Key_6, Qt::ControlModifier);
         QTRY_COMPARE(tab->currentIndex(), 5);
         BotonDe(f, "B_Añadir")->click();
-        QCOMPARE(p.Caja(),
-                 QStringLiteral("Debe encontrarse en la Ficha General para poder realizar esta acción"));
+        QCOMPARE(p.Caja(), u"Debe encontrarse en la Ficha General para poder realizar esta acción"_s);
         tab->setCurrentIndex(0);
         f.AbrirParaAñadir(12);
-        QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1200003"));
-        QCOMPARE(EtiquetaDe(f, 1) + EtiquetaDe(f, 2), QStringLiteral("Ana GilGrado"));
+        QCOMPARE(CampoDe(f, 0)->text(), u"1200003"_s);
+        QCOMPARE(EtiquetaDe(f, 1) + EtiquetaDe(f, 2), u"Ana GilGrado"_s);
         QVERIFY(CampoDe(f, 1)->hasFocus());
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(),
-                 QStringLiteral("Debe incluir como mínimo el Ganadero, el Código y el Nombre del animal"));
+        QCOMPARE(p.Caja(), u"Debe incluir como mínimo el Ganadero, el Código y el Nombre del animal"_s);
         Teclear(f, 1, "Niña d'oru");
         Teclear(f, 0, "0");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("El Código de la Vaca no puede ser '0'"));
+        QCOMPARE(p.Caja(), u"El Código de la Vaca no puede ser '0'"_s);
         Teclear(f, 0, "1200001");
         Teclear(f, 7, "123"); // too short to be checked
         ComboDe(f, "CD_Cularidad")->setCurrentIndex(3);
         Q_EMIT ComboDe(f, "CD_Cularidad")->activated(3);
-        QCOMPARE(CampoDe(f, 4)->text(), QStringLiteral("Niña d'oru-Culón"));
+        QCOMPARE(CampoDe(f, 4)->text(), u"Niña d'oru-Culón"_s);
         Teclear(f, 4, "La Niña"); // kept until the name is left again
         Teclear(f, 15, "-7,5,-");
         Teclear(f, 16, "1.5");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Codigo no Valido, Cambielo por Otro"));
+        QCOMPARE(p.Caja(), u"Codigo no Valido, Cambielo por Otro"_s);
         QVERIFY(CampoDe(f, 0)->hasFocus());
         Teclear(f, 0, "1200003");
         Teclear(f, 7, "ES0200031234"); // of a cow of another farmer
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(p.Caja(),
-                 QStringLiteral(
-                     "EL se han encontrado crotales coincidentes: \n\nES0200031234\n\nDebe cambiarlo por uno "
-                     "que no existe, puede incluir algún dígito más para diferenciarlo."));
+                 u"EL se han encontrado crotales coincidentes: \n\nES0200031234\n\nDebe cambiarlo por uno "
+                 "que no existe, puede incluir algún dígito más para diferenciarlo."_s);
         Teclear(f, 7, "ES0300011234");
         Teclear(f, 8, "31/02/20");
         BotonDe(f, "B_Guardar")->click();
@@ -155,27 +144,24 @@ private Q_SLOTS:
         QCOMPARE(p.Texto("SELECT Nombre, NombreC, Crotal, Id_Ganadero, FechaNac, Raza, Cularidad, "
                          "Calificacion, MG_PN, "
                          "RegSaneam FROM T_Vacas WHERE Id_Vaca = 1200003"),
-                 std::string("Niña d'oru|La Niña|ES0300011234|12|-|-|G-Culón|-7,5|15|-"));
+                 "Niña d'oru|La Niña|ES0300011234|12|-|-|G-Culón|-7,5|15|-"s);
         QCOMPARE(p.Texto("SELECT Id_Teto FROM T_Mamitis WHERE Id_Vaca = 1200003 ORDER BY Id_Teto"),
-                 std::string("1/2/3/4"));
-        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AMER"));
+                 "1/2/3/4"s);
+        QCOMPARE(Encendidos(f, "B_Borrar"), u"AMER"_s);
 
         // the code of a saved cow stays
-        CampoDe(f, 0)->setText(QStringLiteral("77"));
+        CampoDe(f, 0)->setText(u"77"_s);
         BotonDe(f, "B_Modificar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("El Código no se puede cambiar"));
-        QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1200003"));
-        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AMER"));
+        QCOMPARE(p.Caja(), u"El Código no se puede cambiar"_s);
+        QCOMPARE(CampoDe(f, 0)->text(), u"1200003"_s);
+        QCOMPARE(Encendidos(f, "B_Borrar"), u"AMER"_s);
         f.close();
     }
 
     void CargaYBaja() {
         Cuadra p;
-        p.Poner("T_Cubriciones", {{"Id_Cubricion", 1.0},
-                                  {"Id_Vaca", 1200001.0},
-                                  {"Año_Ref", 2024},
-                                  {"N_Parto", 1},
-                                  {"DatosCompletos", 1}});
+        p.Poner("T_Cubriciones",
+                "Id_Cubricion=1, Id_Vaca=1200001, Año_Ref=2024, N_Parto=1, DatosCompletos=1");
         p.Poner("T_Cubriciones", {{"Id_Cubricion", 2.0}, {"Id_Vaca", 1200001.0}, {"Año_Ref", 2025}});
         for (const double cebo : {7.0, 8.0}) // twins
             p.Poner("T_Partos", {{"Id_Parto", cebo},
@@ -195,35 +181,36 @@ private Q_SLOTS:
         Mostrar(f);
         Teclear(f, 0, "99");
         Pulsar(CampoDe(f, 0), Qt::Key_Return);
-        QCOMPARE(p.Caja(), QStringLiteral("No Encuentro el Codigo: 99"));
+        QCOMPARE(p.Caja(), u"No Encuentro el Codigo: 99"_s);
         QCOMPARE(CampoDe(f, 0)->text(), QString());
         Teclear(f, 0, "1200001");
         Pulsar(CampoDe(f, 0), Qt::Key_Return);
         QCOMPARE(CampoDe(f, 3)->text(), QString()); // she is in the herd
+        auto* reparos = f.findChild<QLabel*>(u"Reparos"_s);
+        QCOMPARE(reparos->text(), u"Raza: «Charolés» no está en la lista, y al guardar se perderá"_s);
         QCOMPARE(CeldaDe(f, "GridCubriciones", 0, 1) + CeldaDe(f, "GridCubriciones", 0, 2) +
                      CeldaDe(f, "GridCubriciones", 0, 3),
-                 QStringLiteral("2025No"));
-        QCOMPARE(CeldaDe(f, "GridCubriciones", 1, 3), QStringLiteral("Sí"));
-        QCOMPARE(f.findChild<QTableWidget*>(QStringLiteral("GridPartos"))->rowCount(), 1);
-        auto* cubriciones = f.findChild<QTableWidget*>(QStringLiteral("GridCubriciones"));
+                 u"2025No"_s);
+        QCOMPARE(CeldaDe(f, "GridCubriciones", 1, 3), u"Sí"_s);
+        QCOMPARE(f.findChild<QTableWidget*>(u"GridPartos"_s)->rowCount(), 1);
+        auto* cubriciones = f.findChild<QTableWidget*>(u"GridCubriciones"_s);
         Q_EMIT cubriciones->cellDoubleClicked(1, 1);
         QCOMPARE(abierto->añoRef, 2024);
 
         // the date of removal goes to both columns, a text outside the breeds is lost, one outside the causes is not
         Teclear(f, 31, "1/11/26");
         Q_EMIT cubriciones->cellDoubleClicked(0, 1);
-        QCOMPARE(p.Caja(), QStringLiteral("Debe Guardar los cambios antes de efectuar esta operación"));
+        QCOMPARE(p.Caja(), u"Debe Guardar los cambios antes de efectuar esta operación"_s);
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(
             p.Texto("SELECT FechaBaja, FechaDesecho, Raza, Desecho FROM T_Vacas WHERE Id_Vaca = 1200001"),
-            std::string("01/11/26|01/11/26|-|Se perdió"));
-        QCOMPARE(CampoDe(f, 3)->text(), QStringLiteral("2025"));
-        QCOMPARE(f.EnMano().añoDeBaja, std::string("2025"));
+            "01/11/26|01/11/26|-|Se perdió"s);
+        QCOMPARE(CampoDe(f, 3)->text(), u"2025"_s);
+        QCOMPARE(f.EnMano().añoDeBaja, "2025"s);
         QCOMPARE(f.EnMano().fechaBaja, std::optional(F("1/11/2026")));
         Teclear(f, 31, "");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT FechaBaja, FechaDesecho FROM T_Vacas WHERE Id_Vaca = 1200001"),
-                 std::string("-|-"));
+        QCOMPARE(p.Texto("SELECT FechaBaja, FechaDesecho FROM T_Vacas WHERE Id_Vaca = 1200001"), "-|-"s);
 
         // Ctrl+S saves what the focus is in: a page by itself, or the sheet
         const auto guardar = [&](const char* control) {
@@ -231,42 +218,39 @@ private Q_SLOTS:
             QTest::keyClick(&f, Qt::Key_S, Qt::ControlModifier);
         };
         const char* const observaciones = "SELECT ObsDesecho, ObsCC FROM T_Vacas WHERE Id_Vaca = 1200001";
-        auto* pestañas = f.findChild<QTabWidget*>(QStringLiteral("TabVacas"));
+        auto* pestañas = f.findChild<QTabWidget*>(u"TabVacas"_s);
         for (const auto& [pestaña, campo] : {std::pair{4, "CT_ObsCC"}, {5, "CT_Estandar(22)"}}) {
             pestañas->setCurrentIndex(pestaña);
-            f.findChild<QPlainTextEdit*>(QString::fromUtf8(campo))->insertPlainText(QStringLiteral("nota"));
+            f.findChild<QPlainTextEdit*>(QString::fromUtf8(campo))->insertPlainText(u"nota"_s);
         }
         pestañas->setCurrentIndex(4);
         guardar("CT_ObsCC");
-        QTRY_COMPARE(p.Texto(observaciones), std::string("-|nota"));
+        QTRY_COMPARE(p.Texto(observaciones), "-|nota"s);
         QVERIFY(BotonDe(f, "B_Guardar")->isEnabled());
         guardar("CT_Estandar(7)");
-        QTRY_COMPARE(p.Texto(observaciones), std::string("nota|nota"));
+        QTRY_COMPARE(p.Texto(observaciones), "nota|nota"s);
 
         // one calving: both twins and the fattening record of this cow's calf, not that of another's
-        auto* partos = f.findChild<QTableWidget*>(QStringLiteral("GridPartos"));
+        auto* partos = f.findChild<QTableWidget*>(u"GridPartos"_s);
         f.findChild<QTabWidget*>()->setCurrentIndex(1);
         QVERIFY(!BotonDe(f, "B_EliminarPC(0)")->isEnabled());
         partos->selectRow(0);
         p.cajas.Responder(true);
         BotonDe(f, "B_EliminarPC(0)")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Confirme eliminar el Parto Nº : 1"));
-        QCOMPARE(p.Texto("SELECT Id_Parto FROM T_Partos") + p.Texto("SELECT Id_Ganadero FROM T_Cebo"),
-                 std::string("57"));
+        QCOMPARE(p.Caja(), u"Confirme eliminar el Parto Nº : 1"_s);
+        QCOMPARE(p.Texto("SELECT Id_Parto FROM T_Partos") + p.Texto("SELECT Id_Ganadero FROM T_Cebo"), "57"s);
         f.findChild<QTabWidget*>()->setCurrentIndex(2);
         cubriciones->selectRow(0); // the one without parity
         p.cajas.Responder(true);
         BotonDe(f, "B_EliminarPC(1)")->click();
-        QCOMPARE(
-            p.Caja(),
-            QStringLiteral("Confirme eliminar la Cubrición del Año de Referencia : 2025 y Nº de Parto: "));
-        QCOMPARE(p.Texto("SELECT Año_Ref FROM T_Cubriciones"), std::string("2024"));
+        QCOMPARE(p.Caja(), u"Confirme eliminar la Cubrición del Año de Referencia : 2025 y Nº de Parto: "_s);
+        QCOMPARE(p.Texto("SELECT Año_Ref FROM T_Cubriciones"), "2024"s);
 
         p.cajas.Responder(true);
         BotonDe(f, "B_Borrar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Eliminar Vaca: Luna"));
-        QCOMPARE(p.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), std::string("1200002/5700001"));
-        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AR"));
+        QCOMPARE(p.Caja(), u"Eliminar Vaca: Luna"_s);
+        QCOMPARE(p.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), "1200002/5700001"s);
+        QCOMPARE(Encendidos(f, "B_Borrar"), u"AR"_s);
         QCOMPARE(cubriciones->rowCount(), 0);
         f.close();
     }
@@ -278,45 +262,56 @@ private Q_SLOTS:
         const auto tecla = [&](Qt::Key k) { Pulsar(CampoDe(f, 7), k); };
         Teclear(f, 7, "ES01");
         tecla(Qt::Key_Return);
-        QCOMPARE(p.Caja(), QStringLiteral("Crotal no encontrado"));
+        QCOMPARE(p.Caja(), u"Crotal no encontrado"_s);
         Teclear(f, 7, "ES0100021234");
         tecla(Qt::Key_Return);
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Estrella"));
+        QCOMPARE(CampoDe(f, 1)->text(), u"Estrella"_s);
         tecla(Qt::Key_Down);
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Mora"));
-        QCOMPARE(EtiquetaDe(f, 1), QStringLiteral("El Xeitu"));
+        QCOMPARE(CampoDe(f, 1)->text(), u"Mora"_s);
+        QCOMPARE(EtiquetaDe(f, 1), u"El Xeitu"_s);
         tecla(Qt::Key_Down); // the last one
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Mora"));
+        QCOMPARE(CampoDe(f, 1)->text(), u"Mora"_s);
         tecla(Qt::Key_Up);
         tecla(Qt::Key_Up);
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Luna"));
+        QCOMPARE(CampoDe(f, 1)->text(), u"Luna"_s);
         Teclear(f, 7, "es0100021234"); // a tag that is somebody else's: from her place on
         tecla(Qt::Key_Down);
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Mora"));
+        QCOMPARE(CampoDe(f, 1)->text(), u"Mora"_s);
         // typing the end of another tag begins a modification, which is left for the search when nothing else was touched
         Teclear(f, 7, "1234");
         QVERIFY(BotonDe(f, "B_Guardar")->isEnabled());
         tecla(Qt::Key_Up);
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Mora"));
+        QCOMPARE(CampoDe(f, 1)->text(), u"Mora"_s);
         Teclear(f, 1, "Morena");
         p.cajas.Responder(false);
         tecla(Qt::Key_Up);
-        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar. ¿Desea guardarlos?"));
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Morena"));
+        QCOMPARE(p.Caja(), u"Hay cambios sin guardar. ¿Desea guardarlos?"_s);
+        QCOMPARE(CampoDe(f, 1)->text(), u"Morena"_s);
         BotonDe(f, "B_Cancelar")->click();
         Teclear(f, 7, "12'4");
         tecla(Qt::Key_Down);
-        QVERIFY(p.Caja().contains(QStringLiteral("apóstrofo")));
+        QVERIFY(p.Caja().contains(u"apóstrofo"_s));
         // deleted by somebody else meanwhile
         p.sesion.conexion.Execute("DELETE FROM T_Vacas WHERE Id_Vaca = 5700001");
         Teclear(f, 7, "ES99");
         BotonDe(f, "B_Guardar")->click();
-        QVERIFY(p.Caja().contains(QStringLiteral("ya no existe")));
-        QCOMPARE(CampoDe(f, 7)->text(), QStringLiteral("ES99"));
+        QVERIFY(p.Caja().contains(u"ya no existe"_s));
+        QCOMPARE(CampoDe(f, 7)->text(), u"ES99"_s);
         p.cajas.Responder(true); // what stands on the sheet alone is not given up unasked
         BotonDe(f, "B_Cancelar")->click();
-        QVERIFY(p.cajas.Tomar().last().contains(QStringLiteral("No Encuentro el Codigo")));
-        f.close();
+        QVERIFY(p.cajas.Tomar().last().contains(u"No Encuentro el Codigo"_s));
+    }
+
+    // Cows of one tag are gone through one by one.
+    void CrotalRepetido() {
+        Cuadra p;
+        for (const double id : {1.0, 2.0, 3.0})
+            p.Poner("T_Vacas", {{"Id_Vaca", id}, {"Crotal", "ES7777"}});
+        const auto vecina = [&](double id, int paso) {
+            return VecinaPorCrotal(p.sesion.conexion, "ES7777", id, paso).value_or(0);
+        };
+        QCOMPARE((std::vector{vecina(1, 1), vecina(2, 1), vecina(3, 1), vecina(3, -1)}),
+                 (std::vector<double>{2, 3, 0, 2}));
     }
 
     // A code typed and not entered is not what a key acts on; a box that takes the focus brings no other cow.
@@ -330,19 +325,19 @@ private Q_SLOTS:
         p.cajas.Responder(true);
         QTest::keyClick(&f, Qt::Key_E, Qt::AltModifier);
         QTRY_COMPARE(p.cajas.Cuantas(), 1);
-        QCOMPARE(p.Caja(), QStringLiteral("Eliminar Vaca: Luna"));
-        QTRY_COMPARE(p.Texto("SELECT Nombre FROM T_Vacas ORDER BY Id_Vaca"), std::string("Estrella/Mora"));
+        QCOMPARE(p.Caja(), u"Eliminar Vaca: Luna"_s);
+        QTRY_COMPARE(p.Texto("SELECT Nombre FROM T_Vacas ORDER BY Id_Vaca"), "Estrella/Mora"s);
 
         f.CargarFicha(1200002);
         f.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&f));
         f.findChild<QTabWidget*>()->setCurrentIndex(4);
-        f.findChild<QPlainTextEdit*>(QStringLiteral("CT_ObsCC"))->insertPlainText(QStringLiteral("x"));
+        f.findChild<QPlainTextEdit*>(u"CT_ObsCC"_s)->insertPlainText(u"x"_s);
         Teclear(f, 0, "5700001");
         p.cajas.Responder(false);
         Pulsar(CampoDe(f, 0), Qt::Key_Return);
-        QCOMPARE(p.Caja(), QStringLiteral("Hay cambios sin guardar en «C.C.». ¿Desea guardarlos?"));
-        QCOMPARE(CampoDe(f, 0)->text(), QStringLiteral("1200002"));
+        QCOMPARE(p.Caja(), u"Hay cambios sin guardar en «C.C.». ¿Desea guardarlos?"_s);
+        QCOMPARE(CampoDe(f, 0)->text(), u"1200002"_s);
         QCOMPARE(f.focusWidget(), CampoDe(f, 0)); // ready for another code
         p.cajas.Responder(true);
         f.close();
@@ -359,19 +354,17 @@ private Q_SLOTS:
         Teclear(f, 1, "Nela");
         QTest::keyClick(&f, Qt::Key_G, Qt::AltModifier);
         const char* const nueva = "SELECT NombreC FROM T_Vacas WHERE Id_Vaca = 1200003";
-        QTRY_COMPARE(p.Texto(nueva), std::string("Nela-Culón"));
-        sqlite3_exec(p.sesion.conexion.Manejador(), "CREATE UNIQUE INDEX estorbo ON T_Mamitis (Id_Teto)",
-                     nullptr, nullptr, nullptr);
+        QTRY_COMPARE(p.Texto(nueva), "Nela-Culón"s);
+        Crudo(p.sesion.conexion, "CREATE UNIQUE INDEX estorbo ON T_Mamitis (Id_Teto)");
         f.AbrirParaAñadir(12);
         Teclear(f, 1, "Otra");
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 1); // the cow is there, her teats are not
-        QCOMPARE(CampoDe(f, 1)->text(), QStringLiteral("Otra"));
-        sqlite3_exec(p.sesion.conexion.Manejador(), "DROP INDEX estorbo", nullptr, nullptr, nullptr);
+        QCOMPARE(CampoDe(f, 1)->text(), u"Otra"_s);
+        Crudo(p.sesion.conexion, "DROP INDEX estorbo");
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 0);
-        QCOMPARE(p.Texto("SELECT Id_Teto FROM T_Mamitis WHERE Id_Vaca = 1200004"), std::string("1/2/3/4"));
-        f.close();
+        QCOMPARE(p.Texto("SELECT Id_Teto FROM T_Mamitis WHERE Id_Vaca = 1200004"), "1/2/3/4"s);
     }
 
     // A cow that could be read only in part is not on the sheet: a save would mix her with the one before.
@@ -380,31 +373,23 @@ private Q_SLOTS:
         Vacas f(p.sesion, {});
         Mostrar(f);
         f.CargarFicha(1200001);
-        sqlite3_exec(p.sesion.conexion.Manejador(), "ALTER TABLE T_Tetos RENAME TO Otra", nullptr, nullptr,
-                     nullptr);
+        Crudo(p.sesion.conexion, "ALTER TABLE T_Tetos RENAME TO Otra");
         QVERIFY(!f.CargarFicha(1200002));
         QCOMPARE(p.cajas.Vistas().size(), 1);
-        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AR"));
+        QCOMPARE(Encendidos(f, "B_Borrar"), u"AR"_s);
         Teclear(f, 1, "Otra");
         QCOMPARE(p.cajas.Vistas().size(), 1); // the code was left: her record is asked for once more
         QVERIFY(!BotonDe(f, "B_Guardar")->isEnabled());
-        sqlite3_exec(p.sesion.conexion.Manejador(), "ALTER TABLE Otra RENAME TO T_Tetos", nullptr, nullptr,
-                     nullptr);
+        Crudo(p.sesion.conexion, "ALTER TABLE Otra RENAME TO T_Tetos");
         QVERIFY(f.CargarFicha(1200002));
-        QCOMPARE(Encendidos(f, "B_Borrar"), QStringLiteral("AMER"));
-        f.close();
+        QCOMPARE(Encendidos(f, "B_Borrar"), u"AMER"_s);
     }
 
     // What another sheet did to a cycle, or took away, is not put back by what stands here.
     void CiclosCambiados() {
         Cuadra p;
-        p.Poner("T_Cubriciones",
-                {{"Id_Cubricion", 1.0}, {"Id_Vaca", 1200001.0}, {"Año_Ref", 2025}, {"N_Parto", 2}});
-        p.Poner("T_Partos", {{"Id_Parto", 1.0},
-                             {"Id_Vaca", 1200001.0},
-                             {"N_Parto", 2},
-                             {"Año_Ref", 2025},
-                             {"CuartosPerdidos", 1}});
+        p.Poner("T_Cubriciones", "Id_Cubricion=1, Id_Vaca=1200001, Año_Ref=2025, N_Parto=2");
+        p.Poner("T_Partos", "Id_Parto=1, Id_Vaca=1200001, N_Parto=2, Año_Ref=2025, CuartosPerdidos=1");
         OrdenesDeVaca ordenes;
         ordenes.abrirParto = [&](QWidget*, const VacaEnMano&, const CicloDeVaca&) {
             p.sesion.conexion.Execute("UPDATE T_Partos SET CuartosPerdidos = 3 WHERE Id_Vaca = 1200001");
@@ -412,24 +397,23 @@ private Q_SLOTS:
         Vacas f(p.sesion, ordenes);
         Mostrar(f);
         f.CargarFicha(1200001);
-        Q_EMIT f.findChild<QTableWidget*>(QStringLiteral("GridPartos"))->cellDoubleClicked(0, 0);
+        Q_EMIT f.findChild<QTableWidget*>(u"GridPartos"_s)->cellDoubleClicked(0, 0);
         Teclear(f, 5, "AV1");
-        auto* cc = f.findChild<QTableWidget*>(QStringLiteral("GridCC"));
+        auto* cc = f.findChild<QTableWidget*>(u"GridCC"_s);
         Q_EMIT cc->cellClicked(0, 0);
-        auto* nota = f.findChild<QLineEdit*>(QStringLiteral("Ct_CC(0)"));
+        auto* nota = f.findChild<QLineEdit*>(u"Ct_CC(0)"_s);
         TeclearEn(*nota, "3");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT CuartosPerdidos FROM T_Partos"), std::string("3"));
-        QCOMPARE(nota->text(), QStringLiteral("3")); // waits for its own save
+        QCOMPARE(p.Texto("SELECT CuartosPerdidos FROM T_Partos"), "3"s);
+        QCOMPARE(nota->text(), u"3"_s); // waits for its own save
         f.findChild<QTabWidget*>()->setCurrentIndex(2);
-        f.findChild<QTableWidget*>(QStringLiteral("GridCubriciones"))->selectRow(0);
+        f.findChild<QTableWidget*>(u"GridCubriciones"_s)->selectRow(0);
         p.cajas.Responder(true);
         BotonDe(f, "B_EliminarPC(1)")->click();
         p.cajas.Vistas();
         f.findChild<QTabWidget*>()->setCurrentIndex(4);
         BotonDe(f, "B_GuardarCC")->click();
         QCOMPARE(p.Texto("SELECT AñoRef FROM T_CCVacas"), std::string());
-        f.close();
     }
 
     void Observaciones() {
@@ -441,7 +425,7 @@ private Q_SLOTS:
         const auto anotar = [&](const char* nota, int chequeo) {
             QTimer reloj; // the window comes up in a loop of its own
             QObject::connect(&reloj, &QTimer::timeout, &f, [&] {
-                auto* d = f.findChild<QDialog*>(QStringLiteral("ObsControlRebaño"));
+                auto* d = f.findChild<QDialog*>(u"ObsControlRebaño"_s);
                 if (!d)
                     return;
                 reloj.stop();
@@ -461,16 +445,15 @@ private Q_SLOTS:
             return p.Texto("SELECT ObsControlRebaño, Chekeo FROM T_Vacas WHERE Id_Vaca = 1200001");
         };
         anotar("mirar ubre", 1);
-        QTRY_COMPARE(guardado(), std::string("mirar ubre|Parto + 40d"));
+        QTRY_COMPARE(guardado(), "mirar ubre|Parto + 40d"s);
         p.cajas.Responder(true); // the form stays with the note; it is left without it
         anotar("l'ubre", 0);
         QTRY_VERIFY(p.cajas.Cuantas() > 0);
         QTRY_COMPARE(p.cajas.Cuantas(), 2);
-        QVERIFY(p.cajas.Vistas()[0].texto.contains(QStringLiteral("apóstrofo")));
-        QCOMPARE(guardado(), std::string("mirar ubre|Parto + 40d"));
+        QVERIFY(p.cajas.Vistas()[0].texto.contains(u"apóstrofo"_s));
+        QCOMPARE(guardado(), "mirar ubre|Parto + 40d"s);
         anotar("", 0);
-        QTRY_COMPARE(guardado(), std::string(" |-"));
-        f.close();
+        QTRY_COMPARE(guardado(), " |-"s);
     }
 };
 

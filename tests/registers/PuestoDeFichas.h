@@ -7,22 +7,30 @@
 #include "frame/calendario/Reloj.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace prueba {
 
 // A session on a fresh database, and what a user does on a sheet: type, press, look.
-struct PuestoDeFichas {
+struct PuestoDeFichas : ConFilas {
     QTemporaryDir carpeta;
     pastorix::Sesion sesion;
     Cajas cajas;
 
-    PuestoDeFichas() {
+    PuestoDeFichas()
+        : ConFilas{sesion.conexion} {
         const auto fichero = carpeta.filePath(QStringLiteral("base.mdb")).toStdString();
         pastorix::CrearBase(pastorix::Ruta(fichero), pastorix::ClaseDeBase::Principal, pastorix::kClave);
         sesion.conexion.AbrirFichero(fichero, pastorix::kClave);
@@ -30,30 +38,47 @@ struct PuestoDeFichas {
     }
     ~PuestoDeFichas() { pastorix::FijarHoy({}); }
 
-    void Poner(const std::string& tabla, Base::Fila fila) {
-        pastorix::Recordset rs(sesion.conexion, "SELECT * FROM " + tabla);
-        rs.AddNew();
-        for (const auto& [campo, valor] : fila)
-            rs[campo] = valor;
-        rs.Update();
-    }
-    std::string Texto(const std::string& sentencia) {
-        pastorix::Recordset rs(sesion.conexion, sentencia, pastorix::Cursor::Keyset,
-                               pastorix::Bloqueo::SoloLectura);
-        std::string t;
-        for (; !rs.Eof(); rs.Siguiente()) {
-            t += t.empty() ? "" : "/";
-            for (int i = 0; i < rs.Campos(); ++i)
-                t += (i ? "|" : "") + (rs[i].Nulo() ? std::string("-") : rs[i].Texto());
-        }
-        return t;
-    }
     // The one box since the last look: its text; a test fails on none or more.
     QString Caja() {
         const auto vistas = cajas.Vistas();
         return vistas.size() == 1 ? vistas[0].texto : QStringLiteral("%1 boxes").arg(vistas.size());
     }
 };
+
+// Past the store: to break something, or to put in what no form would.
+inline void Crudo(pastorix::Conexion& c, const char* sql) {
+    QCOMPARE(sqlite3_exec(c.Manejador(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+}
+// All rows of a table as sorted texts: values as stored, so that neither two figures of a year nor 15 digits hide a change.
+inline QStringList FilasDe(pastorix::Conexion& c, const std::string& tabla) {
+    QStringList filas;
+    sqlite3_stmt* s = nullptr;
+    sqlite3_prepare_v2(c.Manejador(), ("SELECT * FROM " + tabla).c_str(), -1, &s, nullptr);
+    while (sqlite3_step(s) == SQLITE_ROW) {
+        QStringList fila;
+        for (int i = 0; i < sqlite3_column_count(s); ++i) {
+            const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(s, i));
+            fila << (texto ? QLatin1Char('=') + QString::fromUtf8(texto) : QStringLiteral("-"));
+        }
+        filas << fila.join(QLatin1Char('|'));
+    }
+    sqlite3_finalize(s);
+    filas.sort();
+    return filas;
+}
+inline QStringList SinLosDe(const QStringList& unas, const QStringList& otras) {
+    QStringList resto;
+    std::set_difference(unas.begin(), unas.end(), otras.begin(), otras.end(), std::back_inserter(resto));
+    return resto;
+}
+// A session's connection on a copy of one of the example's databases.
+inline void AbrirEjemplo(pastorix::Conexion& c, const QTemporaryDir& carpeta, const QString& fichero) {
+    const auto copia = carpeta.filePath(fichero);
+    QVERIFY(QFile::copy(QStringLiteral(PASTORIX_EJEMPLO "/") + fichero, copia));
+    QVERIFY(QFile::setPermissions(copia, QFile::ReadOwner | QFile::WriteOwner));
+    c.AbrirFichero(copia.toStdString(), pastorix::kClave);
+    Crudo(c, "PRAGMA synchronous=OFF");
+}
 
 // Shown and active: focus is part of what the sheets promise.
 inline void Mostrar(QWidget& ficha) {

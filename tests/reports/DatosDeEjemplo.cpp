@@ -26,6 +26,11 @@ struct Tablas {
                          "Culones",     "TotalCC", "PN",        "PA",         "PC",        "CEBOSMP",
                          "CEBOSHP",     "CEBOSMC", "P_CEBOSHP", "P_CEBOSMP",  "CEBOSTOTAL"});
     TablaDatos intervalos = Tabla("X_Tmp6", {"Id_Ganadero", "Texto", "N", "N1", "N2", "N3", "N5", "N6"});
+    TablaDatos sinConfirmar = Tabla("SinConfirmar", {"Id_Ganadero", "Texto", "N"});
+    TablaDatos veterinario =
+        Tabla("Veterinario", {"Id_Ganadero", "NombreVet", "ApellidosVet", "TelefonoP", "TelefonoM"});
+    TablaDatos titulares =
+        Tabla("Titulares", {"Id_Ganadero", "Año", "Censo", "Dias", "Mortalidad", "Perdida", "Cebados"});
     TablaDatos mortalidad = Tabla("X_Tmp7", {"Id_Ganadero", "Texto", "N", "N1"});
     TablaDatos perdida = Tabla("X_Tmp8", {"Id_Ganadero", "Texto", "N"});
 };
@@ -50,8 +55,12 @@ void ConPartos(Tablas& t, const Valor& id) {
     t.intervalos.filas.insert(t.intervalos.filas.end(),
                               {{id, T("Novillas de 1 Parto"), T("12"), N(421), T("5"), N(371), N(7), N(457)},
                                {id, T("Vacas"), T("51"), N(389), T("36"), N(366), N(15), N(444)},
-                               {id, T("Todas"), T("63"), N(395), T("41"), N(367), N(22), N(448)},
-                               {id, T("Preñez no confirmada"), T("( 4 )")}});
+                               {id, T("Todas"), T("63"), N(395), T("41"), N(367), N(22), N(448)}});
+    t.sinConfirmar.filas.push_back({id, T("Preñez no confirmada"), T("( 4 )")});
+    for (int año = 2025; año > 2022; --año)
+        t.titulares.filas.push_back(
+            {id, N(año), T("66"), T(año == 2023 ? "–" : "398"), T("8 %"), T("15 %"), T("41 %")});
+    t.veterinario.filas.push_back({id, T("María"), T("Suárez Riesgo"), T("985 800 100")});
     t.mortalidad.filas.insert(t.mortalidad.filas.end(), {{id, T("Perinatal"), N(3), N(4)},
                                                          {id, T("Antes de los 30 días"), N(1), N(1)},
                                                          {id, T("Antes del Destete"), N(2), N(3)},
@@ -74,7 +83,7 @@ void SinPartos(Tablas& t, const Valor& id) {
     t.destete.filas.push_back(destete);
     for (const char* texto : {"Novillas de 1 Parto", "Vacas", "Todas"})
         t.intervalos.filas.push_back({id, T(texto), T("0"), N(0), T("0"), N(0), N(0), N(0)});
-    t.intervalos.filas.push_back({id, T("Preñez no confirmada"), T("( 0 )")});
+    t.sinConfirmar.filas.push_back({id, T("Preñez no confirmada"), T("( 0 )")});
     for (const char* texto : {"Perinatal", "Antes de los 30 días", "Antes del Destete"})
         t.mortalidad.filas.push_back({id, T(texto), N(0), {}});
     t.mortalidad.filas.push_back({id, T("Total"), N(0), N(0)});
@@ -108,78 +117,72 @@ TablasEnMemoria IndicesTecnicos(int granjas) {
             ConPartos(t, id);
     }
     TablasEnMemoria fuente;
-    for (TablaDatos* tabla : {&t.temp, &t.censo, &t.meses, &t.estaciones, &t.cularidad, &t.destete,
-                              &t.intervalos, &t.mortalidad, &t.perdida})
+    for (TablaDatos* tabla :
+         {&t.temp, &t.censo, &t.meses, &t.estaciones, &t.cularidad, &t.destete, &t.intervalos,
+          &t.sinConfirmar, &t.veterinario, &t.titulares, &t.mortalidad, &t.perdida})
         fuente.Poner(std::move(*tabla));
     return fuente;
 }
 
 TablasEnMemoria Registros(int ganaderos) {
     TablaDatos veterinarios = Tabla(
-        "T_Veterinarios",
-        {"Id_Veterinario", "DNI", "NombreVet", "ApellidosVet", "Concejo", "FechaAlta", "Usuario",
-         "Id_Direccion"},
-        {{N(12), T("10345678A"), T("María"), T("Suárez Riesgo"), T("Tineo"), F(3, 5, 2004), T("MARIA"), N(1)},
-         {N(7), T("09876543B"), T("Ángel"), T("Menéndez Coto"), T("Cangas del Narcea"), F(12, 1, 1999),
-          T("ANGEL"), N(2)},
-         {N(31), {}, T("Nuria"), T("Ñáñez"), T("Allande"), {}, T("NURIA"), N(0)}});
-    TablaDatos direcciones =
-        Tabla("T_Direcciones",
-              {"Id_Direccion", "Id_GV", "Direccion", "Complemento", "Codigo_Postal", "Localidad", "Provincia",
-               "TelefonoP", "TelefonoM", "Email", "FAX"},
-              {{N(1), N(12), T("Plaza Mayor, 4"), T("2.º B"), T("33870"), T("Tineo"), T("Asturias"),
-                T("985 800 100"), T("609 000 111"), T("maria@ejemplo.es"), T("985 800 101")},
-               {N(2),
-                N(7),
-                T("C/ Uría, 21"),
-                {},
-                T("33800"),
-                T("Cangas del Narcea"),
-                T("Asturias"),
-                T("985 810 222"),
-                {},
-                {},
-                {}}});
-    TablaDatos granjas = Tabla("T_Ganaderos", {"Id_Ganadero", "DNI", "Nombre", "Apellidos", "Apodo",
-                                               "Concejo", "NSocio", "FechaAlta", "FechaBaja", "MotivoBaja",
-                                               "Id_Veterinario", "TorosComun", "Id_Direccion"});
+        "Veterinarios",
+        {"Id_Veterinario", "DNI", "NombreVet", "ApellidosVet", "Concejo", "FechaAlta", "Usuario", "Direccion",
+         "Complemento", "Codigo_Postal", "Localidad", "Provincia", "TelefonoP", "TelefonoM", "Email", "FAX"},
+        {{N(7),
+          T("09876543B"),
+          T("Ángel"),
+          T("Menéndez Coto"),
+          T("Cangas del Narcea"),
+          F(12, 1, 1999),
+          T("ANGEL"),
+          T("C/ Uría, 21"),
+          {},
+          T("33800"),
+          T("Cangas del Narcea"),
+          T("Asturias"),
+          T("985 810 222")},
+         {N(12), T("10345678A"), T("María"), T("Suárez Riesgo"), T("Tineo"), F(3, 5, 2004), T("MARIA"),
+          T("Plaza Mayor, 4"), T("2.º B"), T("33870"), T("Tineo"), T("Asturias"), T("985 800 100"),
+          T("609 000 111"), T("maria@ejemplo.es"), T("985 800 101")},
+         {N(31), {}, T("Nuria"), T("Ñáñez"), T("Allande"), {}, T("NURIA")}});
+    TablaDatos granjas = Tabla(
+        "Ganaderos", {"Id_Ganadero", "DNI", "Nombre", "Apellidos", "Apodo", "Concejo", "NSocio", "FechaAlta",
+                      "FechaBaja", "Id_Veterinario", "NombreVet", "ApellidosVet", "Direccion", "Complemento",
+                      "Codigo_Postal", "Localidad", "Provincia", "TelefonoP", "TelefonoM"});
     constexpr std::array<const char*, 6> nombres{"José", "Covadonga", "Ángel", "Manuela", "Óscar", "Pilar"};
     constexpr std::array<const char*, 7> apellidos{
         "Álvarez Fernández",           "Peláez", "Zapico Ñera", "Coto del Río", "Feito Rodríguez", "Ordás",
         "Menéndez-Conde y Llano Ponte"};
     for (int g = 0; g < ganaderos; ++g) {
         const auto u = static_cast<std::size_t>(g);
-        const double id = 1200000 + g;
-        const bool conDireccion = g % 7 != 0;
-        granjas.filas.push_back({N(id),
-                                 T("10999888C"),
-                                 T(nombres[u % 6]),
-                                 T(apellidos[u % 7]),
-                                 std::string("Casa ") + std::to_string(g),
-                                 T("Cangas del Narcea"),
-                                 std::to_string(400 + g),
-                                 F(1 + g % 28, 1 + g % 12, 2001),
-                                 {},
-                                 {},
-                                 g % 5 == 0 ? Valor() : N(g % 2 == 0 ? 12 : 7),
-                                 T("No"),
-                                 conDireccion ? N(100 + g) : Valor()});
-        if (conDireccion)
-            direcciones.filas.push_back({N(100 + g),
-                                         N(id),
-                                         T("Barrio de Arriba, s/n"),
-                                         {},
-                                         T("33810"),
-                                         T("Corias"),
-                                         T("Asturias"),
-                                         T("985 813 000"),
-                                         g % 3 == 0 ? Valor() : T("650 123 456"),
-                                         {},
-                                         {}});
+        Fila fila{N(1200000 + g),
+                  T("10999888C"),
+                  T(nombres[u % 6]),
+                  T(apellidos[u % 7]),
+                  std::string("Casa ") + std::to_string(g),
+                  T("Cangas del Narcea"),
+                  std::to_string(400 + g),
+                  F(1 + g % 28, 1 + g % 12, 2001),
+                  g % 11 == 3 ? F(15, 6, 2019) : Valor()};
+        const bool par = g % 2 == 0;
+        const Fila suVeterinario = g % 5 == 0 ? Fila{{}, {}, {}}
+                                   : par      ? Fila{N(12), T("María"), T("Suárez Riesgo")}
+                                              : Fila{N(7), T("Ángel"), T("Menéndez Coto")};
+        fila.insert(fila.end(), suVeterinario.begin(), suVeterinario.end());
+        if (g % 7 != 0)
+            fila.insert(fila.end(), {T("Barrio de Arriba, s/n"),
+                                     {},
+                                     T("33810"),
+                                     T("Corias"),
+                                     T("Asturias"),
+                                     T("985 813 000"),
+                                     g % 3 == 0 ? Valor() : T("650 123 456")});
+        fila.resize(granjas.columnas.size());
+        granjas.filas.push_back(std::move(fila));
     }
     TablasEnMemoria fuente;
     fuente.Poner(std::move(veterinarios));
-    fuente.Poner(std::move(direcciones));
     fuente.Poner(std::move(granjas));
     return fuente;
 }

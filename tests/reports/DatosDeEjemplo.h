@@ -28,7 +28,7 @@ inline pastorix::Valor F(int d, int m, int a) {
 // The scratch tables of the yearly technical report for so many farms; the second farm has no calvings.
 pastorix::TablasEnMemoria IndicesTecnicos(int granjas);
 
-// Veterinarians, farmers and their addresses; every fifth farmer has no veterinarian, every seventh no address.
+// What the queries of the lists of people give; every fifth farmer has no veterinarian, every seventh no address, some have left.
 pastorix::TablasEnMemoria Registros(int ganaderos);
 
 } // namespace ejemplo

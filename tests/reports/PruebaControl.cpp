@@ -4,19 +4,24 @@
 #include "frame/Mensajes.h"
 #include "reports/motor/ControlInforme.h"
 #include "reports/motor/ErrorInforme.h"
+#include "reports/motor/IndiceDePaginas.h"
 #include "reports/motor/Miniaturas.h"
 #include "reports/motor/VentanaInforme.h"
 #include "reports/motor/VistaPaginas.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QToolBar>
+#include <QTreeWidget>
 
 using namespace pastorix;
 using namespace ejemplo;
@@ -33,12 +38,19 @@ VentanaInforme* Ventana() {
     return nullptr;
 }
 
+// Prints a delivered layout; the preview that opens.
+VentanaInforme* Abrir(ControlInforme& control, const char* layout) {
+    control.FicheroInforme = Layouts + QLatin1Char('/') + QLatin1String(layout);
+    control.Action(1);
+    return Ventana();
+}
+
 // A layout with a parameter in a folder of its own.
 QString ConParametro(const QTemporaryDir& carpeta) {
     QFile layout(carpeta.filePath(QStringLiteral("CEBO.RPT")));
     if (layout.open(QIODevice::WriteOnly))
         layout.write("pastorix-informe 1\nparametro A\xC3\xB1oRef\ntabla X_Temp\ncampo C1\nfin\n"
-                     "banda 20\ntexto 0 0 100 20 \"[{?A\xC3\xB1oRef}] {T\xC3\xADtulo}\"\nfin\n");
+                     "banda 20\ntexto 0 0 100 20 \"[[{?A\xC3\xB1oRef}]] {T\xC3\xADtulo}\"\nfin\n");
     return carpeta.path();
 }
 
@@ -105,6 +117,43 @@ private Q_SLOTS:
         QVERIFY(!Ventana());
     }
 
+    // What is in Informes serves when it begins as ours; otherwise the layout of the program does, and the foot of the preview says so once.
+    void DeInformesODelPrograma_data() {
+        QTest::addColumn<QByteArray>("contenido"); // of IndTecnicos.rpt; none: there is no file
+        QTest::addColumn<QString>("aviso");
+        const QByteArray suya =
+            "pastorix-informe 1\ntabla X_Temp\ncampo C1\nfin\nbanda 20\ntexto 0 0 9 9 \"suya\"\nfin\n";
+        QTest::newRow("ours") << suya << QString();
+        QTest::newRow("ours, behind comments")
+            << QByteArray("\xEF\xBB\xBF# mine\r\n\r\n  #\r\n" + suya) << QString();
+        QTest::newRow("none") << QByteArray() << QStringLiteral("en Informes no hay INDTECNICOS.RPT");
+        const auto ajena = QStringLiteral("el IndTecnicos.rpt de Informes es de otro programa");
+        QTest::newRow("empty") << QByteArray("") << ajena;
+        QTest::newRow("binary") << QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1\0\0\0", 11) << ajena;
+        QTest::newRow("another's text") << QByteArray("# pastorix-informe 1\npastorix-informes 1\n") << ajena;
+    }
+    void DeInformesODelPrograma() {
+        QFETCH(QByteArray, contenido);
+        QFETCH(QString, aviso);
+        QTemporaryDir carpeta;
+        QFile fichero(carpeta.filePath(QStringLiteral("IndTecnicos.rpt")));
+        if (!contenido.isNull())
+            QVERIFY(fichero.open(QIODevice::WriteOnly) && fichero.write(contenido) == contenido.size());
+        fichero.close();
+        const TablasEnMemoria fuente = IndicesTecnicos(1);
+        ControlInforme control(fuente);
+        for (const bool primera : {true, false}) {
+            control.FicheroInforme = carpeta.filePath(QStringLiteral("INDTECNICOS.RPT"));
+            control.Action(1);
+            QCOMPARE(Ventana()->Informe().paginas.paginas.size(),
+                     aviso.isEmpty() ? std::size_t(1) : std::size_t(2));
+            QCOMPARE(Ventana()->statusBar()->currentMessage(),
+                     primera && !aviso.isEmpty() ? QStringLiteral("Diseño incluido en el programa: ") + aviso
+                                                 : QString());
+            cleanup();
+        }
+    }
+
     // The preview opens over a modal form, is not blocked by it, and stays when the form goes.
     void SobreFormularioModal() {
         const TablasEnMemoria fuente = IndicesTecnicos(1);
@@ -115,9 +164,7 @@ private Q_SLOTS:
         ControlInforme control(fuente);
         control.EstadoVentana = 2;
         control.TituloVentana = QStringLiteral(" Índices Técnicos");
-        control.FicheroInforme = Layouts + QStringLiteral("/IndTecnicos.rpt");
-        control.Action(1);
-        VentanaInforme* ventana = Ventana();
+        VentanaInforme* ventana = Abrir(control, "IndTecnicos.rpt");
         QVERIFY(ventana && ventana->isMaximized());
         QCOMPARE(ventana->windowTitle(), QStringLiteral(" Índices Técnicos"));
         QTest::keyClick(ventana->findChild<VistaPaginas*>(), Qt::Key_End, Qt::ControlModifier);
@@ -134,9 +181,7 @@ private Q_SLOTS:
     void PaginasYZoom() {
         const TablasEnMemoria fuente = IndicesTecnicos(3);
         ControlInforme control(fuente);
-        control.FicheroInforme = Layouts + QStringLiteral("/IndTecnicos.rpt");
-        control.Action(1);
-        VentanaInforme* v = Ventana();
+        VentanaInforme* v = Abrir(control, "IndTecnicos.rpt");
         v->resize(1280, 720);
         QVERIFY(QTest::qWaitForWindowExposed(v));
         auto* vista = v->findChild<VistaPaginas*>();
@@ -178,11 +223,9 @@ private Q_SLOTS:
     }
 
     void Busqueda() {
-        const TablasEnMemoria fuente = Registros(200);
+        const TablasEnMemoria fuente = ejemplo::Registros(200);
         ControlInforme control(fuente);
-        control.FicheroInforme = Layouts + QStringLiteral("/Ganaderos.rpt");
-        control.Action(1);
-        VentanaInforme* v = Ventana();
+        VentanaInforme* v = Abrir(control, "Ganaderos.rpt");
         v->resize(1000, 500);
         QVERIFY(QTest::qWaitForWindowExposed(v));
         auto* vista = v->findChild<VistaPaginas*>();
@@ -201,19 +244,156 @@ private Q_SLOTS:
         QCOMPARE(vista->PaginaActual(), primera);
     }
 
+    // The groups beside the pages lead to where they begin, and follow the page in sight.
+    void Indice() {
+        const TablasEnMemoria fuente = IndicesTecnicos(3);
+        ControlInforme control(fuente);
+        VentanaInforme* v = Abrir(control, "IndTecnicos.rpt");
+        QVERIFY(QTest::qWaitForWindowExposed(v));
+        auto* indice = v->findChild<IndiceDePaginas*>();
+        auto* vista = v->findChild<VistaPaginas*>();
+        QCOMPARE(indice->topLevelItemCount(), 3);
+        auto* ver = v->findChild<QAction*>(QStringLiteral("VerIndice"));
+        ver->trigger(); // from behind the thumbnails
+        QVERIFY(!indice->visibleRegion().isEmpty() && indice->hasFocus());
+        QTest::keyClick(indice, Qt::Key_Down);
+        QCOMPARE(vista->PaginaActual(), 2);
+        vista->IrA(5);
+        QCOMPARE(indice->currentItem()->text(0), QStringLiteral("Hermanos Feito C.B. - Tineo · 2026"));
+        QCOMPARE(indice->currentItem()->text(1), QStringLiteral("5"));
+        ver->trigger();
+        QVERIFY(!indice->isVisible() && vista->hasFocus());
+    }
+
+    // By mouse and by keyboard: a figure tells where it comes from, and Enter on an animal opens her sheet.
+    void DeDondeSale() {
+        const TablasEnMemoria fuente = IndicesTecnicos(1);
+        ControlInforme control(fuente);
+        QStringList preguntadas;
+        double abierta = 0;
+        control.Preguntas.explicar = [&](const QString& clave) {
+            preguntadas << clave;
+            Explicacion e;
+            e.titulo = "Censo";
+            e.como = "Se cuentan.";
+            e.porqueFuera = "Las otras:";
+            e.contados = {{7, "ES7", "Mora", "", "3", 0}, {8, "ES8", "Luna", "", "4", 0}};
+            e.valor = 2;
+            return std::optional(e);
+        };
+        control.Preguntas.abrirVaca = [&](QWidget* sobre, double vaca) {
+            QVERIFY(sobre);
+            abierta = vaca;
+        };
+        control.Reiniciar();
+        VentanaInforme* v = Abrir(control, "IndTecnicos.rpt");
+        v->resize(1093, 614);
+        v->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(v));
+        auto* vista = v->findChild<VistaPaginas*>();
+        QTest::keyClick(vista, Qt::Key_Return); // before anything is asked
+        QVERIFY(preguntadas.isEmpty());
+        v->findChild<QAction*>(QStringLiteral("Preguntar"))->trigger();
+        for (const int tecla :
+             {Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right}) {
+            QTest::keyClick(vista, Qt::Key_Return);
+            vista->setFocus();
+            QTest::keyClick(vista, static_cast<Qt::Key>(tecla));
+        }
+        QTest::keyClick(vista, Qt::Key_Return);
+        for (QString& clave : preguntadas)
+            clave.remove(QStringLiteral(";1200044;2026"));
+        QCOMPARE(preguntadas.join(QLatin1Char('|')),
+                 QStringLiteral(
+                     "Censo;Total|Intervalo;Todas;0;Media|Mortalidad;Total|Intervalo;Todas;0;Media|"
+                     "Censo;Novillas en Cubrición|Censo;Novillas de 1º parto|Bajas;Novillas de 1º parto"));
+        auto* animales = v->findChild<QTreeWidget*>(QStringLiteral("AnimalesDeCifra"));
+        QVERIFY(animales->isVisible() && animales->hasFocus());
+        QCOMPARE(animales->topLevelItem(0)->text(0), QStringLiteral("Cuentan 2"));
+        QCOMPARE(animales->topLevelItem(1)->text(0), QStringLiteral("Las otras: 0"));
+        QTest::keyClick(animales, Qt::Key_Down);
+        QTest::keyClick(animales, Qt::Key_Return);
+        QCOMPARE(abierta, 8.0);
+        const auto dice = [&](const QString& trozo) {
+            const auto rotulos = v->findChild<PanelDeCifra*>()->findChildren<QLabel*>();
+            return std::any_of(rotulos.begin(), rotulos.end(),
+                               [&](const QLabel* r) { return r->text().contains(trozo); });
+        };
+        QVERIFY(dice(QStringLiteral("ahora sería 2"))); // one figure was printed, another one counted by now
+        vista->setFocus();
+        QTest::keyClick(vista, Qt::Key_Escape); // ends the asking, not the preview
+        QVERIFY(v->isVisible());
+        QTest::keyClick(vista, Qt::Key_Return);
+        QCOMPARE(preguntadas.size(), 7);
+
+        // The filled box of the calvings' total is no figure; a number in the census is.
+        const auto& trozos = v->Informe().paginas.paginas.at(0).trozos;
+        const auto cifra = std::find_if(trozos.begin(), trozos.end(), [](const Trozo& t) {
+            const auto* texto = std::get_if<TextoColocado>(&t);
+            return texto && texto->figura >= 0 && texto->texto == QStringLiteral("38");
+        });
+        const auto& texto = std::get<TextoColocado>(*cifra);
+        vista->IrA(0);
+        const double escala = vista->logicalDpiX() / 25.4 * vista->Zoom();
+        const double margen = std::max(12.0, (vista->viewport()->width() - 210 * escala) / 2);
+        const QPoint sobre(static_cast<int>(margen + (texto.base.x() + texto.ancho / 2) * escala),
+                           static_cast<int>(12 + (texto.base.y() - 1) * escala));
+        vista->verticalScrollBar()->setValue(100);
+        QTest::mouseClick(vista->viewport(), Qt::LeftButton, {}, sobre - QPoint(0, 100));
+        QVERIFY(preguntadas.size() == 8 &&
+                preguntadas.last().endsWith(QStringLiteral("Vacas de 2 a 6 partos")));
+        QTest::mouseClick(vista->viewport(), Qt::LeftButton, {}, sobre - QPoint(60, 100));
+        QCOMPARE(preguntadas.size(), 8);
+    }
+
+    void CopiarTabla() {
+        const TablasEnMemoria fuente = ejemplo::Registros(4);
+        ControlInforme control(fuente);
+        Abrir(control, "Ganaderos.rpt")->findChild<QAction*>(QStringLiteral("CopiarTabla"))->trigger();
+        const QMimeData* copia = QApplication::clipboard()->mimeData();
+        const QStringList lineas = copia->text().split(QLatin1Char('\n'));
+        QCOMPARE(lineas.size(), 1 + 4 + 1);
+        QVERIFY(lineas.at(0).startsWith(QStringLiteral("Código\tNombre\tApellidos\tApodo\t")));
+        QVERIFY2(lineas.at(4).contains(QStringLiteral("\t04/04/2001\t15/06/2019\t")),
+                 qUtf8Printable(lineas.at(4)));
+        QVERIFY(copia->html().contains(QStringLiteral("<td>Zapico Ñera</td>")));
+    }
+
+    // What exports are proposed to be called: by the form, else as the window, without signs that no file may have in its name.
+    void NombresPropuestos() {
+        const TablasEnMemoria fuente = IndicesTecnicos(1);
+        ControlInforme control(fuente);
+        QString propuesto;
+        ControlInforme::InstalarDestino(
+            [&](const InformeTerminado& informe) { propuesto = informe.nombrePropuesto; });
+        const auto nombre = [&](const char* titulo, const char* delFormulario) {
+            control.Reiniciar();
+            control.FicheroInforme = Layouts + QStringLiteral("/IndTecnicos.rpt");
+            control.TituloVentana = QString::fromUtf8(titulo);
+            control.NombrePropuesto = QString::fromUtf8(delFormulario);
+            control.Action(1);
+            return propuesto;
+        };
+        QCOMPARE(nombre("", ""), QStringLiteral("IndTecnicos"));
+        QCOMPARE(nombre(" Índices Técnicos", ""), QStringLiteral("Índices Técnicos"));
+        QCOMPARE(nombre(" Índices Técnicos", "..Toros: Casa d'O/Teruelo 2026 "),
+                 QStringLiteral("Toros Casa d'OTeruelo 2026"));
+        QCOMPARE(nombre("", "/?"), QStringLiteral("IndTecnicos"));
+    }
+
     void Guardar() {
         QTemporaryDir carpeta;
         const TablasEnMemoria fuente = IndicesTecnicos(1);
         ControlInforme control(fuente);
-        control.FicheroInforme = Layouts + QStringLiteral("/IndTecnicos.rpt");
-        control.Action(1);
-        VentanaInforme* v = Ventana();
+        VentanaInforme* v = Abrir(control, "IndTecnicos.rpt");
         QString elegido;
         QStringList avisos;
         QStringList propuestas;
+        QStringList carpetas;
         const auto anterior = InstalarRespondedor([&](const Mensaje& mensaje) {
             if (mensaje.clase == Mensaje::Clase::FicheroGuardar)
-                propuestas << QFileInfo(mensaje.propuesta).fileName();
+                propuestas << QFileInfo(mensaje.propuesta).fileName(),
+                    carpetas << QFileInfo(mensaje.propuesta).path();
             else
                 avisos << mensaje.titulo + QLatin1Char('|') + mensaje.texto;
             return Respuesta{false, elegido};
@@ -228,11 +408,13 @@ private Q_SLOTS:
         QVERIFY(guardar("GuardarPdf", QStringLiteral("a.pdf")).size() > 5000);
         QVERIFY(guardar("GuardarXlsx", QStringLiteral("a.xlsx")).size() > 5000);
         QCOMPARE(QDir(guardar("GuardarCsv", QStringLiteral("a")).filePath()).entryList(QDir::Files).size(),
-                 9);
+                 12);
         QVERIFY(avisos.isEmpty());
         QCOMPARE(propuestas,
                  QStringList({QStringLiteral("IndTecnicos.pdf"), QStringLiteral("IndTecnicos.pdf"),
                               QStringLiteral("IndTecnicos.xlsx"), QStringLiteral("IndTecnicos CSV")}));
+        QCOMPARE(carpetas, QStringList({carpetas.at(0), carpetas.at(0), carpeta.path(),
+                                        carpeta.path()})); // the last one
         guardar("GuardarPdf", QStringLiteral("no/hay/a.pdf"));
         QCOMPARE(avisos.size(), 1);
         QVERIFY2(avisos.at(0).startsWith(QStringLiteral("Atención|No se puede escribir el fichero")),
@@ -244,9 +426,7 @@ private Q_SLOTS:
     void TecladoYNombres() {
         const TablasEnMemoria fuente = IndicesTecnicos(1);
         ControlInforme control(fuente);
-        control.FicheroInforme = Layouts + QStringLiteral("/IndTecnicos.rpt");
-        control.Action(1);
-        VentanaInforme* v = Ventana();
+        VentanaInforme* v = Abrir(control, "IndTecnicos.rpt");
         QStringList atajos;
         for (const QAction* accion : v->findChildren<QAction*>()) {
             if (accion->objectName().isEmpty() || !accion->parent() || accion->isSeparator() ||
@@ -255,7 +435,7 @@ private Q_SLOTS:
             QVERIFY2(!atajos.contains(accion->shortcut().toString()), qUtf8Printable(accion->objectName()));
             atajos << accion->shortcut().toString();
         }
-        QCOMPARE(atajos.size(), 19);
+        QCOMPARE(atajos.size(), 22);
         for (const QWidget* campo :
              {static_cast<QWidget*>(v->findChild<QSpinBox*>()),
               static_cast<QWidget*>(v->findChild<QComboBox*>()),

@@ -1,5 +1,6 @@
 #include "prueba.h"
 
+#include "reports/motor/DisposicionesIncluidas.h"
 #include "reports/motor/ErrorInforme.h"
 #include "reports/motor/LectorDisposicion.h"
 
@@ -78,15 +79,18 @@ private Q_SLOTS:
         caso("table twice", "tabla A\ncampo C1\nfin", 1, "ya está declarada");
         caso("column twice", "tabla D\ncampo C1\ncampo c1\nfin", 3, "ya está declarada");
         caso("table name that is no name", "tabla A;DROP\nfin", 1, "no es un nombre");
-        caso("joined to itself", "union A con A por=C1:C1", 1, "consigo misma");
-        caso("joined in a circle", "union A con B por=C1:C1\nunion B con A por=C1:C1", 2, "consigo misma");
-        caso("section over a joined table", "union B con A por=C1:C1\nseccion B\nfin", 2,
-             "se recorre con ella");
-        caso("group of another table", "seccion A\ngrupo B.C1\nfin\nfin", 2, "otra tabla");
+        caso("statement that writes", "tabla D consulta=\"DELETE FROM T_Vacas\"\ncampo C1\nfin", 1,
+             "empieza por SELECT");
+        caso("group of another table", "seccion A\ngrupo B.C1\nfin\nfin", 2, "\"B.C1\" no está declarada");
         caso("group after the detail", "seccion A\ndetalle 5\nfin\ngrupo C1\nfin\nfin", 4,
              "antes que el detalle");
         caso("chart without series", "banda 30\ngrafico 0 0 50 30 A\ncategoria C1\nfin\nfin", 2,
              "alguna serie");
+        caso("heading over no columns",
+             "seccion A\nrejilla 10 5\nsobre \"a\"\nfin\ncol 9 \"b\" \"c\"\nfin\nfin", 3,
+             "necesita columnas");
+        caso("rows wider than the page", "filas 5 100 90\nfila \"a\"\nfin", 1, "suman más de 180");
+        caso("row with more texts than columns", "filas 5 100\nfila \"a\" \"b\"\nfin", 2, "hay 1");
         caso("line that goes back", "banda 5\nlinea 9 0 3 0\nfin", 2, "de izquierda a derecha");
         caso("broken UTF-8", "banda 5\ntexto 0 0 9 5 \"\xC3\xA9\"\nfin\n\x01", 4, "UTF-8");
     }
@@ -116,6 +120,37 @@ private Q_SLOTS:
         QVERIFY(Error(texto.toStdString()).startsWith(QStringLiteral("x.rpt, línea ")));
     }
 
+    // What is included counts as if it stood there, and can be overruled; a mistake in it is told with its own name and line.
+    void Incluye() {
+        const auto leer = [](const std::string& comun, const char* orden, const char* despues = "") {
+            try {
+                const Disposicion d =
+                    LeerDisposicion(std::string("pastorix-informe 1\n") + orden + "\n" + despues +
+                                        "banda 5\ntexto 0 0 9 5 \"a\" estilo=x\nfin",
+                                    "x.rpt", [&](const std::string& nombre) {
+                                        return nombre == "comun.rpt" ? std::optional(comun) : std::nullopt;
+                                    });
+                return QStringLiteral("%1 %2")
+                    .arg(d.anchoPagina)
+                    .arg(d.cuerpo.at(0).banda.elementos.at(0).aspecto.tamaño);
+            } catch (const ErrorInforme& e) {
+                return QString::fromUtf8(e.what());
+            }
+        };
+        const std::string comun = "pastorix-informe 1\npagina A4 vertical\nestilo x tamaño=7\n";
+        const char* const incluye = "incluye \"comun.rpt\"";
+        QCOMPARE(leer(comun, incluye), QStringLiteral("210 7"));
+        QCOMPARE(leer(comun, incluye, "pagina A4 apaisada\n"), QStringLiteral("297 7"));
+        QVERIFY(leer(comun + "color z #12\n", incluye).startsWith(QStringLiteral("comun.rpt, línea 4: ")));
+        QVERIFY(leer(comun, incluye, "color z #12\n").startsWith(QStringLiteral("x.rpt, línea 3: ")));
+        for (const char* linea : {"tabla A", "banda 5", "incluye \"comun.rpt\""})
+            QVERIFY(
+                leer(comun + linea, incluye).contains(QStringLiteral("comun.rpt, línea 4: en un fichero")));
+        QVERIFY(leer("estilo x\n", incluye).startsWith(QStringLiteral("comun.rpt, línea 1: ")));
+        for (const char* otro : {"incluye \"otro.rpt\"", "incluye \"../comun.rpt\"", "incluye comun.rpt"})
+            QVERIFY(leer(comun, otro).startsWith(QStringLiteral("x.rpt, línea 2: ")));
+    }
+
     void Ausente() {
         try {
             LeerDisposicionDeFichero("/no/hay/nada.rpt");
@@ -133,7 +168,7 @@ pagina A4 apaisada margenes=10,11,12,13
 color tinta #102030
 estilo base tamaño=7 negrita color=tinta
 estilo otro estilo=base cursiva normal
-tabla T_Vacas como V hoja="Vacas"
+tabla V hoja="Vacas" consulta="select Crotal FROM T_Vacas"
   campo Crotal "Crotal n.º"
 fin
 seccion v

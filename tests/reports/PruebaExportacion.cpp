@@ -1,46 +1,21 @@
 #include "prueba.h"
 
 #include "DatosDeEjemplo.h"
+#include "DiscoLleno.h"
+#include "reports/motor/DisposicionesIncluidas.h"
 #include "reports/motor/ErrorInforme.h"
 #include "reports/motor/Exportacion.h"
 #include "reports/motor/LectorDisposicion.h"
+#include "reports/motor/Pdf.h"
+#include "reports/motor/Zip.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QtEndian>
-
-#include <zlib.h>
 
 using namespace pastorix;
 using namespace ejemplo;
 
 namespace {
-
-// One member of a ZIP file as the workbook library writes them: walked by the central directory.
-QByteArray DelZip(const QByteArray& zip, const QByteArray& nombre) {
-    const auto u16 = [&](qsizetype i) { return qFromLittleEndian<quint16>(zip.constData() + i); };
-    const auto u32 = [&](qsizetype i) { return qsizetype(qFromLittleEndian<quint32>(zip.constData() + i)); };
-    const qsizetype fin = zip.lastIndexOf("PK\x05\x06");
-    qsizetype entrada = u32(fin + 16);
-    for (int n = u16(fin + 10); n > 0; --n) {
-        const qsizetype local = u32(entrada + 42);
-        const qsizetype datos = local + 30 + u16(local + 26) + u16(local + 28);
-        if (zip.mid(entrada + 46, u16(entrada + 28)) == nombre) {
-            QByteArray salida(u32(entrada + 24), '\0');
-            z_stream z{};
-            z.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(zip.constData() + datos));
-            z.avail_in = static_cast<uInt>(u32(entrada + 20));
-            z.next_out = reinterpret_cast<Bytef*>(salida.data());
-            z.avail_out = static_cast<uInt>(salida.size());
-            inflateInit2(&z, -MAX_WBITS);
-            inflate(&z, Z_FINISH);
-            inflateEnd(&z);
-            return salida;
-        }
-        entrada += 46 + u16(entrada + 28) + u16(entrada + 30) + u16(entrada + 32);
-    }
-    return {};
-}
 
 QByteArray Leer(const QString& fichero) {
     QFile f(fichero);
@@ -55,20 +30,43 @@ tabla X hoja="Vacas [1/2]"
   campo NT "Número escrito" formato="##0.0"
   campo N "Número"
   campo F "Fecha" formato="dd/mm/yy"
+  campo M "Mezcla" formato="##0"
+  campo FT "Fecha escrita" formato="dd/mm/yyyy"
 fin
 tabla Y hoja="vacas 12"
   campo C
 fin
+encabezado "Casa {X.N} · Año 2026"
 )";
     TablasEnMemoria fuente;
-    fuente.Poner(Tabla("X", {"C", "NT", "N", "F"},
-                       {{T("Ñandú; \"el\"\ngrande"), T("12,5"), N(2.25), F(3, 5, 2026)},
-                        {T("=1+1"), T("( 0 )"), N(-1), F(31, 12, 1899)},
-                        {}}));
+    fuente.Poner(Tabla("X", {"C", "NT", "N", "F", "M", "FT"},
+                       {{T("Ñandú; \"el\"\ngrande"), T("12,5"), N(2.25), F(3, 5, 2026), N(7.4), T("3/5/26")},
+                        {T("=1+1"), T("1.300,5"), N(-1), F(31, 12, 1899), T("( 0 )"), F(4, 5, 2026)},
+                        {{}, T(" ")}}));
     fuente.Poner(Tabla("Y", {"C"}, {{T("a<b>&\x01")}}));
     PeticionInforme peticion;
     peticion.titulo = QStringLiteral(" Prueba");
     return GenerarInforme(LeerDisposicion(texto, "x.rpt"), fuente, peticion);
+}
+
+// Whether two exports say the same. The hour of its making is in a workbook, and in a PDF, in which it is always as long.
+bool Iguales(const QByteArray& uno, const QByteArray& otro) {
+    auto partes = PartesDelZip(uno);
+    auto otras = PartesDelZip(otro);
+    if (!partes || !otras)
+        return uno.size() == otro.size();
+    partes->erase("docProps/core.xml");
+    otras->erase("docProps/core.xml");
+    return *partes == *otras;
+}
+
+// A short sheet, and behind it one of 40 kB, more than anything holds back before it writes.
+InformeTerminado MuestraLarga() {
+    InformeTerminado informe = Muestra();
+    informe.hojas[1] = informe.hojas[0];
+    const auto fila = informe.hojas[0].filas.at(0);
+    informe.hojas[1].filas.resize(1000, fila);
+    return informe;
 }
 
 } // namespace
@@ -93,12 +91,13 @@ private Q_SLOTS:
         const QStringList ficheros = GuardarCsv(Muestra(), destino);
         QCOMPARE(QDir(destino).entryList(QDir::Files),
                  QStringList({QStringLiteral("vacas 12 (2).csv"), QStringLiteral("Vacas 12.csv")}));
-        QCOMPARE(Leer(ficheros.at(0)),
-                 QByteArray("\xEF\xBB\xBF"
-                            "\"Texto; con \"\"signos\"\"\";Número escrito;Número;Fecha\r\n"
-                            "\"Ñandú; \"\"el\"\"\ngrande\";12,5;2,25;03/05/2026\r\n"
-                            "'=1+1;( 0 );-1;31/12/1899\r\n"
-                            ";;;\r\n"));
+        QCOMPARE(
+            Leer(ficheros.at(0)),
+            QByteArray("\xEF\xBB\xBF"
+                       "\"Texto; con \"\"signos\"\"\";Número escrito;Número;Fecha;Mezcla;Fecha escrita\r\n"
+                       "\"Ñandú; \"\"el\"\"\ngrande\";12,5;2,25;03/05/2026;7;03/05/2026\r\n"
+                       "'=1+1;1300,5;-1;31/12/1899;( 0 );04/05/2026\r\n"
+                       ";;;;;\r\n"));
         // A folder that cannot be made: its name is a file's.
         QVERIFY_THROWS_EXCEPTION(ErrorInforme, GuardarCsv(Muestra(), ficheros.at(0)));
     }
@@ -107,28 +106,35 @@ private Q_SLOTS:
         QTemporaryDir carpeta;
         const QString fichero = carpeta.filePath(QStringLiteral("año.xlsx"));
         GuardarXlsx(Muestra(), fichero);
-        const QByteArray zip = Leer(fichero);
-        const QByteArray libro = DelZip(zip, "xl/workbook.xml");
+        const auto partes = PartesDelZip(Leer(fichero)).value();
+        const QByteArray libro = partes.at("xl/workbook.xml");
         QVERIFY(libro.contains("name=\"Vacas 12\"") && libro.contains("name=\"vacas 12 (2)\""));
-        const QByteArray hoja = DelZip(zip, "xl/worksheets/sheet1.xml");
-        const QByteArray textos = DelZip(zip, "xl/sharedStrings.xml");
+        const QByteArray hoja = partes.at("xl/worksheets/sheet1.xml");
+        const QByteArray textos = partes.at("xl/sharedStrings.xml");
         const auto celda = [&](const char* lugar) {
             const QRegularExpression patron(
                 QStringLiteral("<c r=\"%1\"[^>]*?(?:/>|>.*?</c>)").arg(QLatin1String(lugar)));
             return patron.match(QString::fromUtf8(hoja)).captured();
         };
-        QVERIFY(celda("A2").contains(QStringLiteral("t=\"s\"")));
-        QVERIFY2(celda("B2").endsWith(QStringLiteral("<v>12.5</v></c>")),
-                 qPrintable(celda("B2")));                        // a number by its mask
-        QVERIFY(celda("B3").contains(QStringLiteral("t=\"s\""))); // "( 0 )" stays a text
-        QVERIFY(celda("C2").endsWith(QStringLiteral("<v>2.25</v></c>")));
-        QVERIFY(celda("D2").endsWith(QStringLiteral("<v>46145</v></c>")) &&
-                celda("D2").contains(QStringLiteral("s=\"")));
-        QVERIFY(celda("D3").contains(QStringLiteral("t=\"s\""))); // before the format's first day
-        QVERIFY(celda("A4").isEmpty() && celda("C4").isEmpty());
+        QVERIFY(celda("A1").contains(QStringLiteral("t=\"s\"")));
+        QVERIFY(textos.contains("Prueba · Casa 2,25 · Año 2026"));
+        QVERIFY(celda("A3").contains(QStringLiteral("t=\"s\"")) &&
+                celda("A4").contains(QStringLiteral("t=\"s\"")));
+        QVERIFY2(celda("B4").endsWith(QStringLiteral("<v>12.5</v></c>")),
+                 qPrintable(celda("B4"))); // by its mask
+        QVERIFY(celda("B5").endsWith(QStringLiteral("<v>1300.5</v></c>")));
+        QVERIFY(celda("C4").endsWith(QStringLiteral("<v>2.25</v></c>")));
+        QVERIFY(celda("D4").endsWith(QStringLiteral("<v>46145</v></c>")) &&
+                celda("D4").contains(QStringLiteral("s=\"")));
+        QVERIFY(celda("D5").contains(QStringLiteral("t=\"s\""))); // before the format's first day
+        for (const char* mezclada : {"E4", "E5"})                 // one kind per column
+            QVERIFY(celda(mezclada).contains(QStringLiteral("t=\"s\"")));
+        QVERIFY(celda("F4").endsWith(QStringLiteral("<v>46145</v></c>")) &&
+                celda("F5").endsWith(QStringLiteral("<v>46146</v></c>")));
+        QVERIFY(celda("A6").isEmpty() && celda("B6").isEmpty());
         QVERIFY(textos.contains("=1+1") && textos.contains("a&lt;b&gt;&amp;"));
         QVERIFY(!hoja.contains("<f>"));
-        QVERIFY(DelZip(zip, "xl/styles.xml").contains("dd/mm/yy"));
+        QVERIFY(partes.at("xl/styles.xml").contains("dd/mm/yy"));
 
         GuardarXlsx(InformeTerminado(), fichero); // no sheet at all is still a workbook
         QVERIFY(Leer(fichero).startsWith("PK"));
@@ -137,18 +143,73 @@ private Q_SLOTS:
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("año.xlsx")});
     }
 
-    // Sheets carry the rows of the report, not those that it passed over, in its order, with the joined columns beside them.
+    // However much of it the disk takes: the old file as it was and an error that says why, or the new one, whole. Nothing else stays.
+    void DiscoQueSeLlena_data() {
+        QTest::addColumn<QString>("nombre");
+        for (const char* nombre : {"i.pdf", "i.xlsx", "Vacas 12.csv"})
+            QTest::newRow(nombre) << QString::fromUtf8(nombre);
+    }
+    void DiscoQueSeLlena() {
+        QFETCH(QString, nombre);
+        QTemporaryDir carpeta;
+        const InformeTerminado informe = MuestraLarga();
+        const QString fichero = carpeta.filePath(nombre);
+        const auto guardar = [&] {
+            if (nombre.endsWith(QStringLiteral("pdf")))
+                GuardarPdf(informe, fichero);
+            else if (nombre.endsWith(QStringLiteral("xlsx")))
+                GuardarXlsx(informe, fichero);
+            else
+                GuardarCsv(informe, carpeta.path());
+        };
+        guardar();
+        const QByteArray nuevo = Leer(fichero);
+        const QStringList contenido = QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden);
+        // What the largest file on the way takes: of a workbook a part of it, unpacked.
+        qsizetype mayor = 0;
+        for (const QFileInfo& escrito : QDir(carpeta.path()).entryInfoList(QDir::Files))
+            mayor = std::max(mayor, escrito.size());
+        for (const auto& [parte, bytes] : PartesDelZip(nuevo).value_or(std::map<QByteArray, QByteArray>()))
+            mayor = std::max(mayor, bytes.size());
+        int fallos = 0;
+        for (int nivel = 0; nivel <= 24; ++nivel) {
+            QFile viejo(fichero);
+            QVERIFY(viejo.open(QIODevice::WriteOnly) && viejo.write("el de ayer") == 10);
+            viejo.close();
+            QString aviso;
+            {
+                const prueba::DiscoLleno lleno(static_cast<rlim_t>(mayor * nivel / 20));
+                try {
+                    guardar();
+                } catch (const ErrorInforme& e) {
+                    aviso = QString::fromUtf8(e.what());
+                }
+            }
+            QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), contenido);
+            if (aviso.isEmpty()) {
+                QVERIFY(Iguales(Leer(fichero), nuevo));
+                continue;
+            }
+            ++fallos;
+            QCOMPARE(Leer(fichero), QByteArray("el de ayer"));
+            QVERIFY2(aviso.startsWith(QStringLiteral("No se puede escribir el fichero ") + carpeta.path()),
+                     qPrintable(aviso));
+        }
+        QVERIFY2(fallos >= 19 && fallos < 25, qPrintable(QString::number(fallos)));
+    }
+
+    // Sheets carry the rows of the report, not those that it passed over, in its order.
     void FilasDelInforme() {
         PeticionInforme peticion;
-        peticion.formulaSeleccion = "{T_Ganaderos.Id_Ganadero} < 1200004";
+        peticion.formulaSeleccion = "{Ganaderos.Id_Ganadero} < 1200004";
         const InformeTerminado informe = GenerarInforme(
             LeerDisposicionDeFichero(QStringLiteral(PASTORIX_LAYOUTS "/Ganaderos.rpt").toStdString()),
             Registros(60), peticion);
         QCOMPARE(informe.hojas.size(), std::size_t(1));
         QCOMPARE(informe.hojas[0].filas.size(), std::size_t(4));
-        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[0][1]), std::string("Ángel"));
+        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[1][1]), std::string("Covadonga"));
         QCOMPARE(informe.hojas[0].columnas.back().titulo, QStringLiteral("Apellidos del veterinario"));
-        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[0].back()), std::string("Suárez Riesgo"));
+        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[1].back()), std::string("Menéndez Coto"));
     }
 };
 

@@ -25,13 +25,18 @@ Nombres NombresDePrueba() {
         }
         throw ErrorInforme(CodigoInforme::Formula, "desconocido");
     };
+    nombres.parametro = [](std::string_view nombre) { return nombre == "Año" ? 0 : 1; };
     return nombres;
 }
 
-bool Cumple(const std::string& texto, bool campoSolo = false) {
-    return LeerFormula(texto, NombresDePrueba(), campoSolo).Cumple([](RefCampo campo) -> const Valor& {
-        return Celdas[static_cast<std::size_t>(campo.columna)].second;
-    });
+bool Cumple(const std::string& texto, bool deDiseño = false) {
+    static const std::vector<Valor> parametros{std::string("2026"), std::string()};
+    return LeerFormula(texto, NombresDePrueba(), deDiseño)
+        .Cumple(
+            [](RefCampo campo) -> const Valor& {
+                return Celdas[static_cast<std::size_t>(campo.columna)].second;
+            },
+            parametros);
 }
 
 } // namespace
@@ -65,6 +70,9 @@ private Q_SLOTS:
         caso("{X.N}=12 O {X.N}=13 Y {X.T}='0'", true);
         caso("12 = {X.N}", true);
         caso("{X.Blanco} = ' '", true);
+        for (const char* distinta : {"{X.N} = 'doce'", "{X.N} <> 'doce'", "{X.Nombre} < 3", "{X.F} = 'ayer'"})
+            caso(distinta, false); // what cannot be compared is neither equal nor different
+        caso("not {X.N} = 'doce'", true);
     }
     void Respuestas() {
         QFETCH(QString, formula);
@@ -76,6 +84,8 @@ private Q_SLOTS:
         QVERIFY(!Cumple("{X.Nulo}", true));
         QVERIFY(!Cumple("{X.Blanco}", true));
         QVERIFY(Cumple("not {X.Blanco} and {X.N}", true));
+        QVERIFY(Cumple("{?Año} = {X.T} and {?Año} > 2025 and {?Año} and not {?Otro}", true));
+        QVERIFY(!Cumple("{?Año} = {X.Nombre}", true));
     }
 
     void Erroneas_data() {
@@ -83,7 +93,7 @@ private Q_SLOTS:
         for (const char* formula :
              {"{X.T}", "{X.T} <=", "<= '2026'", "{X.T} <= '2026", "{X.T <= '2026'", "{X.T} = '1' and",
               "({X.T} = '1'", "{X.T} = '1')", "{X.T} like '1'", "{X.Otro} = 1", "{X.T} = 1 2",
-              "{X.N} = 'doce'", "{X.F} = 'ayer'", "{X.T} = --1", "'a", "{X.T}=1 or or {X.T}=2"})
+              "{?Año} = '2026'", "{X.T} = --1", "'a", "{X.T}=1 or or {X.T}=2"})
             QTest::newRow(formula) << QString::fromUtf8(formula);
         QTest::newRow("deep") << QString(500, QLatin1Char('(')) + QStringLiteral("{X.T}='1'");
         QTest::newRow("long") << QStringLiteral("{X.T}='1'").repeated(500);

@@ -81,21 +81,33 @@ texto 90 0 30 5 "{X_Temp.M1} kg"
 fin
 fin)",
              "1,0|03/05/2026|03/05/26|2,5|b kg|-7,3");
+        caso("what is missing takes its brackets, and a separator, with it", R"(seccion X_Temp
+detalle 5
+texto 0 0 50 5 "{X_Temp.C1}[ ({X_Temp.M1}, {X_Temp.F1})][[]]"
+texto 50 0 50 5 "{X_Temp.M1} -[ a]"
+fin
+detalle 5 si="{X_Temp.M1} = 'b' or {?AñoRef} <> '2020'"
+texto 0 0 50 5 "[{?AñoRef}]"
+fin
+fin)",
+             "uno (, 03/05/26)[]|uno (b, )[]|b -|2020|dos[]");
         caso("totals skip what is Null", R"(seccion X_Temp
 pie 5
 texto 0 0 50 5 "{Cuenta(X_Temp.N1)} {Cuenta(X_Temp.C2)} {Suma(X_Temp.N1)} {Media(X_Temp.N1):0.00}"
 texto 50 0 50 5 "{Suma(X_Temp.C2)} en total"
 fin
+fin
+banda 5
+texto 0 0 50 5 "{Suma(Hija.Id):0.0}"
 fin)",
-             "3 0 -3,75 -1,25");
-        caso("group in order of appearance", R"(orden X_Temp -N1
-seccion X_Temp
+             "3 0 -3,75 -1,25|4,5");
+        caso("group in order of appearance", R"(seccion X_Temp
 grupo C1
 cabecera 5
-texto 0 0 50 5 "[{X_Temp.C1}"
+texto 0 0 50 5 "[[{X_Temp.C1}"
 fin
 pie 5
-texto 0 0 50 5 "{Cuenta(X_Temp.N1)}: {Suma(X_Temp.N1)}]"
+texto 0 0 50 5 "{Cuenta(X_Temp.N1)}: {Suma(X_Temp.N1)}]]"
 fin
 fin
 detalle 5
@@ -105,7 +117,7 @@ pie 5
 texto 0 0 50 5 "suma {Suma(X_Temp.N1)}"
 fin
 fin)",
-             "[uno|2,5|1|2: 3,5]|[dos|-7,25|1: -7,25]|suma -3,75");
+             "[uno|1|2,5|2: 3,5]|[dos|-7,25|1: -7,25]|suma -3,75");
         caso("conditions", R"(seccion X_Temp donde="{X_Temp.N1} > 0"
 detalle 5 si="{X_Temp.F1}"
 texto 0 0 50 5 "con fecha"
@@ -173,6 +185,45 @@ fin)",
         QCOMPARE(Textos(Hacer(cuerpo.toStdString(), fuente, peticion)), impreso);
     }
 
+    // A total over what is no number is refused; numbers as the program writes them count, blanks do not.
+    void TotalesDeTextos() {
+        const auto suma = [](std::vector<const char*> textos) {
+            std::vector<Fila> filas;
+            for (const char* texto : textos)
+                filas.push_back({{}, {}, T(texto), {}, {}});
+            try {
+                return Textos(
+                    Hacer("banda 5\ntexto 0 0 50 5 \"{Suma(X_Temp.C1):0.00} {Media(X_Temp.C1)}\"\nfin",
+                          Datos(filas)));
+            } catch (const ErrorInforme& e) {
+                return QString::fromUtf8(e.what());
+            }
+        };
+        QCOMPARE(suma({"7,4", " ", "1.200,50", "-3"}), QStringLiteral("1204,90 401,633333333333"));
+        QCOMPARE(suma({"7,4", "( 4 )"}),
+                 QStringLiteral("x.rpt, línea 17: no se puede sumar \"( 4 )\", que no es un número"));
+    }
+
+    // "Nombre - Localidad" without its place, "Teléfono / Móvil" without either.
+    void Limpios_data() {
+        QTest::addColumn<QByteArray>("texto");
+        QTest::addColumn<QByteArray>("limpio");
+        for (const auto& [texto, limpio] : {std::pair{"Ana Gil - ", "Ana Gil"},
+                                            {" / 609 1", "609 1"},
+                                            {"985 / ", "985"},
+                                            {" - ", ""},
+                                            {" - Tineo", "Tineo"},
+                                            {"Ana - Tineo", "Ana - Tineo"},
+                                            {"Casa-", "Casa-"},
+                                            {"", ""},
+                                            {" / - ", ""}})
+            QTest::newRow(texto) << QByteArray(texto) << QByteArray(limpio);
+    }
+    void Limpios() {
+        QFETCH(QByteArray, texto);
+        QTEST(QByteArray::fromStdString(TextoConMascara(texto.toStdString(), "limpio")), "limpio");
+    }
+
     // 277 mm: heading 10 and rows of 10 make 26 rows per page and a rest.
     void CabecerasYPaginas() {
         const std::string cuerpo = R"(pie-pagina 7
@@ -201,6 +252,87 @@ fin)";
         for (const Pagina& pagina : tres.paginas.paginas)
             QCOMPARE(pagina.Textos().first(), QStringLiteral("CABEZA"));
         QCOMPARE(tres.paginas.paginas[1].Textos().at(1), QStringLiteral("27"));
+    }
+
+    // Columns taller than a page go on over the next, each by itself and under its own heading; what follows stands below the one that reaches
+    // furthest.
+    void ColumnasPartidas_data() {
+        QTest::addColumn<int>("primera"); // rows of 50 mm in either column; a page holds 5 under the heading
+        QTest::addColumn<int>("segunda");
+        QTest::addColumn<QString>("impreso");
+        QTest::addColumn<double>("sigue"); // top of what follows, from the top margin
+        QTest::newRow("neither") << 2 << 3 << "A|a1|a2|B|b1|b2|b3|sigue" << 160.0;
+        QTest::newRow("first") << 7 << 2 << "A|a1|a2|a3|a4|a5|B|b1|b2/A|a6|a7|sigue" << 110.0;
+        QTest::newRow("second") << 2 << 6 << "A|a1|a2|B|b1|b2|b3|b4|b5/B|b6|sigue" << 60.0;
+        QTest::newRow("both, first longer")
+            << 8 << 6 << "A|a1|a2|a3|a4|a5|B|b1|b2|b3|b4|b5/A|a6|a7|a8|B|b6|sigue" << 160.0;
+        QTest::newRow("both, second longer")
+            << 6 << 7 << "A|a1|a2|a3|a4|a5|B|b1|b2|b3|b4|b5/A|a6|B|b6|b7|sigue" << 110.0;
+    }
+    void ColumnasPartidas() {
+        QFETCH(int, primera);
+        QFETCH(int, segunda);
+        QFETCH(QString, impreso);
+        QFETCH(double, sigue);
+        std::string cuerpo = "columnas\n";
+        for (const auto& [x, nombre, filas] : {std::tuple{"0", "a", primera}, {"100", "b", segunda}}) {
+            cuerpo += std::string("columna ") + x +
+                      " 90\nseccion X_Temp donde=\"{X_Temp.N1} <= " + std::to_string(filas) +
+                      "\"\ncabecera 10\ntexto 0 0 50 5 \"" + (*nombre == 'a' ? "A" : "B") +
+                      "\"\nfin\ndetalle 50\ntexto 0 0 50 5 \"" + nombre + "{X_Temp.N1}\"\nfin\nfin\nfin\n";
+        }
+        const InformeTerminado informe =
+            Hacer(cuerpo + "fin\nbanda 10\ntexto 0 0 50 5 \"sigue\"\nfin\n", Datos(Filas(9)));
+        QCOMPARE(Textos(informe), impreso);
+        const auto& texto = std::get<TextoColocado>(informe.paginas.paginas.back().trozos.back());
+        QCOMPARE(std::floor(texto.base.y() / 10) * 10 - 10, sigue);
+    }
+
+    // A heading wraps between its words; headings of one line stand beside its last one, a heading over columns above theirs, and the rows
+    // below all of it.
+    void Rejillas() {
+        const std::string cuerpo = R"(seccion X_Temp
+rejilla 10 5 regla=#000000 regla-detalle=#cccccc
+col 20 "Uno" "{X_Temp.N1}" alinear=derecha
+sobre "Ambos"
+col 17 "Días hasta el parto" "{X_Temp.C1}"
+col 20 "Otro" "{X_Temp.C2}"
+fin
+fin
+fin)";
+        const InformeTerminado informe = Hacer(cuerpo, Datos(Filas(1)));
+        std::map<QString, QPointF> lugares;
+        for (const Trozo& trozo : informe.paginas.paginas.at(0).trozos) {
+            if (const auto* texto = std::get_if<TextoColocado>(&trozo))
+                lugares[texto->texto] = texto->base;
+        }
+        QCOMPARE(lugares.size(), std::size_t(8));
+        const double ultima = lugares.at(QStringLiteral("el parto")).y();
+        QCOMPARE(lugares.at(QStringLiteral("Uno")).y(), ultima);
+        QCOMPARE(lugares.at(QStringLiteral("Otro")).y(), ultima);
+        QVERIFY(lugares.at(QStringLiteral("Ambos")).y() < lugares.at(QStringLiteral("Días hasta")).y());
+        QVERIFY(lugares.at(QStringLiteral("fila 1")).y() > ultima + 3);
+        const double centro = lugares.at(QStringLiteral("Ambos")).x();
+        QVERIFY(centro > 10 + 21.5 + 8 && centro < 10 + 21.5 + 37.5 / 2);
+    }
+
+    void FilasDeCifras() {
+        const std::string cuerpo = R"(seccion X_Temp
+filas 5 40 20 20 regla=#cccccc
+titulos "" "Machos" "Hembras"
+fila "Edad" "{X_Temp.N1} d" "{X_Temp.C2}"
+fila "Peso" "{X_Temp.M1} kg" si="{X_Temp.N1} = 1"
+fin
+fin)";
+        const InformeTerminado informe = Hacer(cuerpo, Datos(Filas(2)));
+        QCOMPARE(Textos(informe), QStringLiteral("Machos|Hembras|Edad|1 d|x|Peso|Machos|Hembras|Edad|2 d|x"));
+        const auto& trozos = informe.paginas.paginas.at(0).trozos;
+        QCOMPARE(std::count_if(trozos.begin(), trozos.end(),
+                               [](const Trozo& t) { return std::holds_alternative<CajaColocada>(t); }),
+                 5);
+        const auto& cifra = std::get<TextoColocado>(trozos.at(4));
+        QCOMPARE(cifra.texto, QStringLiteral("1 d"));
+        QVERIFY(std::abs(cifra.base.x() + cifra.ancho - 70) < 0.01);
     }
 
     void BloquesJuntos() {
@@ -238,6 +370,36 @@ fin)";
                  QStringLiteral("de fila 1|1/de fila 1/de fila 1|fin/de fila 2|2/de fila 2/de fila 2|fin"));
     }
 
+    // The pages of each group are numbered by themselves, and the index tells where they and what is in them begin.
+    void GruposConPaginas() {
+        const std::string cuerpo = R"(pie-pagina 7
+texto 0 0 50 5 "{PáginaGrupo} de {PáginasGrupo}, {Página} de {Páginas}"
+fin
+seccion X_Temp
+grupo C2 pagina-nueva indice="Casa {X_Temp.C2}"
+fin
+grupo C1
+fin
+detalle 120
+texto 0 0 50 5 "{X_Temp.N1}"
+fin
+fin)";
+        std::vector<Fila> filas = Filas(3, "a");
+        const std::vector<Fila> otras = Filas(2, "b");
+        filas.insert(filas.end(), otras.begin(), otras.end());
+        filas.push_back({N(9), T("c"), T(" "), {}, {}});
+        const InformeTerminado informe = Hacer(cuerpo, Datos(filas));
+        QCOMPARE(Textos(informe),
+                 QStringLiteral("1|2|1 de 2, 1 de 4/3|2 de 2, 2 de 4/1|2|1 de 1, 3 de 4/9|1 de 1, 4 de 4"));
+        QStringList indice;
+        for (const auto& e : informe.paginas.indice)
+            indice
+                << QStringLiteral("%1%2@%3").arg(QString(e.nivel, QLatin1Char('-')), e.texto).arg(e.pagina);
+        QCOMPARE(indice.join(QLatin1Char('|')),
+                 QStringLiteral(
+                     "Casa a@0|-fila 1@0|-fila 2@0|-fila 3@1|Casa b@2|-fila 1@2|-fila 2@2|Casa c@3|-–@3"));
+    }
+
     // A memo wraps and pushes what stands below it; one taller than the page goes on over the next ones, and no word is lost.
     void TextosQueCrecen() {
         const std::string cuerpo = R"(seccion X_Temp
@@ -250,15 +412,16 @@ fin)";
         QString palabras;
         for (int i = 0; i < 900; ++i)
             palabras += QStringLiteral("palabra%1 ").arg(i);
-        const TablasEnMemoria fuente =
-            Datos({{{}, {}, {}, {}, T("corto")}, {{}, {}, {}, {}, palabras.toStdString()}});
+        const TablasEnMemoria fuente = Datos({{{}, {}, {}, {}, T("Encarnaciónlarguísima-Aculonadísima")},
+                                              {{}, {}, {}, {}, palabras.toStdString()}});
         const InformeTerminado informe = Hacer(cuerpo, fuente);
         QVERIFY(informe.paginas.paginas.size() > 2);
         const QStringList todas =
             Textos(informe).split(QRegularExpression(QStringLiteral("[ |/]")), Qt::SkipEmptyParts);
-        QCOMPARE(todas.size(), 900 + 3);
-        QCOMPARE(todas.at(2), QStringLiteral("palabra0"));
-        QCOMPARE(todas.at(901), QStringLiteral("palabra899"));
+        QCOMPARE(todas.size(), 900 + 4);
+        QCOMPARE(todas.at(0), QStringLiteral("Encarnaciónlarguísima-")); // a long word breaks at its hyphen
+        QCOMPARE(todas.at(3), QStringLiteral("palabra0"));
+        QCOMPARE(todas.at(902), QStringLiteral("palabra899"));
         for (const Pagina& pagina : informe.paginas.paginas) {
             for (const Trozo& trozo : pagina.trozos) {
                 if (const auto* texto = std::get_if<TextoColocado>(&trozo))
@@ -278,20 +441,6 @@ fin)";
             Textos(Hacer(cuerpo, Datos({{N(123456789), {}, T("un texto que no cabe de ninguna manera")}})));
         QVERIFY(impreso.startsWith(QStringLiteral("##")) && !impreso.contains(QStringLiteral("1")));
         QVERIFY(impreso.endsWith(QStringLiteral("…")));
-    }
-
-    void Uniones() {
-        const std::string cuerpo = R"(union Hija con X_Temp por=Id:C1
-orden X_Temp Hija.T
-seccion X_Temp
-detalle 5
-texto 0 0 50 5 "{X_Temp.N1}{Hija.T}"
-fin
-fin)";
-        // Without partner first (blank sorts first); two partners make two rows; Null joins with nothing.
-        QCOMPARE(Textos(Hacer(cuerpo, Datos({{N(1), {}, T("k")}, {N(2), {}, T("z")}, {N(3), {}, {}}},
-                                            {{T("K"), T("ñu")}, {T("k"), T("nube")}, {{}, T("nadie")}}))),
-                 QStringLiteral("2|3|1nube|1ñu"));
     }
 
     void SeleccionYParametros() {

@@ -37,20 +37,19 @@ private Q_SLOTS:
         auto t = Ternero();
         QCOMPARE(CrearCebo(b.c, t), 5.0); // numbered within the farmer's
         QCOMPARE(CrearCebo(b.c, t), 5.0); // it has one
-        QCOMPARE(b.Enlaces(), std::string("5/-"));
+        QCOMPARE(b.Enlaces(), "5/-"s);
         b.c.Execute("UPDATE T_Cebo SET KgCanal = 250 WHERE Id_Cebo = 5");
         const auto conTodo = b.Texto(kCebos);
-        QCOMPARE(conTodo,
-                 std::string("12|4|-|-|-|-|-|-/12|5|Propio|Macho|01/02/26|01/08/26|S1|250/13|9|-|-|-|-|-|-"));
+        QCOMPARE(conTodo, "12|4|-|-|-|-|-|-/12|5|Propio|Macho|01/02/26|01/08/26|S1|250/13|9|-|-|-|-|-|-"s);
         const auto retirado = QuitarCebo(b.c, t);
-        QCOMPARE(b.Enlaces(), std::string("-/-"));
+        QCOMPARE(b.Enlaces(), "-/-"s);
         QCOMPARE(CrearCebo(b.c, t, retirado), 5.0); // whole, its number too
         QCOMPARE(b.Texto(kCebos), conTodo);
         // unless the number went to another animal meanwhile
         QuitarCebo(b.c, t);
         b.Poner("T_Cebo", {{"Id_Ganadero", 12.0}, {"Id_Cebo", 5.0}});
         QCOMPARE(CrearCebo(b.c, t, retirado), 6.0);
-        QCOMPARE(b.Texto("SELECT KgCanal FROM T_Cebo WHERE Id_Cebo = 6"), std::string("250"));
+        QCOMPARE(b.Texto("SELECT KgCanal FROM T_Cebo WHERE Id_Cebo = 6"), "250"s);
         t.parto.nParto = 0;
         QCOMPARE(CrearCebo(b.c, t), 0.0);
     }
@@ -64,14 +63,21 @@ private Q_SLOTS:
         t.fechaDestete.reset();
         t.origen = "Propio";
         QCOMPARE(ActualizarCebo(b.c, t, false), (std::vector<std::string>{"Fecha de entrada", "Origen"}));
-        QCOMPARE(b.Texto("SELECT FechaCebo, Origen FROM T_Cebo WHERE Id_Cebo = 5"),
-                 std::string("01/08/26|Comprado"));
+        QCOMPARE(b.Texto("SELECT FechaCebo, Origen FROM T_Cebo WHERE Id_Cebo = 5"), "01/08/26|Comprado"s);
         ActualizarCebo(b.c, t);
-        QCOMPARE(b.Texto("SELECT FechaCebo, Origen, Sexo FROM T_Cebo WHERE Id_Cebo = 5"),
-                 std::string("-|Propio|macho"));
+        QCOMPARE(b.Texto("SELECT FechaCebo, Origen, Sexo FROM T_Cebo WHERE Id_Cebo = 5"), "-|Propio|macho"s);
         b.c.Execute("UPDATE T_Cebo SET Cambiado = -1 WHERE Id_Cebo = 5");
         t.regSaneam = "S2";
         QVERIFY(ActualizarCebo(b.c, t).empty());
+    }
+
+    void OtroSiglo() {
+        BaseConParto b;
+        CrearCebo(b.c, Ternero());
+        Recordset rs(b.c, "SELECT FechaNac FROM T_Cebo WHERE Id_Cebo = 5");
+        rs["FechaNac"] = Fecha::De(1926, 2, 1);
+        rs.Update();
+        QCOMPARE(ActualizarCebo(b.c, Ternero()), std::vector<std::string>{"Fecha de nacimiento"});
     }
 };
 

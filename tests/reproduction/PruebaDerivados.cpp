@@ -14,7 +14,7 @@ namespace {
 // "parto|real|ipr|primer|último|secado|baja", dates or nothing.
 DatosDeCiclo Datos(const QString& fechas, EstadoReproductivo estado, const char* añoRef,
                    const char* añoBaja) {
-    const auto partes = fechas.split(QLatin1Char('|'));
+    const auto partes = fechas.split(u'|');
     const auto fecha = [&](qsizetype i) { return FechaDeTexto(partes.value(i).toStdString()); };
     return {fecha(0), fecha(1), fecha(2), fecha(3), fecha(4),       fecha(5),
             estado,   añoRef,   fecha(6), añoBaja,  F("22/11/2026")};
@@ -32,15 +32,12 @@ class PruebaDerivados : public QObject {
 
 private Q_SLOTS:
     void Intervalos_data() {
-        QTest::addColumn<QString>("fechas");
-        QTest::addColumn<int>("estado");   // 0 none, 1 pregnant, 2 empty
-        QTest::addColumn<QString>("años"); // of the record, of her last record when she left
-        QTest::addColumn<QString>("iprCp");
-        QTest::addColumn<QString>("iepc");
+        // estado: 0 none, 1 pregnant, 2 empty
+        // años: of the record, of her last record when she left
+        Columnas<QString, int, QString, QString, QString>("fechas", "estado", "años", "iprCp", "iepc");
         const auto fila = [](const char* caso, const char* fechas, int estado, const char* años,
                              const char* iprCp, const char* iepc) {
-            QTest::newRow(caso) << QString::fromUtf8(fechas) << estado << años << QString::fromUtf8(iprCp)
-                                << iepc;
+            Caso(caso, QString::fromUtf8(fechas), estado, años, QString::fromUtf8(iprCp), iepc);
         };
         fila("nothing known", "||||||", 0, "2026|", "No F.IPR", "");
         // in the herd
@@ -68,15 +65,13 @@ private Q_SLOTS:
         QFETCH(int, estado);
         QFETCH(QString, años);
         const auto d = Datos(fechas, static_cast<EstadoReproductivo>(estado),
-                             qUtf8Printable(años.section(QLatin1Char('|'), 0, 0)),
-                             qUtf8Printable(años.section(QLatin1Char('|'), 1)));
+                             qUtf8Printable(años.section(u'|', 0, 0)), qUtf8Printable(años.section(u'|', 1)));
         QTEST(QString::fromStdString(IPR_CP(d)), "iprCp");
         QTEST(QString::fromStdString(Texto(IEPc(d))), "iepc");
     }
 
     void FechasDelProtocolo() {
-        auto d = Datos(QStringLiteral("10/1/26|5/1/26||1/3/26|2/3/26|1/2/26|"), EstadoReproductivo::Preñada,
-                       "2026", "");
+        auto d = Datos(u"10/1/26|5/1/26||1/3/26|2/3/26|1/2/26|"_s, EstadoReproductivo::Preñada, "2026", "");
         QCOMPARE(FechaDG22dias(d), std::optional(F("24/3/26")));
         QCOMPARE(D40PostParto(d), std::optional(F("19/2/26")));
         QCOMPARE(PrimeraFechaIPR(d), std::optional(F("11/3/26")));
@@ -95,21 +90,21 @@ private Q_SLOTS:
     }
 
     void Causas() {
-        QCOMPARE(DescripcionDeCausa(16, "2"), std::string("MortEmbrion 2"));
+        QCOMPARE(DescripcionDeCausa(16, "2"), "MortEmbrion 2"s);
         QCOMPARE(DescripcionDeCausa(5, ""),
-                 std::string("BVD ")); // the blank goes with the companion, empty or not
-        QCOMPARE(DescripcionDeCausa(22, "x"), std::string(". x"));
-        QCOMPARE(DescripcionDeCausa(7, "x"), std::string("ControlRepNo"));
-        QCOMPARE(NombreDeCausa(24) + NombreDeCausa(0) + NombreDeCausa(26), std::string("Libre"));
+                 "BVD "s); // the blank goes with the companion, empty or not
+        QCOMPARE(DescripcionDeCausa(22, "x"), ". x"s);
+        QCOMPARE(DescripcionDeCausa(7, "x"), "ControlRepNo"s);
+        QCOMPARE(NombreDeCausa(24) + NombreDeCausa(0) + NombreDeCausa(26), "Libre"s);
     }
 
     void Destete_data() {
-        QTest::addColumn<QString>("fechas");  // calving, weaning, weighing
-        QTest::addColumn<QString>("pesos");   // birth, weighing
-        QTest::addColumn<QString>("figuras"); // age, weight, gain
+        // fechas: calving, weaning, weighing
+        // pesos: birth, weighing
+        // figuras: age, weight, gain
+        Columnas<QString, QString, QString>("fechas", "pesos", "figuras");
         const auto fila = [](const char* caso, const char* fechas, const char* pesos, const char* figuras) {
-            QTest::newRow(caso) << QString::fromUtf8(fechas) << QString::fromUtf8(pesos)
-                                << QString::fromUtf8(figuras);
+            Caso(caso, QString::fromUtf8(fechas), QString::fromUtf8(pesos), QString::fromUtf8(figuras));
         };
         fila("weighed at weaning", "1/1/26|30/6/26|30/6/26", "40|220", "180|220|1000");
         fila("carried along the line", "1/1/26|30/6/26|10/7/26", "40|230", "180|220|1000");
@@ -130,18 +125,16 @@ private Q_SLOTS:
         QFETCH(QString, fechas);
         QFETCH(QString, pesos);
         const auto fecha = [&](qsizetype i) {
-            return FechaDeTexto(fechas.section(QLatin1Char('|'), i, i).toStdString());
+            return FechaDeTexto(fechas.section(u'|', i, i).toStdString());
         };
-        const auto f = CalcularDestete({fecha(0), fecha(1), fecha(2),
-                                        pesos.section(QLatin1Char('|'), 0, 0).toStdString(),
-                                        pesos.section(QLatin1Char('|'), 1).toStdString()});
+        const auto f = CalcularDestete({fecha(0), fecha(1), fecha(2), pesos.section(u'|', 0, 0).toStdString(),
+                                        pesos.section(u'|', 1).toStdString()});
         QTEST(QString::fromStdString(f.edadDestete + "|" + f.pesoDestete + "|" + f.gDestete), "figuras");
     }
 
     void CerosMostrados() {
-        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false),
-                 std::string("010"));
-        QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), std::string("-5"));
+        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false), "010"s);
+        QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), "-5"s);
     }
 
     // The ends of what is possible are possible.
@@ -155,7 +148,7 @@ private Q_SLOTS:
         const auto edades = [](const char* d) { return ReparoDeEdadDestete(d).empty(); };
         QVERIFY(!edades("59") && edades("60") && edades("400") && !edades("401") && !edades("-3") &&
                 edades(""));
-        QCOMPARE(ReparoDeEdadDestete("30"), std::string("Destete de 30 días: lo posible va de 60 a 400"));
+        QCOMPARE(ReparoDeEdadDestete("30"), "Destete de 30 días: lo posible va de 60 a 400"s);
         const auto servicio = [](const char* d, const char* parto, const char* baja) {
             return ReparoDeServicio(F(d), FechaDeTexto(parto), FechaDeTexto(baja)).empty();
         };

@@ -24,7 +24,7 @@ private Q_SLOTS:
         QVERIFY(AltaParto(b.c, kCiclo, F("1/2/26"), "Ares-C"));
         QVERIFY(!AltaParto(b.c, kCiclo, F("9/9/26"), "Otro"));
         QVERIFY(AltaParto(b.c, {8, 0, 2026, 0, {}, false}, {}, "Ares-C")); // the sire comes with a date alone
-        QCOMPARE(b.Texto(kFilas), std::string("1|7|01/02/26|-|Ares-C/2|8|-|-|-"));
+        QCOMPARE(b.Texto(kFilas), "1|7|01/02/26|-|Ares-C/2|8|-|-|-"s);
     }
 
     void Mellizos() {
@@ -33,24 +33,20 @@ private Q_SLOTS:
         const double segundo = CrearMellizo(b.c, kCiclo, 1, F("1/2/26"), "2 Machos");
         QCOMPARE(FilasDeParto(b.c, kCiclo), (std::vector<double>{1, segundo}));
         // another cow's calving of the same numbers, and fattening records of one number: of another farm, of another calf
-        b.Poner("T_Partos", {{"Id_Parto", 1.0},
-                             {"Id_Vaca", 9.0},
-                             {"Año_Ref", 2026},
-                             {"N_Parto", 3},
-                             {"Gemelar", "2 Hembras"}});
-        b.Poner("T_Partos", {{"Id_Parto", segundo},
-                             {"Id_Vaca", 9.0},
-                             {"Año_Ref", 2026},
-                             {"N_Parto", 3},
-                             {"Gemelar", "2 Hembras"}});
+        for (const double id : {1.0, segundo})
+            b.Poner("T_Partos", {{"Id_Parto", id},
+                                 {"Id_Vaca", 9.0},
+                                 {"Año_Ref", 2026},
+                                 {"N_Parto", 3},
+                                 {"Gemelar", "2 Hembras"}});
         b.Poner("T_Cebo", {{"Id_Ganadero", 12.0}, {"Id_Cebo", 4.0}, {"Id_Vaca", 7.0}});
         b.Poner("T_Cebo", {{"Id_Ganadero", 13.0}, {"Id_Cebo", 4.0}, {"Id_Vaca", 7.0}});
         b.Poner("T_Cebo", {{"Id_Ganadero", 12.0}, {"Id_Cebo", 5.0}, {"Id_Vaca", 9.0}});
         b.c.Execute("UPDATE T_Partos SET Id_Cebo = 4 WHERE Id_Vaca = 7");
         QuitarMellizo(b.c, kCiclo, 12, 1, segundo);
-        QCOMPARE(b.Texto(kFilas), std::string("1|7|01/02/26|No|-/1|9|-|2 Hembras|-/2|9|-|2 Hembras|-"));
+        QCOMPARE(b.Texto(kFilas), "1|7|01/02/26|No|-/1|9|-|2 Hembras|-/2|9|-|2 Hembras|-"s);
         QCOMPARE(b.Texto("SELECT Id_Ganadero, Id_Cebo FROM T_Cebo ORDER BY Id_Cebo, Id_Ganadero"),
-                 std::string("13|4/12|5"));
+                 "13|4/12|5"s);
         b.c.Execute("DELETE FROM T_Partos WHERE Id_Vaca = 7");
         QVERIFY_EXCEPTION_THROWN(CrearMellizo(b.c, kCiclo, 1, {}, "2 Machos"), ErrorAlmacen);
     }

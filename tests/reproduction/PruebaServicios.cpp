@@ -34,7 +34,7 @@ class PruebaServicios : public QObject {
 private Q_SLOTS:
     void CuatroLineas() {
         BaseConServicios b;
-        QCOMPARE(SiguienteServicio(b.c, kCiclo), std::string("1"));
+        QCOMPARE(SiguienteServicio(b.c, kCiclo), "1"s);
         for (const int n : {6, 1, 2, 5, 3, 4})
             b.Servicio(n);
         const auto todos = LeerServicios(b.c, kCiclo);
@@ -42,10 +42,10 @@ private Q_SLOTS:
         std::string numeros;
         for (const auto& l : lineas)
             numeros += l.celdas[servicio::Numero];
-        QCOMPARE(numeros, std::string("1236"));
-        QCOMPARE(ServiciosSinSitio(todos), std::string("4, 5"));
+        QCOMPARE(numeros, "1236"s);
+        QCOMPARE(ServiciosSinSitio(todos), "4, 5"s);
         QCOMPARE(ServiciosSinSitio(lineas), std::string());
-        QCOMPARE(SiguienteServicio(b.c, kCiclo), std::string("7"));
+        QCOMPARE(SiguienteServicio(b.c, kCiclo), "7"s);
     }
 
     // The set is rewritten: other cycles stay, lines without number go, what no column takes undoes all of it.
@@ -69,69 +69,38 @@ private Q_SLOTS:
         GuardarServicios(b.c, kCiclo, lineas);
         const auto escrito = b.Texto(sql);
         QCOMPARE(escrito,
-                 std::string(
-                     "2|1|-|-|-|-|-/2|1|-|-|-|-|-/3|1|pronto|-|-|-|-/3|2|31/2/26|O'Toro|No|01/02/26|57001"));
+                 "2|1|-|-|-|-|-/2|1|-|-|-|-|-/3|1|pronto|-|-|-|-/3|2|31/2/26|O'Toro|No|01/02/26|57001"s);
         lineas[1].celdas[servicio::NumeroInsem] = "dos";
         QVERIFY_EXCEPTION_THROWN(GuardarServicios(b.c, kCiclo, lineas), ErrorAlmacen);
         QCOMPARE(b.Texto(sql), escrito);
     }
 
     void Inseminaciones_data() {
-        QTest::addColumn<QString>("tipo");  // chosen
-        QTest::addColumn<QString>("linea"); // "kind|count" of the line in hand; "" a new one
-        QTest::addColumn<QString>("hay");   // counts in the table
-        QTest::addColumn<QString>("numero");
-        QTest::newRow("first") << "1 Insem"
-                               << ""
-                               << ""
-                               << "1";
-        QTest::newRow("one more") << "1 InsCelo"
-                                  << ""
-                                  << "3,1"
-                                  << "4";
-        QTest::newRow("natural, none yet") << "Cubrición"
-                                           << ""
-                                           << ""
-                                           << "0";
-        QTest::newRow("natural keeps the count") << "Cubrición"
-                                                 << ""
-                                                 << "2,1"
-                                                 << "2";
-        QTest::newRow("line of none") << "2 Insem"
-                                      << "Cubrición|"
-                                      << "2"
-                                      << "1";
-        QTest::newRow("stays an insemination") << "2 Insem"
-                                               << "1 Insem|3"
-                                               << "3"
-                                               << "3";
-        QTest::newRow("becomes one") << "1 Insem"
-                                     << "Cubrición|3"
-                                     << "3"
-                                     << "4";
-        QTest::newRow("natural of none") << "Cubrición"
-                                         << "1 Insem|0"
-                                         << "3"
-                                         << "0";
-        QTest::newRow("natural stays") << "Cubrición"
-                                       << "Cubrición|3"
-                                       << "3"
-                                       << "3";
-        QTest::newRow("becomes natural") << "Cubrición"
-                                         << "1 Insem|3"
-                                         << "3"
-                                         << "2";
+        // tipo: chosen
+        // linea: "kind|count" of the line in hand; "" a new one
+        // hay: counts in the table
+        Columnas<QString, QString, QString, QString>("tipo", "linea", "hay", "numero");
+        Caso("first", "1 Insem", "", "", "1");
+        Caso("one more", "1 InsCelo", "", "3,1", "4");
+        Caso("natural, none yet", "Cubrición", "", "", "0");
+        Caso("natural keeps the count", "Cubrición", "", "2,1", "2");
+        Caso("line of none", "2 Insem", "Cubrición|", "2", "1");
+        Caso("stays an insemination", "2 Insem", "1 Insem|3", "3", "3");
+        Caso("becomes one", "1 Insem", "Cubrición|3", "3", "4");
+        Caso("natural of none", "Cubrición", "1 Insem|0", "3", "0");
+        Caso("natural stays", "Cubrición", "Cubrición|3", "3", "3");
+        Caso("becomes natural", "Cubrición", "1 Insem|3", "3", "2");
     }
     void Inseminaciones() {
         QFETCH(QString, tipo);
         QFETCH(QString, linea);
         QFETCH(QString, hay);
         BaseConServicios b;
-        for (const auto& n : hay.split(QLatin1Char(','), Qt::SkipEmptyParts))
+        for (const auto& n : hay.split(u',', Qt::SkipEmptyParts))
             b.Servicio(1, "1 Insem", n.toInt());
         Linea l{std::vector<std::string>(10), {}, {}};
-        l.celdas[servicio::Tipo] = linea.section(QLatin1Char('|'), 0, 0).toStdString();
-        l.celdas[servicio::NumeroInsem] = linea.section(QLatin1Char('|'), 1).toStdString();
+        l.celdas[servicio::Tipo] = linea.section(u'|', 0, 0).toStdString();
+        l.celdas[servicio::NumeroInsem] = linea.section(u'|', 1).toStdString();
         QTEST(QString::fromStdString(
                   NumeroDeInseminacion(b.c, kCiclo, tipo.toStdString(), linea.isEmpty() ? nullptr : &l)),
               "numero");
@@ -146,7 +115,7 @@ private Q_SLOTS:
         std::string todo;
         for (const auto& f : fechas)
             todo += f.nombre + "=" + f.fecha + ";";
-        QCOMPARE(todo, std::string("Prim.Nov=;Inv.Nov=15/11/25;Fecha Parto+60d=01/03/26;"));
+        QCOMPARE(todo, "Prim.Nov=;Inv.Nov=15/11/25;Fecha Parto+60d=01/03/26;"s);
     }
 
     // The chain goes by parity; where one stands in two years, by year.
@@ -158,10 +127,10 @@ private Q_SLOTS:
             const auto v = CicloVecino(b.c, "T_Cubriciones", {7, 0, año, parto, {}, false}, parto, paso);
             return v ? std::to_string(*v->añoRef) + "/" + std::to_string(*v->nParto) : std::string();
         };
-        QCOMPARE(vecino(2023, 2, 1), std::string("2024/3"));
-        QCOMPARE(vecino(2027, 4, -1), std::string("2026/3"));
+        QCOMPARE(vecino(2023, 2, 1), "2024/3"s);
+        QCOMPARE(vecino(2027, 4, -1), "2026/3"s);
         QCOMPARE(vecino(2027, 4, 1), std::string());
-        QCOMPARE(vecino(2025, 2, 1), std::string("2026/3"));
+        QCOMPARE(vecino(2025, 2, 1), "2026/3"s);
         QCOMPARE(OtrosAñosDeParidad(b.c, "T_Cubriciones", {7, 0, 2024, 3, {}, false}),
                  std::vector<int>{2026});
     }
@@ -173,13 +142,13 @@ private Q_SLOTS:
         QVERIFY(AltaCubricion(b.c, {7, 0, 2027, 0, {}, false}, {}));
         QCOMPARE(b.Texto("SELECT Id_Cubricion, Año_Ref, N_Parto, Fecha_Parto FROM T_Cubriciones ORDER BY "
                          "Id_Cubricion"),
-                 std::string("1|2026|3|01/02/26/2|2027|0|-"));
+                 "1|2026|3|01/02/26/2|2027|0|-"s);
         b.Poner("T_Servicios", {{"Id_Vaca", 7.0}, {"Año_Ref", 2026}, {"N_Parto", 3}, {"N_Servicio", 1}});
         b.Poner("T_CCVacas", {{"Id_Vaca", 7.0}, {"AñoRef", 2026}, {"NumParto", 3}});
         b.Poner("T_CCVacas", {{"Id_Vaca", 7.0}, {"AñoRef", 2025}, {"NumParto", 3}});
         LlevarAParidad(b.c, kCiclo, 4);
-        QCOMPARE(b.Texto("SELECT N_Parto FROM T_Servicios"), std::string("4"));
-        QCOMPARE(b.Texto("SELECT NumParto FROM T_CCVacas ORDER BY AñoRef"), std::string("3/4"));
+        QCOMPARE(b.Texto("SELECT N_Parto FROM T_Servicios"), "4"s);
+        QCOMPARE(b.Texto("SELECT NumParto FROM T_CCVacas ORDER BY AñoRef"), "3/4"s);
     }
 };
 

@@ -6,8 +6,6 @@
 #include "registers/datos/VacaEnMano.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QTableWidget>
 
 namespace prueba {
 
@@ -26,27 +24,30 @@ struct PuestoDeCiclos : PuestoDeFichas {
         QApplication::setKeyboardInputInterval(1); // letters in lists stand for themselves
     }
     static pastorix::CicloDeVaca Ciclo(int año, int parto) { return {1200001, 0, año, parto, {}, false}; }
-    void PonerCubricion(int año, int parto, Base::Fila fila = {}) {
-        pastorix::Recordset rs(sesion.conexion, "SELECT * FROM T_Cubriciones");
-        rs.AddNew();
-        rs["Id_Cubricion"] = año * 100 + parto;
-        rs["Id_Vaca"] = 1200001.0;
-        rs["Año_Ref"] = año;
-        rs["N_Parto"] = parto;
-        for (const auto& [campo, valor] : fila)
-            rs[campo] = valor;
-        rs.Update();
+    void PonerCubricion(int año, int parto, const char* fila = "") {
+        PonerCiclo("T_Cubriciones", "Id_Cubricion", año * 100 + parto, año, parto, 1200001, fila);
     }
-    void PonerParto(int año, int parto, double id, Base::Fila fila = {}, double idVaca = 1200001) {
-        pastorix::Recordset rs(sesion.conexion, "SELECT * FROM T_Partos");
-        rs.AddNew();
-        rs["Id_Parto"] = id;
-        rs["Id_Vaca"] = idVaca;
-        rs["Año_Ref"] = año;
-        rs["N_Parto"] = parto;
-        for (const auto& [campo, valor] : fila)
-            rs[campo] = valor;
-        rs.Update();
+    void PonerParto(int año, int parto, double id, const char* fila = "", double idVaca = 1200001) {
+        PonerCiclo("T_Partos", "Id_Parto", id, año, parto, idVaca, fila);
+    }
+    void PonerServicio(int n, const char* fecha) {
+        Poner("T_Servicios", {{"Id_Vaca", 1200001.0},
+                              {"Año_Ref", 2026},
+                              {"N_Parto", 3},
+                              {"N_Servicio", n},
+                              {"Fecha_Servicio", *fecha ? pastorix::Valor(fecha) : pastorix::Valor()}});
+    }
+
+private:
+    void PonerCiclo(const char* tabla, const char* clave, double id, int año, int parto, double idVaca,
+                    const QString& fila) {
+        Poner(tabla, qUtf8Printable(QStringLiteral("%1=%2, Id_Vaca=%3, Año_Ref=%4, N_Parto=%5")
+                                        .arg(clave)
+                                        .arg(id, 0, 'f', 0)
+                                        .arg(idVaca, 0, 'f', 0)
+                                        .arg(año)
+                                        .arg(parto) +
+                                    (fila.isEmpty() ? fila : QStringLiteral(", ") + fila)));
     }
 };
 

@@ -5,27 +5,24 @@
 #include "frame/selector/SentenciasSelector.h"
 
 using namespace pastorix;
-using prueba::Granjas;
+using namespace prueba;
 
 class PruebaFiltroSelector : public QObject {
     Q_OBJECT
 
     Granjas m_base;
 
-    std::vector<ColumnaDeFiltro> Columnas(const SentenciaDeLista& s) {
+    std::vector<ColumnaDeFiltro> DeFiltro(const SentenciaDeLista& s) {
         return ColumnasDeFiltro(Recordset(m_base.c, s.Completa(), Cursor::Estatico, Bloqueo::SoloLectura), s);
     }
 
 private Q_SLOTS:
     // One box of the cows' list: the condition, and the cows that it leaves ("!" when the store refuses it).
     void Vacas_data() {
-        QTest::addColumn<QString>("columna");
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("filtro");
-        QTest::addColumn<QString>("vacas");
+        Columnas<QString, QString, QString, QString>("columna", "texto", "filtro", "vacas");
         const auto fila = [](const char* nombre, const char* columna, const char* texto, const char* filtro,
                              const char* vacas) {
-            QTest::newRow(nombre) << QString(columna) << QString(texto) << QString(filtro) << QString(vacas);
+            Caso(nombre, QString(columna), QString(texto), QString(filtro), QString(vacas));
         };
         const char* todas = "Luna/Luna Nueva/Ñora/Estrella";
         fila("nothing", "Vaca", "", "", todas);
@@ -62,7 +59,7 @@ private Q_SLOTS:
         QFETCH(QString, filtro);
         QFETCH(QString, vacas);
         const auto sentencia = SentenciaVacas();
-        const auto columnas = Columnas(sentencia);
+        const auto columnas = DeFiltro(sentencia);
         std::vector<std::string> textos(columnas.size());
         for (std::size_t i = 0; i < columnas.size(); ++i)
             if (columnas[i].nombre == columna.toStdString())
@@ -81,63 +78,38 @@ private Q_SLOTS:
 
     void LasCondicionesVanEnElOrdenDeLasColumnas() {
         const auto sentencia = SentenciaVacas(12.0);
-        const auto columnas = Columnas(sentencia);
+        const auto columnas = DeFiltro(sentencia);
         std::vector<std::string> textos(columnas.size());
         textos[11] = "x"; // no date: nothing
         textos[8] = "451*";
         textos[7] = "*u*";
         const auto filtro = TextoDelFiltro(columnas, textos);
-        QCOMPARE(filtro, std::string("T_Vacas.Nombre LIKE '%u%' AND T_Vacas.Crotal LIKE '%451%'"));
-        QCOMPARE(m_base.Columna(sentencia.Completa(filtro), "Vaca"), std::string("Luna/Luna Nueva"));
+        QCOMPARE(filtro, "T_Vacas.Nombre LIKE '%u%' AND T_Vacas.Crotal LIKE '%451%'"s);
+        QCOMPARE(m_base.Columna(sentencia.Completa(filtro), "Vaca"), "Luna/Luna Nueva"s);
     }
 
     // The expression's first column stands for the computed name.
     void ElNombreCalculadoSeBuscaPorSuColumna() {
         for (const auto clase : {VeterinarioDeLista::NombreYApellidos, VeterinarioDeLista::SoloNombre}) {
             const auto sentencia = SentenciaGanaderos(clase);
-            const auto filtro = TextoDelFiltro(Columnas(sentencia), {"e*"});
-            QCOMPARE(filtro, std::string("T_Veterinarios.NombreVet LIKE 'e%'"));
-            QCOMPARE(m_base.Columna(sentencia.Completa(filtro), "Apodo"), std::string("Casa Pola"));
+            const auto filtro = TextoDelFiltro(DeFiltro(sentencia), {"e*"});
+            QCOMPARE(filtro, "T_Veterinarios.NombreVet LIKE 'e%'"s);
+            QCOMPARE(m_base.Columna(sentencia.Completa(filtro), "Apodo"), "Casa Pola"s);
         }
-    }
-
-    void Teclas_data() {
-        QTest::addColumn<int>("tipo");
-        QTest::addColumn<QString>("pasan");
-        QTest::newRow("text") << TipoTexto << "0129/<=>*,.'aÑ -";
-        QTest::newRow("date") << TipoFecha << "0129/";
-        QTest::newRow("number") << TipoNumero << "0129<=>";
-    }
-    void Teclas() {
-        QFETCH(int, tipo);
-        QFETCH(QString, pasan);
-        for (const QChar c : QStringLiteral("0129/<=>*,.'aÑ -"))
-            QCOMPARE(TeclaDeFiltro(tipo, c.unicode()), pasan.contains(c));
     }
 
     // Statements as the sheets write them, with the names that conditions may use.
     void Partes_data() {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<QString>("donde");
-        QTest::addColumn<QString>("orden");
-        QTest::addColumn<QString>("campos");
-        QTest::newRow("all parts") << "Select A.x, y As z From A where A.x = 'order by' order  by z"
-                                   << " where A.x = 'order by'"
-                                   << " order  by z"
-                                   << "A.x|y";
-        QTest::newRow("no condition") << "SELECT Apodo,[T].[Où], T!q AS r FROM T ORDER BY Nombre, Apellidos"
-                                      << ""
-                                      << " ORDER BY Nombre, Apellidos"
-                                      << "Apodo|[T].[Où]|T!q";
-        QTest::newRow("bare") << "SELECT * FROM T"
-                              << ""
-                              << ""
-                              << "*";
-        QTest::newRow("functions and literals") << "SELECT chr(13) & T.a & 'x, FROM y' AS b, Year(T.f), 'k' "
-                                                   "FROM (T LEFT JOIN U ON T.a = U.a) WHERE (a = 1)"
-                                                << " WHERE (a = 1)"
-                                                << ""
-                                                << "T.a|T.f|";
+        Columnas<QString, QString, QString, QString>("texto", "donde", "orden", "campos");
+        Caso("all parts", "Select A.x, y As z From A where A.x = 'order by' order  by z",
+             " where A.x = 'order by'", " order  by z", "A.x|y");
+        Caso("no condition", "SELECT Apodo,[T].[Où], T!q AS r FROM T ORDER BY Nombre, Apellidos", "",
+             " ORDER BY Nombre, Apellidos", "Apodo|[T].[Où]|T!q");
+        Caso("bare", "SELECT * FROM T", "", "", "*");
+        Caso("functions and literals",
+             "SELECT chr(13) & T.a & 'x, FROM y' AS b, Year(T.f), 'k' "
+             "FROM (T LEFT JOIN U ON T.a = U.a) WHERE (a = 1)",
+             " WHERE (a = 1)", "", "T.a|T.f|");
     }
     void Partes() {
         QFETCH(QString, texto);
@@ -160,8 +132,8 @@ private Q_SLOTS:
     void LaTablaSePoneDelante() {
         for (const char* texto :
              {"SELECT Id_Ganadero, Apodo AS A FROM T_Ganaderos", "SELECT * FROM T_Ganaderos"}) {
-            const auto columnas = Columnas(PartirSentencia(texto));
-            QCOMPARE(columnas[0].campo, std::string("T_Ganaderos.Id_Ganadero"));
+            const auto columnas = DeFiltro(PartirSentencia(texto));
+            QCOMPARE(columnas[0].campo, "T_Ganaderos.Id_Ganadero"s);
             QCOMPARE(columnas[0].tipo, TipoNumero);
             QCOMPARE(columnas[1].campo,
                      std::string(columnas.size() == 2 ? "T_Ganaderos.Apodo" : "T_Ganaderos.DNI"));

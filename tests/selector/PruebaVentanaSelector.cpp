@@ -2,21 +2,22 @@
 
 #include "Granjas.h"
 #include "frame/Cajas.h"
+#include "frame/Ultimos.h"
 #include "frame/selector/GridSelector.h"
 #include "frame/selector/Selector.h"
 #include "frame/selector/SentenciasSelector.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTimer>
 #include <QToolButton>
 
 using namespace pastorix;
-using prueba::Granjas;
+using namespace prueba;
 
 class PruebaVentanaSelector : public QObject {
     Q_OBJECT
@@ -29,7 +30,9 @@ class PruebaVentanaSelector : public QObject {
                 qCritical("the selector does not become active");
             rejilla = s.findChild<GridSelector*>("GridSelector");
         }
-        QLineEdit* Caja(int i) const { return s.findChild<QLineEdit*>(QStringLiteral("CTexto(%1)").arg(i)); }
+        QLineEdit* Buscar() const { return s.findChild<QLineEdit*>("Buscar"); }
+        QLabel* Titulo(int i) const { return s.findChild<QLabel*>(u"Et_Estandar(%1)"_s.arg(i)); }
+        QLineEdit* Caja(int i) const { return s.findChild<QLineEdit*>(u"CTexto(%1)"_s.arg(i)); }
         QString Estado() const { return s.findChild<QLabel*>("Estado")->text(); }
         QString Celda(int fila, int columna) const {
             return rejilla->model()->index(fila, columna).data().toString();
@@ -72,14 +75,14 @@ class PruebaVentanaSelector : public QObject {
 private Q_SLOTS:
     void TeclasDeUnaEleccion() {
         Escena e(TipoSelector::MadresParaVacas, Vacas());
-        QCOMPARE(e.s.windowTitle(), QString(" Selector de Vacas"));
-        QCOMPARE(e.s.focusWidget(), e.Caja(1)); // the first text
+        QCOMPARE(e.s.windowTitle(), u" Selector de Vacas"_s);
+        QCOMPARE(e.s.focusWidget(), e.Buscar());
         QVERIFY(e.rejilla->currentIndex().isValid());
         QTest::keyClicks(e.Caja(1), "cuesta");
         QCOMPARE(e.rejilla->model()->rowCount(), 4); // nothing before Enter
         QTest::keyClick(e.Caja(1), Qt::Key_Return);
-        QCOMPARE(e.Columna(7), QString("Estrella"));
-        QCOMPARE(e.Estado(), QString("1 registro"));
+        QCOMPARE(e.Columna(7), u"Estrella"_s);
+        QCOMPARE(e.Estado(), u"1 registro, 1 de baja"_s);
         QVERIFY(e.s.isVisible());
         QTest::keyClick(e.Caja(1), Qt::Key_Down);
         QCOMPARE(e.s.focusWidget(), e.rejilla);
@@ -88,8 +91,8 @@ private Q_SLOTS:
         const auto& r = e.s.Resultado();
         QCOMPARE(int(r.fin), 0);
         QCOMPARE(r.clave, 57000001.0);
-        QCOMPARE(r.texto, std::string("Estrella"));
-        QCOMPARE(TextoDe(r.De("CROTAL")), std::string("ES0300001245"));
+        QCOMPARE(r.texto, "Estrella"s);
+        QCOMPARE(TextoDe(r.De("CROTAL")), "ES0300001245"s);
         QVERIFY(EsNulo(r.De("no tal campo")));
     }
 
@@ -104,49 +107,37 @@ private Q_SLOTS:
         QCOMPARE(e.s.Resultado().texto, std::string()); // only kinds 14 and 17 have a text
     }
 
-    void EscapeEnCualquierSitio_data() {
-        QTest::addColumn<QString>("foco");
-        for (const char* foco : {"CTexto(4)", "GridSelector", "BarraHerr(1)"})
-            QTest::newRow(foco) << foco;
-    }
     void EscapeEnCualquierSitio() {
-        QFETCH(QString, foco);
-        Escena e(TipoSelector::PadresParaVacas, "12");
-        auto* control = e.s.findChild<QWidget*>(foco);
-        control->setFocus();
-        QCOMPARE(e.s.focusWidget(), control);
-        QTest::keyClick(control, Qt::Key_Escape);
-        QVERIFY(!e.s.isVisible());
-        QCOMPARE(int(e.s.Resultado().fin), 27);
-        QVERIFY(e.s.Resultado().fila.empty());
-    }
-    void CerrarNoEsEscape() {
-        Escena e(TipoSelector::Ganaderos);
-        e.s.close();
-        QCOMPARE(int(e.s.Resultado().fin), 0);
-        QVERIFY(e.s.Resultado().fila.empty());
+        for (const QString foco : {"CTexto(4)", "GridSelector", "BarraHerr(1)", ""}) {
+            Escena e(TipoSelector::PadresParaVacas, "12");
+            if (auto* control = foco.isEmpty() ? nullptr : e.s.findChild<QWidget*>(foco)) {
+                control->setFocus();
+                QCOMPARE(e.s.focusWidget(), control);
+                QTest::keyClick(control, Qt::Key_Escape);
+            } else {
+                e.s.close(); // no Escape
+            }
+            QVERIFY(!e.s.isVisible());
+            QCOMPARE(int(e.s.Resultado().fin), foco.isEmpty() ? 0 : 27);
+            QVERIFY(e.s.Resultado().fila.empty());
+        }
     }
 
-    void UnFiltroMalHechoDejaLaLista_data() {
-        QTest::addColumn<int>("caja");
-        QTest::addColumn<QString>("texto");
-        QTest::newRow("comparison with nothing") << 4 << ">";
-        QTest::newRow("apostrophe") << 7 << "O'Hara";
-    }
     void UnFiltroMalHechoDejaLaLista() {
-        QFETCH(int, caja);
-        QFETCH(QString, texto);
         Escena e(TipoSelector::Vacas, Vacas());
         e.Filtrar(8, "45");
         e.rejilla->selectRow(1);
-        QCOMPARE(e.Columna(7), QString("Ñora/Estrella"));
-        e.Filtrar(caja, texto);
-        QCOMPARE(e.Caja(caja)->text(), texto);
-        QCOMPARE(e.Columna(7), QString("Ñora/Estrella"));
-        QCOMPARE(e.rejilla->currentIndex().row(), 1);
-        QVERIFY(e.Estado().contains("no es correcto"));
-        e.Filtrar(caja, "");
-        QCOMPARE(e.Estado(), QString("2 registros"));
+        for (const auto& [caja, texto] : {std::pair{4, ">"}, {7, "O'Hara"}}) {
+            QCOMPARE(e.Columna(7), u"Ñora/Estrella"_s);
+            e.Filtrar(caja, texto);
+            QCOMPARE(e.Caja(caja)->text(), QString(texto));
+            QCOMPARE(e.Columna(7), u"Ñora/Estrella"_s);
+            QCOMPARE(e.rejilla->currentIndex().row(), 1);
+            QVERIFY(e.Estado().contains("no es correcto"));
+            e.Filtrar(caja, "");
+            QCOMPARE(e.Estado(), u"2 registros, 1 de baja"_s);
+            e.rejilla->selectRow(1);
+        }
     }
 
     void LasCajasSoloDejanPasarLoSuyo() {
@@ -160,7 +151,7 @@ private Q_SLOTS:
         QTest::keyClicks(e.Caja(4), "12");
         QTest::keyClick(e.Caja(4), Qt::Key_Backspace);
         e.Caja(4)->insert(" OR 1=1"); // as pasted
-        QCOMPARE(e.Caja(4)->text(), QString("1"));
+        QCOMPARE(e.Caja(4)->text(), u"1"_s);
     }
 
     void LosTorosDeBaja() {
@@ -168,21 +159,160 @@ private Q_SLOTS:
         auto* boton = e.s.findChild<QToolButton*>("BarraHerr(1)");
         QVERIFY(boton->isEnabled());
         QCOMPARE(boton->text(), QString());
-        QCOMPARE(e.Columna(6), QString("Ares-C/Ajeno-C/Imán-C"));
+        QCOMPARE(e.Columna(6), u"Ares-C/Ajeno-C/Imán-C"_s);
         boton->setFocus();
         QTest::keyClick(boton, Qt::Key_Space);
-        QCOMPARE(boton->toolTip(), QString(" Accionado "));
-        QCOMPARE(e.Columna(6), QString("Ares-C/Brezo-C/Ajeno-C/Imán-C/Jara-C"));
+        QCOMPARE(boton->toolTip(), u" Accionado "_s);
+        QCOMPARE(e.Columna(6), u"Ares-C/Brezo-C/Ajeno-C/Imán-C/Jara-C"_s);
         e.Filtrar(0, "casa*"); // the filter and the button hold together
-        QCOMPARE(e.Columna(6), QString("Ares-C/Brezo-C"));
+        QCOMPARE(e.Columna(6), u"Ares-C/Brezo-C"_s);
         QTest::mouseClick(boton, Qt::LeftButton);
         QCOMPARE(boton->toolTip(), QString());
-        QCOMPARE(e.Columna(6), QString("Ares-C"));
+        QCOMPARE(e.Columna(6), u"Ares-C"_s);
+    }
+
+    // One box for all columns: letters, figures, in any case and without accents; filters and search hold together.
+    void BuscarSegunSeEscribe_data() {
+        Columnas<QString, QString>("texto", "vacas");
+        Caso("nothing", "  ", "Luna/Luna Nueva/Ñora/Estrella");
+        Caso("part of a name", "UN", "Luna/Luna Nueva");
+        Caso("accent", "nicolas culon", "Luna");
+        Caso("two words, two columns", "nueva 4513", "Luna Nueva");
+        Caso("words over two columns", "luna es03 00004512", "Luna");
+        Caso("ñ is no n", "nora", "");
+        Caso("ñ", "ÑORA", "Ñora");
+        Caso("code", "5700000", "Estrella");
+        Caso("middle of a tag", "00012", "Estrella");
+        Caso("date", "15/03/24", "Estrella");
+        Caso("apostrophe", "o'hara", "");
+    }
+    void BuscarSegunSeEscribe() {
+        QFETCH(QString, texto);
+        QFETCH(QString, vacas);
+        Escena e(TipoSelector::Vacas, Vacas());
+        QTest::keyClicks(e.Buscar(), "zz");
+        QCOMPARE(e.Columna(7), QString());
+        e.Buscar()->setText(texto);
+        QCOMPARE(e.Columna(7), vacas);
+        e.Filtrar(8, "12");
+        QCOMPARE(e.Columna(7), vacas.split('/').filter(QRegularExpression("^Luna$")).join('/'));
+    }
+
+    void DeLaBusquedaALaLista() {
+        Escena e(TipoSelector::Vacas, Vacas());
+        QTest::keyClicks(e.Buscar(), "luna");
+        QTest::keyClick(e.Buscar(), Qt::Key_Return); // two are left: the list asks which
+        QVERIFY(e.s.isVisible());
+        QCOMPARE(e.s.focusWidget(), e.rejilla);
+        QTest::keyClick(e.rejilla, Qt::Key_Up);
+        QCOMPARE(e.s.focusWidget(), e.Buscar());
+        QTest::keyClicks(e.Buscar(), " nueva");
+        QTest::keyClick(e.Buscar(), Qt::Key_Return);
+        QVERIFY(!e.s.isVisible());
+        QCOMPARE(e.s.Resultado().clave, 1200002.0);
+    }
+
+    void LoQueNoSeEncuentraSeExplica() {
+        Escena e(TipoSelector::Vacas, Vacas());
+        e.Filtrar(7, "lun");
+        QVERIFY2(e.Estado().contains("escriba *lun*"), qPrintable(e.Estado()));
+        e.Filtrar(7, "lun*x*");
+        QCOMPARE(e.Estado(), u"0 registros"_s); // who writes asterisks knows
+        e.Filtrar(7, "");
+        e.Filtrar(4, "99");
+        QCOMPARE(e.Estado(), u"0 registros"_s); // a number has none
+        QTest::keyClicks(e.Buscar(), "luna");
+        QCOMPARE(e.Estado(), u"0 registros con «luna» entre los que dejan los filtros"_s);
+        e.Filtrar(4, "");
+        QCOMPARE(e.Estado(), u"2 registros, 1 de baja"_s);
+    }
+
+    // Those who have left: a word before the row, another colour, and told to screen readers; whatever columns the list has.
+    void LosDeBajaSeDistinguen_data() {
+        // deBaja: rows
+        Columnas<int, QString, QString>("tipo", "texto", "deBaja");
+        Caso("cows", 2, QString::fromStdString(Vacas()), "1/3");
+        Caso("bulls", 4, QString::fromStdString(SentenciaSementales().Completa()), "1/4");
+        Caso("bulls by merit", 19, QString::fromStdString(SentenciaMeritos().Completa()), "1/3");
+        Caso("farmers", 1, "", "1");
+        Caso("sires, removed ones hidden", 11, "12", "");
+        Caso("a plain list", 20, "", "");
+    }
+    void LosDeBajaSeDistinguen() {
+        QFETCH(int, tipo);
+        QFETCH(QString, texto);
+        QFETCH(QString, deBaja);
+        Granjas b;
+        b.c.Execute("UPDATE T_Ganaderos SET FechaBaja = #01/02/2024# WHERE Id_Ganadero = 900");
+        Selector s(b.c, PrepararSelector(b.c, static_cast<TipoSelector>(tipo), texto.toStdString()));
+        s.show();
+        auto* rejilla = s.findChild<GridSelector*>("GridSelector");
+        const auto& m = *rejilla->model();
+        QStringList filas;
+        for (int f = 0; f < m.rowCount(); ++f) {
+            const bool baja = m.headerData(f, Qt::Vertical).toString() == "baja";
+            QCOMPARE(m.index(f, 0).data(Qt::ForegroundRole).isValid(), baja);
+            QCOMPARE(m.index(f, 0).data(Qt::AccessibleTextRole).toString().endsWith(", de baja"), baja);
+            if (baja)
+                filas << QString::number(f);
+        }
+        QCOMPARE(filas.join('/'), deBaja);
+        QCOMPARE(rejilla->verticalHeader()->isVisible(), !deBaja.isEmpty());
+    }
+
+    void OrdenarPorUnTitulo() {
+        Escena e(TipoSelector::Vacas, Vacas());
+        const QString propio = e.Columna(7);
+        e.Filtrar(7, "*a");
+        e.Caja(7)->setText(">>>"); // not entered: the list stays filtered as it is
+        QTest::mouseClick(e.Titulo(7), Qt::LeftButton);
+        QCOMPARE(e.Columna(7), u"Estrella/Luna/Luna Nueva/Ñora"_s);
+        QCOMPARE(e.Titulo(7)->text(), u"▲ Nombre Vaca"_s);
+        QTest::keyClick(e.Caja(8), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(e.Columna(8), u"45/ES0300001245/ES0300004512/ES0300004513"_s);
+        QCOMPARE(e.Titulo(7)->text(), u"Nombre Vaca"_s);
+        QTest::keyClick(e.Caja(8), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(e.Columna(8), u"ES0300004513/ES0300004512/ES0300001245/45"_s);
+        QTest::keyClick(e.Caja(8), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(e.Columna(7), propio);
+        QTest::keyClick(e.Caja(0), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(e.Columna(7), propio); // among equals the list's own order
+
+        Escena padres(TipoSelector::PadresParaVacas, "12"); // in the order in which they are thought of
+        QTest::mouseClick(padres.Titulo(6), Qt::LeftButton);
+        QTest::keyClick(padres.Caja(6), Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(padres.Columna(6), u"Ares-C/Ajeno-C/Imán-C"_s);
+    }
+
+    void SeAbreDondeSeEstuvo() {
+        Granjas b;
+        const auto filaAlAbrir = [&](TipoSelector tipo, const std::string& texto) {
+            Selector s(b.c, PrepararSelector(b.c, tipo, texto));
+            s.show();
+            auto* rejilla = s.findChild<GridSelector*>("GridSelector");
+            return rejilla->model()
+                ->index(rejilla->currentIndex().row(), tipo == TipoSelector::Vacas ? 4 : 5)
+                .data()
+                .toString();
+        };
+        QCOMPARE(filaAlAbrir(TipoSelector::Ganaderos, {}), u"57"_s);
+        {
+            Selector s(b.c, PrepararSelector(b.c, TipoSelector::GanaderosParaVacas));
+            s.show();
+            QTest::keyClicks(s.findChild<QLineEdit*>("Buscar"), "pola");
+            QTest::keyClick(s.findChild<QLineEdit*>("Buscar"), Qt::Key_Return);
+        }
+        QCOMPARE(filaAlAbrir(TipoSelector::Ganaderos, {}), u"12"_s);
+        RecordarUltimo(b.c, "Id_Vaca", 57000001);
+        QCOMPARE(filaAlAbrir(TipoSelector::Vacas, Vacas()), u"57000001"_s);
+        RecordarUltimo(b.c, "Id_Vaca", 99); // gone since
+        QCOMPARE(filaAlAbrir(TipoSelector::Vacas, Vacas()), u"1200001"_s);
     }
 
     void TecladoEntreLaListaYLasCajas() {
         Escena e(TipoSelector::Ganaderos);
         QVERIFY(!e.s.findChild<QToolButton*>("BarraHerr(1)")->isEnabled());
+        e.Caja(0)->setFocus();
         e.Caja(0)->setText("x");
         QTest::keyClick(e.Caja(0), Qt::Key_Down);
         QTest::keyClick(e.rejilla, Qt::Key_Down);
@@ -190,20 +320,23 @@ private Q_SLOTS:
         QTest::keyClick(e.rejilla, Qt::Key_Up);
         QCOMPARE(e.s.focusWidget(), e.rejilla);
         QTest::keyClick(e.rejilla, Qt::Key_Up);
-        QCOMPARE(e.s.focusWidget(), e.Caja(0));
-        QCOMPARE(e.Caja(0)->text(), QString("x"));
+        QCOMPARE(e.s.focusWidget(), e.Caja(0)); // where the list was entered from
+        QCOMPARE(e.Caja(0)->text(), u"x"_s);
+        e.Buscar()->setText("casa");
         e.rejilla->setFocus();
         QTest::keyClick(e.rejilla, 'E');
-        QCOMPARE(e.s.focusWidget(), e.Caja(0));
-        QTest::keyClicks(e.Caja(0), "*");
-        QCOMPARE(e.Caja(0)->text().toLower(), QString("e*"));
+        QCOMPARE(e.s.focusWidget(), e.Buscar());
+        QTest::keyClicks(e.Buscar(), "v");
+        QCOMPARE(e.Buscar()->text().toLower(), u"ev"_s);
+        e.Buscar()->clear();
+        e.Caja(0)->setFocus();
         QTest::keyClick(e.Caja(0), Qt::Key_Tab);
         QCOMPARE(e.s.focusWidget(), e.Caja(1));
         for (int i = 1; i < 6; ++i)
             QTest::keyClick(e.Caja(i), Qt::Key_Tab);
         QCOMPARE(e.s.focusWidget(), e.rejilla);
         e.Filtrar(2, "no hay");
-        QCOMPARE(e.Estado(), QString("0 registros"));
+        QVERIFY(e.Estado().contains("*x*"));
         e.rejilla->setFocus();
         QTest::keyClick(e.rejilla, Qt::Key_Return); // nothing to choose
         QVERIFY(e.s.isVisible());
@@ -211,13 +344,13 @@ private Q_SLOTS:
 
     void LasCeldasVanEnUnaLineaYConSuNombre() {
         Escena e(TipoSelector::Ganaderos);
-        QCOMPARE(e.Celda(3, 0), QString("Eva López (Tineo)"));
+        QCOMPARE(e.Celda(3, 0), u"Eva López (Tineo)"_s);
         QCOMPARE(e.rejilla->model()->index(3, 2).data(Qt::AccessibleTextRole).toString(),
-                 QString("Apodo: Casa Pola"));
+                 u"Apodo: Casa Pola"_s);
         QCOMPARE(e.rejilla->model()->headerData(2, Qt::Horizontal, Qt::AccessibleTextRole).toString(),
-                 QString("Apodo"));
+                 u"Apodo"_s);
         for (int i = 0; i < 6; ++i) {
-            auto* rotulo = e.s.findChild<QLabel*>(QStringLiteral("Et_Estandar(%1)").arg(i));
+            auto* rotulo = e.s.findChild<QLabel*>(u"Et_Estandar(%1)"_s.arg(i));
             QCOMPARE(rotulo->buddy(), e.Caja(i));
             QCOMPARE(e.Caja(i)->accessibleName(), "Filtro de " + rotulo->text());
         }
@@ -254,12 +387,11 @@ private Q_SLOTS:
     }
 
     void Elegir_data() {
-        QTest::addColumn<int>("tipo");
-        QTest::addColumn<int>("tecla");
-        QTest::addColumn<double>("clave"); // 0: nothing comes back
-        QTest::newRow("chosen") << 6 << int(Qt::Key_Return) << 57.0;
-        QTest::newRow("left") << 6 << int(Qt::Key_Escape) << 0.0;
-        QTest::newRow("plain list") << 21 << int(Qt::Key_Return) << 0.0;
+        // clave: 0: nothing comes back
+        Columnas<int, int, double>("tipo", "tecla", "clave");
+        Caso("chosen", 6, int(Qt::Key_Return), 57.0);
+        Caso("left", 6, int(Qt::Key_Escape), 0.0);
+        Caso("plain list", 21, int(Qt::Key_Return), 0.0);
     }
     void Elegir() {
         QFETCH(int, tipo);
@@ -275,7 +407,7 @@ private Q_SLOTS:
     }
 
     void UnaListaQueNoSeAbreSeDice() {
-        prueba::Cajas cajas;
+        Cajas cajas;
         Granjas b;
         QVERIFY(!Selector::Elegir(b.c, TipoSelector::Vacas, "SELECT Nada FROM T_Vacas", nullptr));
         const auto vistas = cajas.Vistas();
@@ -283,7 +415,7 @@ private Q_SLOTS:
         QVERIFY(vistas[0].texto.startsWith("-2147217904 ... "));
     }
 
-    // A whole province's cows: right in any row that is asked for, in any order, and without a wait.
+    // A whole province's cows: right in any row that is asked for, in any order.
     void VeinteMilVacas() {
         Granjas b;
         EnGrupo(b.c, [&] {
@@ -297,15 +429,11 @@ private Q_SLOTS:
                 rs.Update();
             }
         });
-        QElapsedTimer reloj;
-        reloj.start();
         Selector s(b.c, PrepararSelector(b.c, TipoSelector::Vacas, Vacas()));
         s.show();
-        s.grab();
-        const auto abierto = reloj.elapsed();
         auto* rejilla = s.findChild<GridSelector*>("GridSelector");
         QCOMPARE(rejilla->model()->rowCount(), 20004);
-        QCOMPARE(s.findChild<QLabel*>("Estado")->text(), QString("20.004 registros"));
+        QCOMPARE(s.findChild<QLabel*>("Estado")->text(), u"20.004 registros, 2 de baja"_s);
 
         Recordset rs(b.c, Vacas(), Cursor::Estatico, Bloqueo::SoloLectura);
         std::vector<QString> claves;
@@ -320,14 +448,14 @@ private Q_SLOTS:
         QCOMPARE(rejilla->currentIndex().row(), 20003);
         auto* crotal = s.findChild<QLineEdit*>("CTexto(8)");
         crotal->setText("777");
-        reloj.restart();
         QTest::keyClick(crotal, Qt::Key_Return);
-        s.grab();
-        const auto filtrado = reloj.elapsed();
         QCOMPARE(rejilla->model()->rowCount(), 20);
-        qInfo("20,000 rows: open %lld ms, filter %lld ms", abierto, filtrado);
-        // Loose, for a busy machine: what it should be is measured by the benchmark.
-        QVERIFY(abierto < 2000 && filtrado < 1000);
+        crotal->clear();
+        QTest::keyClick(crotal, Qt::Key_Return);
+        auto* busca = s.findChild<QLineEdit*>("Buscar");
+        QTest::keyClicks(busca, "777 ES03100077");
+        s.grab(); // drawn
+        QCOMPARE(rejilla->model()->rowCount(), 1);
     }
 };
 

@@ -1,8 +1,10 @@
 #include "BaseDePrueba.h"
 #include "prueba.h"
 
-#include "store/Apertura.h"
+#include "access/EscritorAccess.h"
 #include "store/Conversion.h"
+#include "store/Instruccion.h"
+#include "store/Verificacion.h"
 
 #include <sqlite3.h>
 
@@ -14,6 +16,7 @@
 
 using namespace pastorix;
 using prueba::Base;
+using prueba::Sql;
 
 // Real Access files and broken ones, brought in as the program does at its first start.
 class PruebaConversion : public QObject {
@@ -180,6 +183,71 @@ private Q_SLOTS:
         }
     }
 
+    // A file whose columns are of other types than ours: what can become ours does, what cannot stays as it is and is named. Nothing
+    // turns into nothing.
+    void ValoresDeOtraClase() {
+        using namespace access::ayudas;
+        using access::Tipo;
+        FicheroNuevo fichero{.clave = std::string(kClave)};
+        for (const auto& t : CatalogoCanonico(ClaseDeBase::Principal).Tablas())
+            if (t.nombre != "T_Vacas" && t.nombre != "T_Cebo")
+                fichero.tablas.push_back({t.nombre, {{t.columnas[0].nombre, Tipo::Doble, true, 8}}, {}});
+        const auto casi = [](int segundo, double fraccion) {
+            return Doble(46000 + (segundo + fraccion) / 86400);
+        };
+        TablaNueva vacas{"T_Vacas",
+                         {{"Id_Vaca", Tipo::Texto, false, 255},
+                          {"MG_PN", Tipo::Texto, false, 255},
+                          {"FechaNac", Tipo::FechaHora, true, 8},
+                          {"FechaCompra", Tipo::Texto, false, 255},
+                          {"Nombre", Tipo::Doble, true, 8},
+                          {"Crotal", Tipo::FechaHora, true, 8},
+                          {"MG_PD", Tipo::FechaHora, true, 8},
+                          {"Calificacion", Tipo::Moneda, true, 8},
+                          {"Patologia", Tipo::SiNo, false, 1}},
+                         {}};
+        const auto T = [](const char* t) { return Utf16(t); };
+        vacas.filas.push_back({{T("1"), T("doce"), casi(86399, 0.6), T("ayer"), Doble(2.5), Doble(46000),
+                                Doble(46000), Numero(25000, 8), access::Bytes{1}}});
+        vacas.filas.push_back({{T("2"), T(" 2,5 "), casi(86399, 0.4), T("1/3/24"), {}, {}, {}, {}, {}}});
+        fichero.tablas.push_back(vacas);
+        TablaNueva cebo{
+            "T_Cebo", {{"Id_Cebo", Tipo::Largo, true, 4}, {"Cambiado", Tipo::Entero, true, 2}}, {}};
+        cebo.filas = {{{Numero(1, 4), Numero(5, 2)}}, {{Numero(2, 4), Numero(0, 2)}}, {{Numero(3, 4), {}}}};
+        fichero.tablas.push_back(cebo);
+        const auto origen = m_carpeta.filePath("otros.mdb");
+        QFile f(origen);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        const auto bytes = Escribir(fichero).contenido;
+        f.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qint64>(bytes.size()));
+        f.close();
+        const auto destino = m_carpeta.filePath("otros-nuestros.mdb").toStdString();
+        const auto hoja = QByteArray::fromStdString(
+            ConvertirAccess(Ruta(origen.toStdString()), Ruta(destino), kClave).Texto());
+        for (const char* raro :
+             {"T_Vacas.MG_PN hay 1 ", "T_Vacas.FechaCompra hay 1 ", "T_Vacas.Nombre hay 1 ",
+              "T_Vacas.Crotal hay 1 ", "T_Vacas.MG_PD hay 1 ", "T_Vacas.Patologia hay 2 "})
+            QVERIFY2(hoja.contains(raro), raro);
+        QVERIFY(!hoja.contains("T_Vacas.Id_Vaca hay") && !hoja.contains("Calificacion hay"));
+
+        Conexion c;
+        c.AbrirFichero(destino, kClave);
+        const auto crudo = [&](const char* sql) {
+            Instruccion s(c.Manejador(), sql);
+            std::string t;
+            while (s.Fila())
+                t += s.Texto(0) + "\n";
+            return t;
+        };
+        QCOMPARE(
+            crudo("SELECT quote(Id_Vaca) || quote(MG_PN) || quote(FechaNac) || quote(FechaCompra) || "
+                  "quote(Nombre) "
+                  "|| quote(Crotal) || quote(MG_PD) || quote(Calificacion) || quote(Patologia) FROM T_Vacas"),
+            std::string("1.0'doce''2025-12-10''ayer''2,5''09/12/2025''09/12/2025'2.5'-1'\n"
+                        "2.02.5'2025-12-09 23:59:59''2024-03-01'NULLNULLNULLNULL'0'\n"));
+        QCOMPARE(crudo("SELECT quote(Cambiado) FROM T_Cebo"), std::string("-1\n0\n0\n"));
+    }
+
     void DestinoQueExiste() {
         const auto destino = m_carpeta.filePath(QStringLiteral("ya.mdb"));
         QFile f(destino);
@@ -205,10 +273,8 @@ private Q_SLOTS:
         b.c.Execute("ALTER TABLE T_Cebo ADD COLUMN Cambiado DOUBLE");
         b.c.Execute("ALTER TABLE T_Vacas ADD COLUMN Propia MEMO");
         b.Poner("T_Vacas", {{"Id_Vaca", 12001.0}, {"Propia", "ñ"}});
-        sqlite3_exec(
-            b.c.Manejador(),
-            "CREATE TABLE [Mis notas] (a TEXT_MEMO, b DOUBLE); INSERT INTO [Mis notas] VALUES ('x', 2.5)",
-            nullptr, nullptr, nullptr);
+        Sql(b.c,
+            "CREATE TABLE [Mis notas] (a TEXT_MEMO, b DOUBLE); INSERT INTO [Mis notas] VALUES ('x', 2.5)");
         b.c.Cerrar();
         QVERIFY(!VerificarBase(b.fichero, kClave).empty());
         Conexion c;
@@ -238,7 +304,7 @@ private Q_SLOTS:
         Base b;
         for (int i = 1; i < 300; ++i)
             b.Poner("T_Tetos", {{"Id_Teto", 10.0 + i}});
-        const auto sql = [&](const char* s) { sqlite3_exec(b.c.Manejador(), s, nullptr, nullptr, nullptr); };
+        const auto sql = [&](const char* s) { Sql(b.c, s); };
         if (caso == 2)
             sql("PRAGMA application_id=1");
         if (caso == 3)

@@ -8,18 +8,11 @@
 using namespace pastorix;
 using prueba::Base;
 using prueba::F;
+using prueba::Numero;
+using prueba::Sql;
 
 class PruebaRecordset : public QObject {
     Q_OBJECT
-
-    static long Numero(const std::function<void()>& f) {
-        try {
-            f();
-        } catch (const ErrorAlmacen& e) {
-            return e.Numero();
-        }
-        return 0;
-    }
 
 private Q_SLOTS:
     void Claves() {
@@ -150,7 +143,61 @@ private Q_SLOTS:
         QCOMPARE(Numero([&] { grupo["Id_Vaca"] = 1; }), long(CodigoError::SoloLectura));
     }
 
-    // What a failed statement leaves, and what a process that dies leaves.
+    // The row just added is the current one, to read and to change, and no other is in its way.
+    void AñadirSinLeer() {
+        Base b;
+        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+        auto rs = Recordset::ParaAñadir(b.c, "SELECT * FROM T_Vacas");
+        QCOMPARE(rs.Contar(), 0L);
+        QVERIFY(rs.Eof());
+        for (int i = 2; i <= 4; ++i) {
+            rs.AddNew();
+            QVERIFY(rs["Nombre"].Nulo()); // nothing of the row before
+            rs["Id_Vaca"] = i;
+            if (i != 3) {
+                rs["Nombre"] = "Vaca número " + std::to_string(i);
+                rs["NombreC"] = rs["Nombre"].Vista();
+            }
+            rs.Update();
+            if (i != 3)
+                QCOMPARE(rs["Id_Vaca"].Numero(), 1.0 * i);
+        }
+        QCOMPARE(rs["NombreC"].Vista(), std::string_view("Vaca número 4"));
+        QVERIFY(rs["Crotal"].Nulo());
+        rs["Nombre"] = "otro";
+        QCOMPARE(rs["Nombre"].Texto(), std::string("otro"));
+        rs.Update();
+        QCOMPARE(b.Texto("SELECT Id_Vaca, Nombre, NombreC FROM T_Vacas ORDER BY Id_Vaca"),
+                 std::string("1|-|-/2|Vaca número 2|Vaca número 2/3|-|-/4|otro|Vaca número 4"));
+        rs.Delete();
+        rs.CancelarCambios();
+        QCOMPARE(Numero([&] { (void)rs["Nombre"].Texto(); }), long(CodigoError::SinFilaActual));
+
+        // a row that is refused can be mended and tried again
+        rs.AddNew();
+        rs["Id_Vaca"] = 3;
+        rs["Nombre"] = "Nueva";
+        QCOMPARE(Numero([&] { rs.Update(); }), long(CodigoError::Restriccion));
+        rs["Id_Vaca"] = 9;
+        rs.Update();
+        // a walk that adds rows on its way does not meet them
+        Recordset paseo(b.c, "SELECT * FROM T_Vacas ORDER BY Id_Vaca");
+        int pasos = 0;
+        for (; !paseo.Eof() && pasos < 50; paseo.Siguiente(), ++pasos) {
+            const double id = paseo["Id_Vaca"].Numero();
+            auto nueva = Recordset::ParaAñadir(b.c, "SELECT * FROM T_Vacas");
+            nueva.AddNew();
+            nueva["Id_Vaca"] = id + 100;
+            nueva.Update();
+            paseo["Nombre"] = "vista";
+            paseo.Update();
+        }
+        QCOMPARE(pasos, 4);
+        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas WHERE Nombre = 'vista' ORDER BY Id_Vaca"),
+                 std::string("1/2/3/9"));
+    }
+
+    // What a failed statement leaves, and a failed commit.
     void Grupos() {
         Base b;
         const auto cuenta = [&] { return b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Vacas"); };
@@ -166,29 +213,17 @@ private Q_SLOTS:
         QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
         QCOMPARE(EnGrupo(b.c, [&] { return 42; }), 42);
 
-        const auto copia = b.fichero + ".copia";
-        EnGrupo(b.c, [&] {
-            b.Poner("T_Vacas", {{"Id_Vaca", 3.0}});
-            sqlite3_db_cacheflush(b.c.Manejador());
-            CopiarFichero(Ruta(b.fichero),
-                          Ruta(copia)); // what a second process would find after a crash here
-            CopiarFichero(Ruta(b.fichero + "-journal"), Ruta(copia + "-journal"));
-        });
-        QCOMPARE(cuenta(), std::string("3"));
-        Conexion otra;
-        otra.AbrirFichero(copia, kClave);
-        QCOMPARE(ValorDeCampo(otra, "SELECT Count(Id_Vaca) AS N FROM T_Vacas"), std::string("2"));
-
+        EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 3.0}}); });
         // a commit that fails is an error of its own
         sqlite3_busy_timeout(b.c.Manejador(), 0);
         Conexion lector;
         lector.AbrirFichero(b.fichero, kClave);
-        sqlite3_exec(lector.Manejador(), "BEGIN; SELECT * FROM T_Vacas", nullptr, nullptr, nullptr);
+        Sql(lector, "BEGIN; SELECT * FROM T_Vacas");
         QCOMPARE(Numero([&] { EnGrupo(b.c, [&] {
                                   b.Poner("T_Vacas", {{"Id_Vaca", 4.0}});
                               }); }),
                  long(CodigoError::Bloqueada));
-        sqlite3_exec(lector.Manejador(), "COMMIT", nullptr, nullptr, nullptr);
+        Sql(lector, "COMMIT");
         QCOMPARE(cuenta(), std::string("3"));
         EnGrupo(b.c, [&] { b.Poner("T_Vacas", {{"Id_Vaca", 4.0}}); });
         QCOMPARE(cuenta(), std::string("4"));
@@ -219,11 +254,8 @@ private Q_SLOTS:
     void ReponerLoLeido() {
         Base b;
         const std::string largo(300, 'x');
-        sqlite3_exec(b.c.Manejador(),
-                     ("INSERT INTO T_Vacas (Id_Vaca, Nombre, MG_PN, FechaNac) VALUES (1, '" + largo +
-                      "', 'doce', 'ayer')")
-                         .c_str(),
-                     nullptr, nullptr, nullptr);
+        Sql(b.c, ("INSERT INTO T_Vacas (Id_Vaca, Nombre, MG_PN, FechaNac) VALUES (1, '" + largo +
+                  "', 'doce', 'ayer')"));
         Recordset leida(b.c, "SELECT * FROM T_Vacas");
         Recordset nueva(b.c, "SELECT * FROM T_Vacas");
         nueva.AddNew();
@@ -239,18 +271,24 @@ private Q_SLOTS:
     void DiscoLleno() {
         Base b;
         b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
-        sqlite3_exec(b.c.Manejador(), "PRAGMA cache_size=5", nullptr, nullptr, nullptr);
-        sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=1", nullptr, nullptr,
-                     nullptr); // no page more than there are
-        QCOMPARE(
-            Numero([&] {
-                EnGrupo(b.c, [&] {
-                    for (int i = 2; i < 500; ++i)
-                        b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(4000, 'x')}});
-                });
-            }),
-            long(CodigoError::DiscoOFichero));
-        sqlite3_exec(b.c.Manejador(), "PRAGMA max_page_count=100000", nullptr, nullptr, nullptr);
+        Sql(b.c, "PRAGMA cache_size=5");
+        Sql(b.c, "PRAGMA max_page_count=1"); // no page more than there are
+        std::string dicho;
+        QCOMPARE(Numero([&] {
+                     try {
+                         TodoONada(b.c, [&] {
+                             for (int i = 2; i < 500; ++i)
+                                 b.Poner("T_Vacas",
+                                         {{"Id_Vaca", double(i)}, {"Patologia", std::string(4000, 'x')}});
+                         });
+                     } catch (const std::exception& e) {
+                         dicho = e.what();
+                         throw;
+                     }
+                 }),
+                 long(CodigoError::DiscoOFichero));
+        QCOMPARE(dicho, std::string("No se ha podido guardar. El disco está lleno"));
+        Sql(b.c, "PRAGMA max_page_count=100000");
         QVERIFY(!b.Texto("SELECT Id_Vaca FROM T_Vacas WHERE Id_Vaca = 1").empty());
         b.Poner("T_Vacas", {{"Id_Vaca", 501.0}});
     }
@@ -269,6 +307,10 @@ private Q_SLOTS:
         QCOMPARE(Numero([&] { c.Execute("DELETE FROM T_Vacas"); }), long(CodigoError::ObjetoCerrado));
         QCOMPARE(Numero([&] { c.Abrir(o, "dsn=OD_NADA", kClave); }), long(CodigoError::NoSePuedeAbrir));
         QCOMPARE(o.Resolver("DSN=OD_PRADALC;DBQ=/otra.mdb").fichero, std::string("/otra.mdb"));
+        QCOMPARE(o.Resolver(CadenaDeConexion("OD_PRADALC", "/a; b/ñ=1.mdb", kClave)).fichero,
+                 std::string("/a; b/ñ=1.mdb"));
+        QCOMPARE(Numero([&] { o.Resolver(CadenaDeConexion("OD_NADA", "/a.mdb", kClave)); }),
+                 long(CodigoError::NoSePuedeAbrir));
         QCOMPARE(o.Buscar("OD_PRADALC")->fichero, b.fichero);
     }
 };

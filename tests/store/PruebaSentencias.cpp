@@ -236,8 +236,8 @@ private Q_SLOTS:
             b.c.Execute(sentencia.toStdString());
             QFAIL("ran");
         } catch (const ErrorAlmacen& e) {
-            QVERIFY2(QByteArray(e.what()).contains(sentencia.toUtf8()),
-                     e.what()); // the error names the statement
+            QVERIFY2(QByteArray::fromStdString(e.Detalle()).contains(sentencia.toUtf8()), e.what());
+            QVERIFY(!QByteArray(e.what()).contains(sentencia.toUtf8())); // for the detail alone
         }
         QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas"), std::string("1"));
     }
@@ -256,7 +256,7 @@ private Q_SLOTS:
         try {
             b.Texto(consulta("d'Arriba"));
         } catch (const ErrorAlmacen& e) {
-            QVERIFY(QByteArray(e.what()).contains("d'Arriba"));
+            QVERIFY(QByteArray::fromStdString(e.Detalle()).contains("d'Arriba"));
         }
     }
 

@@ -2,9 +2,10 @@
 #include "Instalacion.h"
 #include "prueba.h"
 
+#include "frame/Ultimos.h"
 #include "frame/calendario/Reloj.h"
 #include "reports/ListadoMaestro.h"
-#include "reports/Lst_IndicesTecnicos.h"
+#include "reports/formularios/InformesAnuales.h"
 #include "reports/motor/ControlInforme.h"
 #include "reports/motor/LectorDeTablas.h"
 
@@ -46,9 +47,6 @@ class PruebaFormulario : public QObject {
             ganadero(85, "Olvido", 1, Valor(*Fecha::De(2023, 10, 15)));
             ganadero(310, "Nuria", 1, {});
             QDir(i.Carpeta()).mkdir(QStringLiteral("Informes"));
-            for (const char* f : {"IndTecnicos.rpt", "Ganaderos.rpt"})
-                QFile::copy(QStringLiteral(PASTORIX_LAYOUTS "/") + QString::fromUtf8(f),
-                            i.En("Informes/") + QString::fromUtf8(f));
             anterior =
                 ControlInforme::InstalarDestino([this](InformeTerminado t) { terminado = std::move(t); });
             FijarHoy(Fecha::De(2025, 12, 1));
@@ -71,7 +69,7 @@ private Q_SLOTS:
         Puesto p;
         const LectorDeTablas tablas(p.i.sesion.conexion);
         ControlInforme control(tablas);
-        Lst_IndicesTecnicos f(p.i.sesion, control);
+        InformeAnual f(kLst_IndicesTecnicos, p.i.sesion, control, nullptr);
         auto* vet = f.findChild<QComboBox*>(QStringLiteral("Cd_Veterinario"));
         auto* lista = f.findChild<QListWidget*>(QStringLiteral("lstGanadero"));
         auto* año = f.findChild<QLineEdit*>(QStringLiteral("Ct_E"));
@@ -87,6 +85,18 @@ private Q_SLOTS:
         lista->item(0)->setCheckState(Qt::Checked);
         lista->item(1)->setCheckState(Qt::Checked); // one at a time
         QCOMPARE(lista->item(0)->checkState(), Qt::Unchecked);
+        f.show();
+        const auto pulsar = [&](int fila, bool enLaCaja) {
+            const QRect sitio = lista->visualItemRect(lista->item(fila));
+            QTest::mouseClick(lista->viewport(), Qt::LeftButton, {},
+                              QPoint(enLaCaja ? sitio.left() + 8 : sitio.center().x(), sitio.center().y()));
+            return lista->item(fila)->checkState();
+        };
+        QCOMPARE(pulsar(0, false), Qt::Checked); // on the name
+        QCOMPARE(lista->item(1)->checkState(), Qt::Unchecked);
+        QCOMPARE(pulsar(0, false), Qt::Checked);
+        QCOMPARE(pulsar(0, true), Qt::Unchecked);
+        QCOMPARE(pulsar(1, true), Qt::Checked);
         QTest::keyClick(vet, Qt::Key_Delete);
         QCOMPARE(vet->currentIndex(), -1);
         QCOMPARE(lista->count(), 3);
@@ -96,36 +106,16 @@ private Q_SLOTS:
         QCOMPARE(año->text(), QStringLiteral("2025"));
     }
 
-    void Validacion() {
+    void LoQueFalla() {
         Puesto p;
         const LectorDeTablas tablas(p.i.sesion.conexion);
         ControlInforme control(tablas);
-        prueba::Insertar(p.i.sesion.conexion, "X_Temp", {{"C1", Texto("anterior")}});
-        Lst_IndicesTecnicos f(p.i.sesion, control);
+        InformeAnual f(kLst_IndicesTecnicos, p.i.sesion, control, nullptr);
         prueba::Cajas cajas;
-        const auto rechaza = [&](const char* texto) {
-            f.findChild<QPushButton*>(QStringLiteral("B_Aceptar"))->click();
-            const auto vistas = cajas.Vistas();
-            QCOMPARE(vistas.size(), 1);
-            QCOMPARE(vistas[0].titulo, QStringLiteral("Información"));
-            QCOMPARE(vistas[0].texto, QString::fromUtf8(texto));
-            QCOMPARE(prueba::Leer(p.i.sesion.conexion, "SELECT C1 FROM X_Temp"),
-                     std::string("anterior")); // no table touched
-        };
-        f.PonerAño(QStringLiteral("202"));
-        rechaza("Indique el Año de Referencia");
-        f.PonerAño(QStringLiteral("2025"));
-        rechaza("Debe seleccionar algún Ganadero");
-        QVERIFY(!f.MarcarGanadero(85)); // has left: not offered
-        QVERIFY(f.MarcarGanadero(12));
-        QVERIFY(f.Aceptar());
-        QVERIFY(p.terminado.has_value());
-        QCOMPARE(p.terminado->titulo, QStringLiteral(" Índices Técnicos"));
-        QVERIFY(p.terminado->maximizada);
-        QCOMPARE(prueba::Leer(p.i.sesion.conexion, "SELECT C1 FROM X_Temp"), std::string("12"));
-        p.terminado.reset();
-
-        // a year that passes the check and is none; a layout that is gone; a malformed one: each told, nothing opened
+        QVERIFY_THROWS_EXCEPTION(ErrorDeOpcion,
+                                 f.PonerOpcion(QStringLiteral("ganadero"), QStringLiteral("85"))); // has left
+        f.PonerOpcion(QStringLiteral("ganadero"), QStringLiteral("12"));
+        // a year that passes the check and is none; a malformed layout: each told, nothing opened
         const auto falla = [&](const char* numero, const char* trozo) {
             QVERIFY(!f.Aceptar());
             const auto vistas = cajas.Vistas();
@@ -137,16 +127,52 @@ private Q_SLOTS:
             QVERIFY(!p.terminado.has_value());
             QVERIFY(f.findChild<QPushButton*>(QStringLiteral("B_Aceptar"))->isEnabled());
         };
-        f.PonerAño(QStringLiteral("0000"));
+        f.PonerOpcion(QStringLiteral("año"), QStringLiteral("0000"));
         falla("13", "tipos");
-        f.PonerAño(QStringLiteral("2025"));
-        QFile layout(p.i.En("Informes/IndTecnicos.rpt"));
-        QVERIFY(layout.open(QIODevice::Append));
-        layout.write("\nesto no es nada\n");
-        layout.close();
-        falla("60102", "IndTecnicos.rpt");
-        QVERIFY(layout.remove());
-        falla("60101", "IndTecnicos.rpt");
+        f.PonerOpcion(QStringLiteral("año"), QStringLiteral("2025"));
+        prueba::Escribir(p.i.En("Informes/IndTecnicos.rpt"), "pastorix-informe 1\nesto no es nada\n");
+        falla("60102", "IndTecnicos.rpt, línea 2");
+    }
+
+    // The farmer whom the user was with last is offered; without a display nobody is.
+    void ElUltimoGanadero() {
+        Puesto p;
+        const LectorDeTablas tablas(p.i.sesion.conexion);
+        ControlInforme control(tablas);
+        const auto ofrecido = [](const InformeAnual& f) {
+            const auto* lista = f.findChild<QListWidget*>(QStringLiteral("lstGanadero"));
+            QStringList marcados;
+            for (int i = 0; i < lista->count(); ++i)
+                if (lista->item(i)->checkState() == Qt::Checked)
+                    marcados << lista->item(i)->text() << QString::number(lista->currentRow() == i);
+            return marcados.join('/');
+        };
+        {
+            InformeAnual f(kLst_IndicesTecnicos, p.i.sesion, control, nullptr);
+            f.show();
+            QCOMPARE(ofrecido(f), QString());
+            f.PonerOpcion(QStringLiteral("ganadero"), QStringLiteral("310"));
+            f.findChild<QPushButton*>(QStringLiteral("B_Aceptar"))->click();
+            QVERIFY(p.terminado.has_value());
+        }
+        InformeAnual f(kLst_IndicesTecnicos, p.i.sesion, control, nullptr);
+        QCOMPARE(ofrecido(f), QString());
+        f.show();
+        QCOMPARE(ofrecido(f), QStringLiteral("Nuria Díaz/1"));
+        auto* año = f.findChild<QLineEdit*>(QStringLiteral("Ct_E"));
+        QCOMPARE(año->text(), QStringLiteral("2026")); // always that of today
+        QTest::keyClick(año, Qt::Key_Down);
+        QTest::keyClick(año, Qt::Key_Down);
+        QTest::keyClick(año, Qt::Key_Up);
+        QCOMPARE(año->text(), QStringLiteral("2025"));
+        RecordarUltimo(p.i.sesion.conexion, "Id_Ganadero", 85); // who has left, and is not on the list
+        InformeAnual otra(kLst_IndicesTecnicos, p.i.sesion, control, nullptr);
+        otra.show();
+        QCOMPARE(ofrecido(otra), QString());
+        InformeAnual elegida(kLst_IndicesTecnicos, p.i.sesion, control, nullptr);
+        elegida.PonerOpcion(QStringLiteral("ganadero"), QStringLiteral("12"));
+        elegida.show();
+        QCOMPARE(ofrecido(elegida).left(4), QStringLiteral("Nora"));
     }
 
     void Listados() {
@@ -159,8 +185,9 @@ private Q_SLOTS:
         ListadoMaestro(2, p.i.sesion, control, nullptr);
         QVERIFY(p.terminado.has_value());
         QCOMPARE(p.terminado->titulo, QStringLiteral(" Ganaderos"));
+        prueba::Escribir(p.i.En("Informes/Veterinarios.rpt"), "pastorix-informe 1\nesto no es nada\n");
         ListadoMaestro(1, p.i.sesion, control, nullptr);
-        QCOMPARE(cajas.Vistas().size(), 1); // its layout is not there
+        QCOMPARE(cajas.Vistas().size(), 1); // its layout has a mistake in it
     }
 };
 

@@ -1,5 +1,7 @@
 #include "manual/Maqueta.h"
 
+#include "store/LocaleNumerico.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -38,6 +40,7 @@ int Hacer(const QString& fuente, const QString& pdf) {
 
 int main(int argc, char** argv) {
     const QGuiApplication aplicacion(argc, argv);
+    pastorix::FijarLocaleNumerico();
     const QStringList argumentos = QGuiApplication::arguments();
     if (argumentos.size() != 3) {
         std::cerr << "pastorix_manual manual.md manual.pdf\n";

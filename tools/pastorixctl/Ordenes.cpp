@@ -1,15 +1,18 @@
 #include "pastorixctl/Ordenes.h"
 
 #include "frame/Rutas.h"
-#include "store/Apertura.h"
+#include "reports/motor/DisposicionesIncluidas.h"
+#include "reports/motor/Escritura.h"
 #include "store/Conversion.h"
 #include "store/Esquema.h"
 #include "store/Ficheros.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
+#include "store/Verificacion.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <iostream>
 
@@ -35,16 +38,12 @@ QDir CarpetaNueva(const QString& nombre) {
     return carpeta;
 }
 
-void CopiarInformes(const QDir& destino) {
+void CopiarManual(const QDir& destino) {
     const QDir entrega(CarpetaDeEntrega());
-    const auto informes = entrega.entryList({QStringLiteral("*.rpt")}, QDir::Files);
-    if (informes.isEmpty())
-        throw ErrorDeOrden("No se encuentran los informes en: " + entrega.path().toStdString());
-    QStringList ficheros = informes;
-    if (entrega.exists(QStringLiteral("manual.pdf")))
-        ficheros << QStringLiteral("manual.pdf");
-    for (const auto& f : ficheros)
-        CopiarFichero(Ruta(entrega.filePath(f).toStdString()), Ruta(destino.filePath(f).toStdString()));
+    const auto manual = QStringLiteral("manual.pdf");
+    if (entrega.exists(manual))
+        CopiarFichero(Ruta(entrega.filePath(manual).toStdString()),
+                      Ruta(destino.filePath(manual).toStdString()));
 }
 
 void Poner(Conexion& c, const char* tabla, std::initializer_list<std::pair<const char*, Valor>> fila) {
@@ -85,7 +84,7 @@ QString CarpetaDeEntrega() {
 int Crear(const QStringList& argumentos) {
     Cuantos(argumentos, 1);
     const auto carpeta = CarpetaNueva(argumentos[0]);
-    CopiarInformes(carpeta);
+    CopiarManual(carpeta);
     const auto principal = carpeta.filePath(QStringLiteral("BD_PradalC.mdb"));
     const auto personal = carpeta.filePath(QStringLiteral("BD_PradalP.mdb"));
     const auto toros = carpeta.filePath(QStringLiteral("Toros.mdb"));
@@ -139,7 +138,7 @@ int Ejemplo(const QStringList& argumentos) {
             throw ErrorDeOrden("No se encuentra el fichero del ejemplo: " +
                                origen.filePath(base).toStdString());
     const auto carpeta = CarpetaNueva(argumentos[0]);
-    CopiarInformes(carpeta);
+    CopiarManual(carpeta);
     for (const auto& base : BasesEntregadas())
         CopiarFichero(Ruta(origen.filePath(base).toStdString()), Ruta(carpeta.filePath(base).toStdString()));
     std::cout << "Instalación de ejemplo en " << carpeta.absolutePath().toStdString() << "\n";
@@ -154,6 +153,21 @@ int Convertir(const QStringList& argumentos) {
     return 0;
 }
 
+int Disenos(const QStringList& argumentos) {
+    Cuantos(argumentos, 1);
+    if (!QDir().mkpath(argumentos[0]))
+        throw ErrorDeOrden("No se puede crear la carpeta: " + argumentos[0].toStdString());
+    const QDir carpeta(argumentos[0]);
+    std::vector<FicheroEntero> ficheros;
+    for (const auto& nombre : DisposicionesIncluidas()) {
+        if (QFile::exists(BuscarSinCaja(carpeta.path(), nombre)))
+            throw ErrorDeOrden("Ya existe: " + carpeta.filePath(nombre).toStdString());
+        ficheros.push_back({carpeta.filePath(nombre), DisposicionIncluida(nombre).value()});
+    }
+    EscribirFicheros(ficheros);
+    return 0;
+}
+
 int Verificar(const QStringList& argumentos) {
     if (argumentos.isEmpty())
         throw ErrorDeUso("Falta el fichero");
@@ -161,7 +175,11 @@ int Verificar(const QStringList& argumentos) {
     for (const auto& fichero : argumentos) {
         const auto faltas = VerificarBase(fichero.toStdString(), kClave);
         if (faltas.empty())
-            std::cout << fichero.toStdString() << ": correcta\n";
+            std::cout << fichero.toStdString() << ": correcta"
+                      << (QFileInfo(fichero).isWritable()
+                              ? ""
+                              : ", pero de solo lectura: así no se puede trabajar con ella")
+                      << "\n";
         for (const auto& f : faltas) {
             std::cerr << fichero.toStdString() << ": " << f << "\n";
             estado = 1;

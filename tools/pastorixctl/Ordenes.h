@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Errores.h"
+
 #include <QStringList>
 
 #include <stdexcept>
@@ -14,6 +16,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// Asked for by --detalle, which every command takes: the words for a technician follow the reason on stderr.
+inline bool conDetalle = false;
+
 // Could not be done: text to stderr, status 1.
 class ErrorDeOrden : public std::runtime_error {
 public:
@@ -23,11 +28,22 @@ public:
 int Crear(const QStringList& argumentos);
 int ClaveCentral(const QStringList& argumentos);
 int Ejemplo(const QStringList& argumentos);
+int Disenos(const QStringList& argumentos);
 int Convertir(const QStringList& argumentos);
 int Verificar(const QStringList& argumentos);
 int Informe(const QStringList& argumentos);
+int OrdenExportar(const QStringList& argumentos);
+int OrdenImportar(const QStringList& argumentos);
+int OrdenEnviar(const QStringList& argumentos);
+int OrdenRecibir(const QStringList& argumentos);
+int OrdenExportarToros(const QStringList& argumentos);
+int OrdenImportarToros(const QStringList& argumentos);
+int OrdenPasar(const QStringList& argumentos);
+int OrdenHistorial(const QStringList& argumentos);
+int OrdenCompactar(const QStringList& argumentos);
+int OrdenRestaurar(const QStringList& argumentos);
 
-// Folder of what is delivered beside the program: layouts, and in "ejemplo" the example's Access files. The variable
+// Folder of what is delivered beside the program: the manual, and in "ejemplo" the example's Access files. The variable
 // PASTORIX_COMPARTIDA overrides it.
 QString CarpetaDeEntrega();
 

@@ -1,15 +1,15 @@
 #include "frame/ficha/Aspecto.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 #include <QPlainTextEdit>
-#include <QTableWidget>
+#include <QShortcut>
 
 namespace pastorix {
 
@@ -33,15 +33,11 @@ QColor ColorDeReparo(const QPalette& paleta) {
     return paleta.color(QPalette::Base).lightness() > 127 ? QColor(176, 0, 32) : QColor(255, 138, 128);
 }
 
-void VestirTabla(QTableWidget& tabla) {
-    tabla.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tabla.setSelectionBehavior(QAbstractItemView::SelectRows);
-    tabla.setSelectionMode(QAbstractItemView::SingleSelection);
-    tabla.setAlternatingRowColors(true);
-    tabla.setTabKeyNavigation(false);
-    tabla.horizontalHeader()->setHighlightSections(false); // bold headings would not fit
-    tabla.verticalHeader()->hide();
-    tabla.verticalHeader()->setDefaultSectionSize(tabla.fontMetrics().lineSpacing() + 8);
+void DarTecla(QAbstractButton& boton, const QKeySequence& tecla) {
+    const auto nombre = tecla.toString(QKeySequence::NativeText);
+    boton.setToolTip(QStringLiteral("%1 (%2)").arg(boton.toolTip(), nombre));
+    boton.setAccessibleDescription(nombre);
+    QObject::connect(new QShortcut(tecla, &boton), &QShortcut::activated, &boton, &QAbstractButton::click);
 }
 
 bool EsRuedaAjena(const QObject* objeto, const QEvent& evento) {

@@ -3,11 +3,12 @@
 #include <QColor>
 #include <QString>
 
+class QAbstractButton;
 class QEvent;
+class QKeySequence;
 class QLabel;
 class QObject;
 class QPalette;
-class QTableWidget;
 class QWidget;
 
 namespace pastorix {
@@ -21,8 +22,9 @@ QLabel* Explicacion(const QString& texto, QWidget* padre);
 // The colour of a text that will not be stored as it stands, on the palette's base: dark red on light, light red on dark.
 QColor ColorDeReparo(const QPalette& paleta);
 
-// How the tables of the sheets look and behave: rows of one text line, one chosen at a time, Tab goes on to the next control.
-void VestirTabla(QTableWidget& tabla);
+// A key that presses a button at once, as long as the button is in sight; its tooltip says so. (The toolkit's own key of a button waits for the
+// picture of the pressed button, a tenth of a second.)
+void DarTecla(QAbstractButton& boton, const QKeySequence& tecla);
 
 // The wheel over a combo that has not the focus: it scrolls past, and changes nothing that nobody is looking at. For event filters.
 bool EsRuedaAjena(const QObject* objeto, const QEvent& evento);

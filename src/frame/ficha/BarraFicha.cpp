@@ -1,8 +1,8 @@
 #include "frame/ficha/BarraFicha.h"
 
 #include "frame/Iconos.h"
+#include "frame/Mensajes.h"
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -58,11 +58,7 @@ void BarraFicha::Poner(ModoFicha modo) {
 }
 
 void BarraFicha::Decir(const QString& texto) {
-    if (texto == m_estado->text())
-        return;
-    m_estado->setText(texto);
-    QAccessibleEvent dicho(m_estado, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&dicho);
+    pastorix::Decir(*m_estado, texto);
 }
 
 } // namespace pastorix

@@ -27,6 +27,8 @@ EntradaDeLinea::EntradaDeLinea(const ColumnaLinea& dato, const AspectoColumna& c
         if (c.libre) {
             m_combo->setEditable(true);
             m_combo->setInsertPolicy(QComboBox::NoInsert);
+            if (c.maximo > 0)
+                m_combo->lineEdit()->setMaxLength(c.maximo);
         }
     } else {
         const bool fecha = dato.clase == ClaseCampo::Fecha;

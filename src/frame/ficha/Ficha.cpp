@@ -2,10 +2,12 @@
 #include "frame/ficha/Ficha.h"
 
 #include "frame/Mensajes.h"
+#include "frame/Ultimos.h"
 #include "frame/Ventanas.h"
 #include "frame/ficha/Aspecto.h"
 #include "store/Recordset.h"
 
+#include <QHideEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -47,6 +49,8 @@ void Ficha::ConectarBarra() {
     (*m_barra)[BarraFicha::Guardar]->setToolTip(QStringLiteral("Ctrl+S"));
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this), &QShortcut::activated, this,
             [this] { GuardarLoCercano(); });
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Left), this), &QShortcut::activated, this,
+            [this] { VolverAlAnterior(); });
 }
 
 void Ficha::ConectarHoja() {
@@ -66,16 +70,17 @@ void Ficha::TerminarConstruccion(QWidget* ultimo) {
         ultimo = boton;
     }
     Campo(0).setFocus();
+    if (Campo(0).toolTip().isEmpty())
+        Campo(0).Explicar(
+            QStringLiteral("Intro muestra el registro de ese código; Alt+Izquierda vuelve al anterior"));
     RecordarVentana(*this);
 }
 
-void Ficha::PonerIconoBusDato(int icono, int indiceCampo, const char* nombre) {
+void Ficha::PonerIconoBusDato(int icono, int indiceCampo, const char* nombre, const QKeySequence& tecla) {
     auto* boton = m_hoja->PonerIcono(icono, indiceCampo, QString::fromUtf8(nombre),
                                      [this, icono] { BuscarDato(icono); });
-    if (icono == 0) {
-        boton->setShortcut(QKeySequence(Qt::Key_F3));
-        boton->setToolTip(QStringLiteral("Seleccionar (F3)"));
-    }
+    if (icono == 0 || !tecla.isEmpty())
+        DarTecla(*boton, icono == 0 ? QKeySequence(Qt::Key_F3) : tecla);
 }
 
 void Ficha::PonerModo(ModoFicha modo) {
@@ -99,6 +104,8 @@ void Ficha::LimpiarCampos() {
 }
 
 void Ficha::Vaciar() {
+    if (m_clave != 0)
+        m_anterior = m_clave;
     m_clave = 0;
     LimpiarCampos();
     PonerModo(ModoFicha::Vacia);
@@ -155,6 +162,8 @@ bool Ficha::CargarFicha(double clave) {
             return false;
         }
         LimpiarCampos();
+        if (m_clave != 0 && m_clave != clave)
+            m_anterior = m_clave;
         m_clave = clave;
         PonerModo(ModoFicha::Mostrando);
         m_hoja->Mostrar(rs);
@@ -177,7 +186,24 @@ void Ficha::NoEncontrado(double) {
 void Ficha::AbrirCon(double clave) {
     for (auto* boton : findChildren<QToolButton*>(QRegularExpression(QStringLiteral("^IconoBusDato"))))
         boton->hide(); // and its key with it
+    m_fija = true;
     CargarFicha(clave);
+}
+
+void Ficha::VolverAlAnterior() {
+    if (m_fija)
+        return;
+    const double clave = m_anterior != 0 ? m_anterior : Ultimo(Base(), m_definicion.columnaClave);
+    if (clave == 0 || clave == m_clave)
+        m_barra->Decir(QStringLiteral("No hay otro registro al que volver"));
+    else if (PermiteCargarOtro())
+        CargarFicha(clave);
+}
+
+void Ficha::hideEvent(QHideEvent* evento) {
+    QDialog::hideEvent(evento);
+    if (!evento->spontaneous())
+        RecordarUltimo(Base(), m_definicion.columnaClave, m_clave);
 }
 
 // --- leaving

@@ -48,9 +48,14 @@ public:
     // Ctrl+S: what stands around the focus is saved, by the button of its page or by the sheet's own.
     void GuardarLoCercano();
 
+    // Alt+Left: the record that was on screen before this one; on a fresh sheet the one on which it was closed last.
+    void VolverAlAnterior();
+
     void reject() override; // Escape, Cerrar, the window's cross: not over changes that nobody has saved
 
 protected:
+    void hideEvent(QHideEvent* evento) override;
+
     // Hooks, in the order in which they come into play.
     virtual std::vector<PaginaPendiente> Pendientes() {
         return {};
@@ -85,7 +90,8 @@ protected:
     QVBoxLayout* Cuerpo() const { return m_cuerpo; } // above the commands
     QWidget* CrearRejilla(QWidget* padre, int hoja = 0) { return m_hoja->CrearRejilla(padre, hoja); }
     QGridLayout* Rejilla() const { return m_hoja->Rejilla(); }
-    void PonerIconoBusDato(int icono, int indiceCampo, const char* nombre); // the search icon beside a field
+    // The search icon beside a field, and the key that presses it; that of the code has F3.
+    void PonerIconoBusDato(int icono, int indiceCampo, const char* nombre, const QKeySequence& tecla = {});
     BarraFicha& Barra() { return *m_barra; }
     void TerminarConstruccion(QWidget* ultimo); // focus on the code; the buttons come after the last control
     void Vigilar(QWidget* control) { m_hoja->Vigilar(control); }
@@ -101,6 +107,7 @@ protected:
     QString CodigoTecleado() const { return Texto(0); }
     Conexion& Base() const { return m_sesion.conexion; }
     Sesion& LaSesion() const { return m_sesion; }
+    bool Fija() const { return m_fija; } // opened with its record, and for no other
     bool Editando() const { return m_modo == ModoFicha::Añadiendo || m_modo == ModoFicha::Modificando; }
     void EntrarEnModificar(); // as typing does
     bool PermiteDejar(); // pages with something unsaved: saved or given up, as the user says; false to stay
@@ -129,6 +136,8 @@ private:
     BarraFicha* m_barra;
     QVBoxLayout* m_cuerpo;
     double m_clave = 0;
+    double m_anterior = 0; // record that was on screen before
+    bool m_fija = false;
     ModoFicha m_modo = ModoFicha::Vacia;
     bool m_fallo = false; // the last save failed: what is on screen stands nowhere else
 };

@@ -111,8 +111,10 @@ QComboBox* HojaDeCampos::CrearCombo(const ComboFicha& c, QWidget* padre) {
         combo->lineEdit()->setMaxLength(AnchuraDe(c.columna));
         connect(combo->lineEdit(), &QLineEdit::textEdited, this, [this] { Editar(); });
     }
-    if (c.itemDetallado)
-        connect(combo, &QComboBox::currentTextChanged, this, [this, &c] { MostrarDetalle(c); });
+    connect(combo, &QComboBox::currentTextChanged, this, [this, &c] {
+        MostrarDetalle(c);
+        Reparar();
+    });
     Vigilar(combo);
     m_combos[c.nombre] = combo;
     return combo;

@@ -75,6 +75,11 @@ void HojaDeCampos::Mostrar(Recordset& rs) {
     for (const auto& combo : m_definicion.combos)
         MostrarDetalle(combo);
     DarPorGuardado();
+    for (const auto& c : m_definicion.combos)
+        if (c.columna && Combo(c.nombre).currentText().isEmpty())
+            if (const auto texto = rs[c.columna].Texto(); !texto.empty())
+                m_fueraDeLista[&Combo(c.nombre)] = QString::fromStdString(texto);
+    Reparar();
 }
 
 void HojaDeCampos::Escribir(Recordset& rs) const {
@@ -129,6 +134,7 @@ QMap<QString, QString> HojaDeCampos::Contenido() const {
 
 void HojaDeCampos::DarPorGuardado() {
     m_mostrado = Contenido();
+    m_fueraDeLista.clear();
     for (const auto& [nombre, combo] : m_combos)
         m_decididos[combo] = combo->currentText();
 }
@@ -159,6 +165,13 @@ void HojaDeCampos::Reparar() {
         if (const auto it = m_campos.find(c.indice); it != m_campos.end() && !it->second->Señal().isEmpty())
             reparos << it->second->accessibleName() + QStringLiteral(" «") + it->second->text() +
                            QStringLiteral("»: ") + it->second->Señal();
+    for (const auto& c : m_definicion.combos) {
+        const auto& combo = Combo(c.nombre);
+        if (const auto it = m_fueraDeLista.find(&combo);
+            it != m_fueraDeLista.end() && combo.currentText().isEmpty())
+            reparos << QStringLiteral("%1: «%2» no está en la lista, y al guardar se perderá")
+                           .arg(combo.accessibleName(), it->second);
+    }
     m_pie->setText(reparos.join(QStringLiteral(". ")));
     m_pie->setVisible(!reparos.isEmpty());
 }
@@ -237,6 +250,17 @@ void HojaDeCampos::Decidir(QComboBox& combo) {
     decidido = combo.currentText();
     if (alDecidir)
         alDecidir(combo);
+    decidido = combo.currentText(); // the owner may have put the former item back
+}
+
+void HojaDeCampos::Asentar() {
+    for (const auto& [nombre, combo] : m_combos)
+        Decidir(*combo);
+    auto* foco = m_ventana->window()->focusWidget();
+    const auto esFoco = [&](const auto& par) { return par.second == foco; };
+    if (alDejar && (std::any_of(m_campos.begin(), m_campos.end(), esFoco) ||
+                    std::any_of(m_memos.begin(), m_memos.end(), esFoco)))
+        alDejar(*foco);
 }
 
 bool HojaDeCampos::Tecla(QWidget& campo, const QKeyEvent& tecla) {

@@ -41,6 +41,8 @@ public:
     void Limpiar();
     // Shows the current row and takes it as what nobody has touched yet.
     void Mostrar(Recordset& rs);
+    // What is being typed or gone through counts as left and decided on, before a save that a key asks for while the focus stays where it is.
+    void Asentar();
     // What stands in the fields becomes what nobody has touched yet.
     void DarPorGuardado();
     // Something reads otherwise than it was shown; one field may be left out of account.
@@ -112,7 +114,8 @@ private:
     QMap<QString, QString> m_mostrado; // what nobody has touched, by field
     std::map<int, Valor> m_fechas;     // of the row that is shown, or worked out since
     std::map<const QComboBox*, QString> m_decididos;
-    const QComboBox* m_pasando = nullptr; // its items are being gone through by keys or wheel
+    std::map<const QComboBox*, QString> m_fueraDeLista; // stored texts that no item shows
+    const QComboBox* m_pasando = nullptr;               // its items are being gone through by keys or wheel
 };
 
 } // namespace pastorix

@@ -34,6 +34,22 @@ void LineasEditables::Mostrar(std::vector<Linea> lineas) {
     LimpiarEntradas();
 }
 
+void LineasEditables::MostrarDeNuevo(std::vector<Linea> lineas) {
+    if (!EnCurso())
+        return Mostrar(std::move(lineas));
+    QStringList escrito;
+    for (const auto& e : m_entradas)
+        escrito << e.Leer();
+    const auto ofrecido = m_ofrecido;
+    const int fila = m_fila;
+    Mostrar(std::move(lineas));
+    for (std::size_t i = 0; i < m_entradas.size(); ++i)
+        m_entradas[i].Poner(escrito.at(static_cast<qsizetype>(i)));
+    m_ofrecido = ofrecido;
+    m_fila = fila < static_cast<int>(m_lineas.size()) ? fila : -1;
+    Rotular();
+}
+
 void LineasEditables::FijarLista(std::size_t columna, const QStringList& valores) {
     for (auto& e : m_entradas)
         if (e.Columna() == columna && e.Combo()) {

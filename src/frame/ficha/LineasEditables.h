@@ -46,6 +46,8 @@ public:
 
     // Shows lines; the fields are cleared.
     void Mostrar(std::vector<Linea> lineas);
+    // The same lines read anew: what is being entered stays in the fields.
+    void MostrarDeNuevo(std::vector<Linea> lineas);
     const std::vector<Linea>& Lineas() const { return m_lineas; }
     // Items of the combo of a column that come from the database.
     void FijarLista(std::size_t columna, const QStringList& valores);

@@ -1,5 +1,6 @@
 // The window of the lines: grid, strip of fields, keys.
 #include "frame/Iconos.h"
+#include "frame/Tablas.h"
 #include "frame/ficha/Aspecto.h"
 #include "frame/ficha/CampoTexto.h"
 #include "frame/ficha/LineasEditables.h"

@@ -1,6 +1,6 @@
 #include "frame/ficha/RejillaHijos.h"
 
-#include "frame/ficha/Aspecto.h"
+#include "frame/Tablas.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -16,12 +16,13 @@ RejillaHijos::RejillaHijos(std::span<const ColumnaHijos> columnas, QWidget* padr
     for (const auto& c : columnas)
         titulos << QString::fromUtf8(c.titulo);
     setHorizontalHeaderLabels(titulos);
-    for (int i = 0; i < columnCount(); ++i)
-        setColumnWidth(i, fontMetrics().averageCharWidth() *
-                              (columnas[static_cast<std::size_t>(i)].caracteres + 2));
     VestirTabla(*this);
-    for (int i = 0; i < columnCount(); ++i)
-        setColumnHidden(i, columnas[static_cast<std::size_t>(i)].caracteres == 0);
+    for (int i = 0; i < columnCount(); ++i) {
+        const auto& c = columnas[static_cast<std::size_t>(i)];
+        setColumnWidth(i, fontMetrics().averageCharWidth() * (c.caracteres + 2));
+        setColumnHidden(i, c.caracteres == 0);
+        horizontalHeaderItem(i)->setToolTip(QString::fromUtf8(c.explicacion));
+    }
     connect(this, &QTableWidget::itemSelectionChanged, this, [this] {
         if (alCambiarSeleccion)
             alCambiarSeleccion();
@@ -117,6 +118,8 @@ void RejillaHijos::focusInEvent(QFocusEvent* evento) {
 void RejillaHijos::keyPressEvent(QKeyEvent* evento) {
     if ((evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) && currentRow() >= 0 && alAbrir)
         alAbrir(currentRow());
+    else if (evento->key() == Qt::Key_Insert && alInsertar)
+        alInsertar();
     else if (evento->key() == Qt::Key_Delete && alEliminar)
         alEliminar();
     else

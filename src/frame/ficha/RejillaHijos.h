@@ -14,7 +14,8 @@ namespace pastorix {
 struct ColumnaHijos {
     const char* columna; // field of the query; nullptr where the owner makes the values
     const char* titulo;
-    int caracteres; // width; 0 hides the column
+    int caracteres;               // width; 0 hides the column
+    const char* explicacion = ""; // in words, where the heading is a code
 };
 
 // The grid of a sheet's child rows: read-only, one row chosen at a time. A click, or moving onto it with the arrows, brings a row into the
@@ -41,6 +42,7 @@ public:
     std::function<void(int fila)> alElegir; // a row became the current one
     std::function<void(int fila)> alAbrir;  // a row is to be opened
     std::function<void()> alCambiarSeleccion;
+    std::function<void()> alInsertar; // the Insert key
     std::function<void()> alEliminar; // the Delete key
 
 protected:

@@ -1,6 +1,7 @@
 #include "frame/selector/FranjaFiltros.h"
 
 #include "frame/selector/FiltroSelector.h"
+#include "frame/selector/ModSelector.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -15,6 +16,9 @@
 namespace pastorix {
 
 namespace {
+
+constexpr const char* kTitulo = "titulo";
+constexpr const char* kColumna = "columna";
 
 // Drops what may not stand in the box, whether it is typed or pasted.
 class FiltroDeTeclas : public QValidator {
@@ -53,15 +57,21 @@ void FranjaFiltros::CrearCaja(int columna, const QString& titulo, int tipo) {
     auto* rotulo = new QLabel(titulo, m_ventana);
     rotulo->setObjectName(QStringLiteral("Et_Estandar(%1)").arg(columna));
     rotulo->setTextFormat(Qt::PlainText);
-    rotulo->setToolTip(titulo);
+    const auto explicacion = ExplicacionDeTitulo(titulo.toStdString());
+    rotulo->setToolTip(explicacion.empty() ? titulo : QString::fromUtf8(explicacion.data()));
+    rotulo->setProperty(kTitulo, titulo);
+    rotulo->setProperty(kColumna, columna);
+    rotulo->installEventFilter(this);
     auto* caja = new QLineEdit(m_ventana);
     caja->setObjectName(QStringLiteral("CTexto(%1)").arg(columna));
     caja->setAccessibleName(QStringLiteral("Filtro de ") + titulo);
     caja->setEnabled(tipo == TipoTexto || tipo == TipoFecha || tipo == TipoNumero);
     if (tipo != TipoTexto)
         caja->setValidator(new FiltroDeTeclas(tipo, caja));
-    caja->setProperty("columna", columna);
-    caja->setProperty("tipo", tipo);
+    caja->setProperty(kColumna, columna);
+    caja->setToolTip(tipo == TipoTexto    ? QStringLiteral("Intro filtra; * vale por cualquier texto")
+                     : tipo == TipoNumero ? QStringLiteral("Intro filtra; admite >, < y =")
+                                          : QStringLiteral("Intro filtra; dd/mm/aa"));
     caja->installEventFilter(this);
     connect(caja, &QLineEdit::returnPressed, this, &FranjaFiltros::Filtrar);
     rotulo->setBuddy(caja);
@@ -76,13 +86,21 @@ std::vector<std::string> FranjaFiltros::Textos() const {
     return textos;
 }
 
-QLineEdit* FranjaFiltros::PrimeraDeTexto() const {
-    const auto primera = [this](auto condicion) {
-        const auto it = std::find_if(m_cajas.begin(), m_cajas.end(), condicion);
-        return it == m_cajas.end() ? nullptr : *it;
-    };
-    auto* caja = primera([](const QLineEdit* c) { return c->property("tipo").toInt() == TipoTexto; });
-    return caja ? caja : primera([](const QLineEdit* c) { return c->isEnabled(); });
+void FranjaFiltros::PermitirOrden() {
+    m_ordenable = true;
+    for (auto* rotulo : m_titulos) {
+        rotulo->setCursor(Qt::PointingHandCursor);
+        rotulo->setToolTip(rotulo->toolTip() + QStringLiteral("\nClic, o Ctrl+O en su casilla: ordenar"));
+    }
+}
+
+void FranjaFiltros::MostrarOrden(int columna, bool descendente) {
+    for (int i = 0; i < static_cast<int>(m_titulos.size()); ++i) {
+        auto* rotulo = m_titulos[static_cast<std::size_t>(i)];
+        const auto titulo = rotulo->property(kTitulo).toString();
+        rotulo->setText(i != columna ? titulo
+                                     : (descendente ? QStringLiteral("▼ ") : QStringLiteral("▲ ")) + titulo);
+    }
 }
 
 int FranjaFiltros::AnchoDeTitulo(int columna) const {
@@ -95,13 +113,25 @@ bool FranjaFiltros::eventFilter(QObject* objeto, QEvent* evento) {
             Colocar();
         return false;
     }
+    const int columna = objeto->property(kColumna).toInt();
     auto* caja = qobject_cast<QLineEdit*>(objeto);
-    if (caja && evento->type() == QEvent::FocusIn) {
-        DejarVer(caja->property("columna").toInt());
+    if (!caja) {
+        if (m_ordenable && evento->type() == QEvent::MouseButtonRelease)
+            Q_EMIT Ordenar(columna);
+        return false;
+    }
+    if (evento->type() == QEvent::FocusIn) {
+        DejarVer(columna);
         caja->selectAll();
-    } else if (caja && evento->type() == QEvent::KeyPress &&
-               static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Down) {
-        Q_EMIT Bajar();
+    } else if (evento->type() == QEvent::KeyPress) {
+        const auto& tecla = static_cast<QKeyEvent&>(*evento);
+        const bool orden = tecla.modifiers() == Qt::ControlModifier && tecla.key() == Qt::Key_O;
+        if (tecla.key() == Qt::Key_Down)
+            Q_EMIT Bajar();
+        else if (orden && m_ordenable)
+            Q_EMIT Ordenar(columna);
+        else
+            return false;
         return true;
     }
     return false;

@@ -1,5 +1,7 @@
 #include "frame/selector/GridSelector.h"
 
+#include "frame/Tablas.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 
@@ -8,20 +10,17 @@ namespace pastorix {
 GridSelector::GridSelector(QWidget* padre)
     : QTableView(padre) {
     setObjectName(QStringLiteral("GridSelector"));
-    setEditTriggers(NoEditTriggers);
-    setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
-    setAlternatingRowColors(true);
-    setTabKeyNavigation(false);
+    VestirTabla(*this);
     setWordWrap(false);
     setCornerButtonEnabled(false);
     setHorizontalScrollMode(ScrollPerPixel); // the filter boxes go along
-    verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setSectionsClickable(false);
+    verticalHeader()->setFixedWidth(
+        verticalHeader()->fontMetrics().horizontalAdvance(QStringLiteral("baja")) + 12);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setFixedHeight(7);
     horizontalHeader()->setMinimumSectionSize(30);
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     connect(this, &QTableView::doubleClicked, this,
             [this](const QModelIndex& indice) { Q_EMIT Elegida(indice.row()); });

@@ -126,6 +126,53 @@ SentenciaDeLista ListaSelector::Sentencia(bool conBajas) const {
     return ocultaBajas ? SentenciaXSelector(conBajas) : sentencia;
 }
 
+bool ListaSelector::AbreFicha() const {
+    return !clave.empty() && tipo <= TipoSelector::GanaderosParaSementales;
+}
+
+std::string_view ExplicacionDeTitulo(std::string_view titulo) {
+    static constexpr std::pair<std::string_view, std::string_view> kPalabras[] = {
+        {"Cód.Gan", "Código del ganadero"},
+        {"Cód.Vaca", "Código de la vaca"},
+        {"Cód.Sem.", "Código del semental"},
+        {"Reg.Gen.", "Registro genealógico"},
+        {"Reg.Genealógico", "Registro genealógico"},
+        {"Reg.San.", "Registro de saneamiento"},
+        {"CrotalANT", "Crotal anterior"},
+        {"Nombre-C", "Nombre compuesto"},
+        {"Semental-C", "Nombre compuesto del semental"},
+        {"F.Baja", "Fecha de baja"},
+        {"FechaN", "Fecha de nacimiento"},
+        {"CalifM", "Calificación morfológica"},
+        {"MGPN", "Mérito genético: peso al nacimiento"},
+        {"FiabPN", "Fiabilidad del mérito: peso al nacimiento"},
+        {"MGPD", "Mérito genético: peso al destete"},
+        {"FiabPD", "Fiabilidad del mérito: peso al destete"},
+        {"MGGD", "Mérito genético: ganancia diaria"},
+        {"FiabGD", "Fiabilidad del mérito: ganancia diaria"},
+        {"MGDifP", "Mérito genético: dificultad de parto"},
+        {"FiabDP", "Fiabilidad del mérito: dificultad de parto"},
+    };
+    const auto* it = std::find_if(std::begin(kPalabras), std::end(kPalabras),
+                                  [&](const auto& par) { return par.first == titulo; });
+    return it == std::end(kPalabras) ? std::string_view() : it->second;
+}
+
+std::vector<double> ClavesDeBaja(Conexion& conexion, std::string_view clave) {
+    const char* sql =
+        clave == "Id_Vaca"       ? "SELECT Id_Vaca FROM T_Vacas WHERE FechaDesecho Is Not Null"
+        : clave == "Id_Semental" ? "SELECT Id_Semental FROM T_Sementales WHERE FechaBaja Is Not Null"
+        : clave == "Id_Ganadero" ? "SELECT Id_Ganadero FROM T_Ganaderos WHERE FechaBaja Is Not Null"
+                                 : nullptr;
+    std::vector<double> claves;
+    if (!sql)
+        return claves;
+    for (Recordset rs(conexion, sql, Cursor::Estatico, Bloqueo::SoloLectura); !rs.Eof(); rs.Siguiente())
+        claves.push_back(rs[0].Numero());
+    std::sort(claves.begin(), claves.end());
+    return claves;
+}
+
 void RehacerXSelector(Conexion& conexion, std::string_view ganadero) {
     EnGrupo(conexion, [&] {
         conexion.Execute("DELETE FROM X_Selector");

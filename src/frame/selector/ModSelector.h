@@ -50,7 +50,17 @@ struct ListaSelector {
 
     // The statement for this state of the removed-bulls button.
     SentenciaDeLista Sentencia(bool conBajas) const;
+    // X_Selector was filled in the order in which bulls are thought of; all other lists can be sorted by any column.
+    bool Ordenable() const { return !ocultaBajas; }
+    // A sheet looks for one of its records, or for the farmer whose they are: the list opens where the user was last.
+    bool AbreFicha() const;
 };
+
+// A caption in words; "" where it is one already.
+std::string_view ExplicacionDeTitulo(std::string_view titulo);
+
+// Those records of a key column that have left (a date of removal, cows and bulls; of leaving, farmers), in ascending order. Throws ErrorAlmacen.
+std::vector<double> ClavesDeBaja(Conexion& conexion, std::string_view clave);
 
 // Makes a list ready. `texto` is what its kind asks for: the whole statement made by the caller (2, 4, 9, 14, 17, 18, 19), the
 // farmer's code (11, 12, 15, 16), or nothing. Kinds 11, 12, 15 and 16 fill X_Selector anew. Throws ErrorAlmacen, and std::logic_error

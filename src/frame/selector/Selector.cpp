@@ -2,10 +2,13 @@
 
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
+#include "frame/Ultimos.h"
+#include "frame/Ventanas.h"
 #include "frame/selector/FranjaFiltros.h"
 #include "frame/selector/GridSelector.h"
 #include "frame/selector/ModeloSelector.h"
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,19 +30,12 @@ constexpr int kFilasDeMuestra = 60; // rows by which the first widths are judged
 constexpr int kAnchoMaximo = 240;   // of a column at first, pixels
 constexpr int kAnchoDeVentana = 1240;
 
-std::unique_ptr<Recordset> AbrirLista(Conexion& conexion, const SentenciaDeLista& sentencia,
-                                      std::string_view filtro = {}) {
-    return std::make_unique<Recordset>(conexion, sentencia.Completa(filtro), Cursor::Estatico,
-                                       Bloqueo::SoloLectura);
-}
-
 template <typename Hacer>
 std::optional<Eleccion> ConAviso(QWidget* padre, Hacer hacer) {
     try {
         return hacer();
     } catch (const ErrorAlmacen& error) {
-        Avisar(padre, TipoMensaje::Atencion, QStringLiteral("Atención..."),
-               QString::number(error.Numero()) + QStringLiteral(" ... ") + QString::fromUtf8(error.what()));
+        AvisarFallo(padre, QStringLiteral("Atención..."), error.Numero(), error);
         return std::nullopt;
     }
 }
@@ -64,25 +60,26 @@ Selector::Selector(Conexion& conexion, ListaSelector lista, QWidget* padre)
     setWindowModality(Qt::WindowModal);
     auto* columna = new QVBoxLayout(this);
     columna->setContentsMargins(8, 4, 8, 6);
-    columna->setSpacing(2);
-    CrearBarra();
-    CrearLista(AbrirLista(m_conexion, m_lista.Sentencia(m_conBajas)));
+    columna->setSpacing(4);
+    CrearBarra(*columna);
+    CrearLista(Abrir());
     m_estado = new QLabel(this);
     m_estado->setObjectName(QStringLiteral("Estado"));
+    m_estado->setTextFormat(Qt::PlainText); // it repeats what was typed
+    m_estado->setWordWrap(true);
     columna->addWidget(m_estado);
+    ConectarLista();
     AjustarColumnas();
+    RecordarVentana(*this, objectName() + windowTitle());
     Contar();
-    if (auto* caja = m_filtros->PrimeraDeTexto())
-        caja->setFocus();
-    else
-        m_rejilla->setFocus();
+    m_busca->setFocus();
 }
 
 Selector::~Selector() {
     delete m_filtros; // it watches the list, which as the older child would go first
 }
 
-void Selector::CrearBarra() {
+void Selector::CrearBarra(QVBoxLayout& columna) {
     auto* barra = new QToolBar(this);
     barra->setObjectName(QStringLiteral("BarraHerr"));
     barra->setAccessibleName(QStringLiteral("Barra de herramientas"));
@@ -101,7 +98,29 @@ void Selector::CrearBarra() {
         m_boton->setToolTip(accionado ? QStringLiteral(" Accionado ") : QString());
         Filtrar();
     });
-    layout()->addWidget(barra);
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(CrearBusqueda(), 1);
+    fila->addWidget(barra);
+    columna.addLayout(fila);
+}
+
+QWidget* Selector::CrearBusqueda() {
+    auto* caja = new QWidget(this);
+    auto* fila = new QHBoxLayout(caja);
+    fila->setContentsMargins(0, 0, 12, 0);
+    m_busca = new QLineEdit(caja);
+    m_busca->setObjectName(QStringLiteral("Buscar"));
+    m_busca->setPlaceholderText(QStringLiteral("en todas las columnas, según se escribe"));
+    m_busca->setToolTip(QStringLiteral(
+        "Parte de un nombre, de un crotal o de un código; varias palabras, en cualquier orden"));
+    m_busca->setClearButtonEnabled(true);
+    m_busca->installEventFilter(this);
+    connect(m_busca, &QLineEdit::textChanged, this, &Selector::Buscar);
+    auto* rotulo = new QLabel(QStringLiteral("&Buscar"), caja);
+    rotulo->setBuddy(m_busca);
+    fila->addWidget(rotulo);
+    fila->addWidget(m_busca, 1);
+    return caja;
 }
 
 void Selector::CrearLista(std::unique_ptr<Recordset> filas) {
@@ -113,34 +132,42 @@ void Selector::CrearLista(std::unique_ptr<Recordset> filas) {
         tipos.push_back(m_columnas[i].tipo);
 
     m_modelo = new ModeloSelector(titulos, this);
+    auto bajas = ClavesDeBaja(m_conexion, m_lista.clave);
+    m_modelo->FijarBajas(m_lista.clave, std::move(bajas));
     m_modelo->Poner(std::move(filas));
     m_rejilla = new GridSelector(this);
     m_rejilla->setAccessibleName(windowTitle().trimmed());
     m_rejilla->setModel(m_modelo);
+    m_rejilla->verticalHeader()->setVisible(m_modelo->HayBajas());
     for (int i = static_cast<int>(titulos.size()); i < m_modelo->columnCount(); ++i)
         m_rejilla->setColumnHidden(i, true);
     m_filtros = new FranjaFiltros(titulos, tipos, m_rejilla, this);
+    if (m_lista.Ordenable())
+        m_filtros->PermitirOrden();
     layout()->addWidget(m_filtros);
     layout()->addWidget(m_rejilla);
+}
 
-    QWidget* anterior = m_boton;
-    for (auto* caja : m_filtros->Cajas()) {
-        setTabOrder(anterior, caja);
-        anterior = caja;
-    }
-    setTabOrder(anterior, m_rejilla);
-    connect(m_filtros, &FranjaFiltros::Filtrar, this, &Selector::Filtrar);
-    connect(m_filtros, &FranjaFiltros::Bajar, m_rejilla, [this] { m_rejilla->setFocus(); });
-    connect(m_rejilla, &GridSelector::Elegida, this, &Selector::Elegida);
-    const auto aLosFiltros = [this](const QString& letra) {
-        if (auto* caja = m_filtros->PrimeraDeTexto()) {
-            caja->setFocus();
-            if (!letra.isEmpty())
-                caja->insert(letra); // the box's text is selected, so it is replaced
-        }
+void Selector::ConectarLista() {
+    QWidget* anterior = m_busca;
+    const auto despues = [&](QWidget* control) {
+        setTabOrder(anterior, control);
+        anterior = control;
     };
-    connect(m_rejilla, &GridSelector::Escrito, this, aLosFiltros);
-    connect(m_rejilla, &GridSelector::ArribaDelTodo, this, [aLosFiltros] { aLosFiltros({}); });
+    despues(m_boton);
+    for (auto* caja : m_filtros->Cajas())
+        despues(caja);
+    despues(m_rejilla);
+    connect(m_filtros, &FranjaFiltros::Filtrar, this, &Selector::Filtrar);
+    connect(m_filtros, &FranjaFiltros::Ordenar, this, &Selector::Ordenar);
+    connect(m_filtros, &FranjaFiltros::Bajar, this, &Selector::AlaLista);
+    connect(m_rejilla, &GridSelector::Elegida, this, &Selector::Elegida);
+    connect(m_rejilla, &GridSelector::Escrito, this, [this](const QString& letra) {
+        m_busca->setFocus();
+        m_busca->setText(letra); // another search begins
+    });
+    connect(m_rejilla, &GridSelector::ArribaDelTodo, this,
+            [this] { (m_vuelta ? m_vuelta : m_busca)->setFocus(); });
 }
 
 // First widths by heading and first rows; the window takes them, as far as the screen has room.
@@ -161,25 +188,83 @@ void Selector::AjustarColumnas() {
         total += ancho;
     }
     const QRect pantalla = screen()->availableGeometry();
+    if (m_rejilla->verticalHeader()->isVisibleTo(m_rejilla))
+        total += m_rejilla->verticalHeader()->width();
     total += m_rejilla->verticalScrollBar()->sizeHint().width() + 24;
     resize(std::clamp(total, 480, std::max(480, std::min(kAnchoDeVentana, pantalla.width() - 40))),
            std::min(600, pantalla.height() - 60));
 }
 
+std::unique_ptr<Recordset> Selector::Abrir() const {
+    auto sentencia = m_lista.Sentencia(m_conBajas);
+    if (m_columnaOrden >= 0)
+        sentencia =
+            sentencia.OrdenadaPor(m_columnas[static_cast<std::size_t>(m_columnaOrden)].campo, m_descendente);
+    return std::make_unique<Recordset>(m_conexion, sentencia.Completa(m_filtro), Cursor::Estatico,
+                                       Bloqueo::SoloLectura);
+}
+
 void Selector::Filtrar() {
+    const auto anterior = m_filtro;
     try {
-        const auto filtro = TextoDelFiltro(m_columnas, m_filtros->Textos());
-        m_modelo->Poner(AbrirLista(m_conexion, m_lista.Sentencia(m_conBajas), filtro));
+        m_filtro = TextoDelFiltro(m_columnas, m_filtros->Textos());
+        m_modelo->Poner(Abrir());
+        m_rejilla->verticalHeader()->setVisible(m_modelo->HayBajas());
         Contar();
     } catch (const ErrorAlmacen&) {
-        m_estado->setText(QStringLiteral("El filtro no es correcto; la lista queda como estaba"));
+        m_filtro = anterior;
+        Decir(*m_estado, QStringLiteral("El filtro no es correcto; la lista queda como estaba"));
     }
+}
+
+// Upwards, downwards, and back to the list's own order.
+void Selector::Ordenar(int columna) {
+    const bool otra = columna != m_columnaOrden;
+    m_columnaOrden = otra || !m_descendente ? columna : -1;
+    m_descendente = !otra && !m_descendente;
+    m_filtros->MostrarOrden(m_columnaOrden, m_descendente);
+    try {
+        m_modelo->Poner(Abrir());
+    } catch (const ErrorAlmacen& error) {
+        Decir(*m_estado, QString::fromUtf8(error.what()));
+    }
+}
+
+void Selector::Buscar(const QString& texto) {
+    m_modelo->Buscar(texto);
+    Contar();
 }
 
 void Selector::Contar() {
     const int filas = m_modelo->rowCount();
-    m_estado->setText(QLocale(QLocale::Spanish, QLocale::Spain).toString(filas) +
-                      (filas == 1 ? QStringLiteral(" registro") : QStringLiteral(" registros")));
+    const int bajas = m_modelo->Bajas();
+    const QLocale español(QLocale::Spanish, QLocale::Spain);
+    auto cuenta =
+        español.toString(filas) + (filas == 1 ? QStringLiteral(" registro") : QStringLiteral(" registros"));
+    if (bajas > 0)
+        cuenta += QStringLiteral(", %1 de baja").arg(español.toString(bajas));
+    Decir(*m_estado, filas > 0 ? cuenta : cuenta + PorQueNada());
+}
+
+// How to find what was not found.
+QString Selector::PorQueNada() const {
+    if (!m_modelo->Buscado().isEmpty())
+        return QStringLiteral(" con «%1»").arg(m_modelo->Buscado()) +
+               (m_filtro.empty() ? QString() : QStringLiteral(" entre los que dejan los filtros"));
+    const auto textos = m_filtros->Textos();
+    for (std::size_t i = 0; i < textos.size(); ++i) {
+        const auto texto = QString::fromStdString(textos[i]).trimmed();
+        if (m_columnas[i].tipo == TipoTexto && !texto.isEmpty() && !texto.endsWith(QLatin1Char('*')))
+            return QStringLiteral(
+                       ". La casilla compara el texto entero; para buscar los que lo contienen, escriba *%1*")
+                .arg(QString(texto).remove(QLatin1Char('*')));
+    }
+    return {};
+}
+
+void Selector::AlaLista() {
+    m_vuelta = focusWidget();
+    m_rejilla->setFocus();
 }
 
 void Selector::Elegida(int fila) {
@@ -190,8 +275,37 @@ void Selector::Elegida(int fila) {
         m_eleccion.clave = NumeroDe(m_eleccion.De(m_lista.clave));
         if (!m_lista.respuesta.empty())
             m_eleccion.texto = TextoDe(m_eleccion.De(m_lista.respuesta));
+        if (m_lista.AbreFicha())
+            RecordarUltimo(m_conexion, m_lista.clave, m_eleccion.clave);
     }
     accept();
+}
+
+// The rows are not laid out before.
+void Selector::showEvent(QShowEvent* evento) {
+    QDialog::showEvent(evento);
+    if (!m_lista.AbreFicha() || evento->spontaneous())
+        return;
+    const int fila = m_modelo->FilaDe(m_lista.clave, Ultimo(m_conexion, m_lista.clave));
+    if (fila < 0)
+        return;
+    m_rejilla->setCurrentIndex(m_modelo->index(fila, 0));
+    m_rejilla->scrollTo(m_rejilla->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+// In the search box: down to the rows; Enter takes the only one that is left.
+bool Selector::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto != m_busca || evento->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(objeto, evento);
+    const int tecla = static_cast<QKeyEvent&>(*evento).key();
+    const bool intro = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+    if (!intro && tecla != Qt::Key_Down)
+        return QDialog::eventFilter(objeto, evento);
+    if (intro && m_modelo->rowCount() == 1)
+        Elegida(0);
+    else
+        AlaLista();
+    return true;
 }
 
 void Selector::keyPressEvent(QKeyEvent* evento) {

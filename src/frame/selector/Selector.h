@@ -15,7 +15,9 @@
 #include <vector>
 
 class QLabel;
+class QLineEdit;
 class QToolButton;
+class QVBoxLayout;
 
 namespace pastorix {
 
@@ -34,7 +36,7 @@ struct Eleccion {
     const Valor& De(std::string_view campo) const;
 };
 
-// The list-and-pick window: a row is filtered for above the columns and chosen with Enter or a double click.
+// The list-and-pick window: a row is looked for as one types, or filtered for above the columns, and chosen with Enter or a double click.
 class Selector : public QDialog {
     Q_OBJECT
 
@@ -55,13 +57,22 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
-    void CrearBarra();
+    void CrearBarra(QVBoxLayout& columna);
+    QWidget* CrearBusqueda();
     void CrearLista(std::unique_ptr<Recordset> filas);
+    void ConectarLista();
     void AjustarColumnas();
+    std::unique_ptr<Recordset> Abrir() const;
     void Filtrar();
+    void Ordenar(int columna);
+    void Buscar(const QString& texto);
     void Contar();
+    QString PorQueNada() const;
+    void AlaLista();
     void Elegida(int fila);
 
     Conexion& m_conexion;
@@ -69,10 +80,15 @@ private:
     bool m_conBajas = false;
     Eleccion m_eleccion;
     std::vector<ColumnaDeFiltro> m_columnas;
+    std::string m_filtro;    // of the list on show
+    int m_columnaOrden = -1; // that the list is sorted by; -1 its own order
+    bool m_descendente = false;
     ModeloSelector* m_modelo = nullptr;
     GridSelector* m_rejilla = nullptr;
     FranjaFiltros* m_filtros = nullptr;
     QToolButton* m_boton = nullptr;
+    QLineEdit* m_busca = nullptr;
+    QWidget* m_vuelta = nullptr; // the box from which the list was entered
     QLabel* m_estado = nullptr;
 };
 

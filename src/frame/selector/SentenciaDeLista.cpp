@@ -87,6 +87,15 @@ std::string SentenciaDeLista::Completa(std::string_view filtro) const {
     return t + orden;
 }
 
+SentenciaDeLista SentenciaDeLista::OrdenadaPor(std::string_view campo, bool descendente) const {
+    constexpr std::string_view kOrden = " ORDER BY ";
+    auto otra = *this;
+    otra.orden = std::string(kOrden).append(campo).append(descendente ? " DESC" : "");
+    if (orden.size() > kOrden.size())
+        otra.orden.append(", ").append(orden.substr(kOrden.size()));
+    return otra;
+}
+
 SentenciaDeLista PartirSentencia(std::string_view texto) {
     const auto hitos = Hitos(texto);
     auto donde = std::string_view::npos;

@@ -15,6 +15,8 @@ struct SentenciaDeLista {
 
     // The whole statement with a filter ("T_Vacas.Crotal LIKE '%45' AND ...", or "") behind the base condition.
     std::string Completa(std::string_view filtro = {}) const;
+    // The same list by one column first; its own order decides among equals.
+    SentenciaDeLista OrdenadaPor(std::string_view campo, bool descendente) const;
 };
 
 // Takes a whole statement apart at its own WHERE and ORDER BY; words within brackets, parentheses and literals do not count.

@@ -5,13 +5,9 @@
 
 namespace pastorix {
 
-namespace {
-
 std::optional<int> EnteroDe(const Campo& campo) {
     return campo.Nulo() ? std::nullopt : std::optional(static_cast<int>(campo.Entero()));
 }
-
-} // namespace
 
 std::string DondeCiclo(const CicloDeVaca& ciclo, const char* año, const char* parto) {
     const auto igual = [](const std::optional<int>& n) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Conexion.h"
+#include "store/Recordset.h"
 
 #include <optional>
 #include <string>
@@ -21,6 +21,9 @@ struct CicloDeVaca {
 // Condition on a cycle's rows, " WHERE Id_Vaca = ... AND Año_Ref = ... AND N_PARTO = ..."; those of a cycle without year or parity are the rows
 // without. Year and parity go by other names in the health tables.
 std::string DondeCiclo(const CicloDeVaca& ciclo, const char* año = "Año_Ref", const char* parto = "N_PARTO");
+
+// A whole number of a row, if there is one.
+std::optional<int> EnteroDe(const Campo& campo);
 
 // Mating records and calvings of a cow, the latest first. Twins are two rows of one parity and show as one calving.
 std::vector<CicloDeVaca> CubricionesDeVaca(Conexion& c, double idVaca);

@@ -13,21 +13,29 @@ constexpr AspectoColumna kIPR[] = {
 };
 
 constexpr AspectoColumna kAlimentacion[] = {
-    {"Año Natural", 6, "Ct_AI(0)"},           {"Inicio Periodo Invernal", 10, "Ct_AI(1)"},
-    {"Fin Periodo Invernal", 10, "Ct_AI(2)"}, {"Alimentación Vacas", 12, "Cd_AI(3)"},
-    {"Alimentación Nov.", 12, "Cd_AI(4)"},    {"Alimentación Per. Inv.", 12, "Cd_AI(5)"},
+    {"Año Natural", 6, "Ct_AI(0)"},
+    {"Inicio Periodo Invernal", 10, "Ct_AI(1)"},
+    {"Fin Periodo Invernal", 10, "Ct_AI(2)"},
+    {"Alimentación Vacas", 12, "Cd_AI(3)"},
+    {"Alimentación Nov.", 12, "Cd_AI(4)", false, 0, "Alimentación de las novillas"},
+    {"Alimentación Per. Inv.", 12, "Cd_AI(5)", false, 0, "Alimentación en el periodo invernal"},
 };
 
 constexpr AspectoColumna kSuperficie[] = {
-    {"Año Natural", 6, "Ct_As(0)"},   {"Has. no comunales", 8, "Ct_As(1)"}, {"Has. propias", 8, "Ct_As(2)"},
-    {"Has. abonadas", 8, "Ct_As(3)"}, {"Abonado N", 8, "Ct_As(4)"},         {"Abonado P", 8, "Ct_As(5)"},
-    {"Abonado K", 8, "Ct_As(6)"},     {"Abonado", 12, "Cd_As(7)"},
+    {"Año Natural", 6, "Ct_As(0)"},
+    {"Has. no comunales", 8, "Ct_As(1)", false, 0, "Hectáreas no comunales"},
+    {"Has. propias", 8, "Ct_As(2)", false, 0, "Hectáreas propias"},
+    {"Has. abonadas", 8, "Ct_As(3)", false, 0, "Hectáreas abonadas"},
+    {"Abonado N", 8, "Ct_As(4)", false, 0, "Abonado con nitrógeno"},
+    {"Abonado P", 8, "Ct_As(5)", false, 0, "Abonado con fósforo"},
+    {"Abonado K", 8, "Ct_As(6)", false, 0, "Abonado con potasio"},
+    {"Abonado", 12, "Cd_As(7)"},
 };
 
 constexpr AspectoColumna kPastos[] = {
     {"Año Natural", 6, "Ct_Pc(0)"},
     {"PastosCom", 4, "Cd_PC(1)", false, 0, "Aprovecha pastos comunales"},
-    {"Toros", 10, "Cd_PC(2)"},
+    {"Toros", 10, "Cd_PC(2)", false, 0, "Pastos comunales con toros o sin ellos"},
     {"DisponPC", 10, "Cd_PC(3)", false, 0, "Disponibilidad de los pastos comunales"},
     {"InicioPC", 10, "Ct_Pc(4)", false, 0, "Subida a los pastos comunales"},
     {"FinPC", 10, "Ct_Pc(5)", false, 0, "Bajada de los pastos comunales"},
@@ -38,14 +46,16 @@ constexpr AspectoColumna kPastos[] = {
 };
 
 constexpr AspectoColumna kVacunaciones[] = {
-    {"Año Natural", 6, "Ct_Vacu(0)"},      {"Proc.Respiratorios", 22, "Ct_Vacu(1)"},
-    {"Proc.Digestivos", 22, "Ct_Vacu(2)"}, {"Proc.Reproductivos", 22, "Ct_Vacu(3)"},
+    {"Año Natural", 6, "Ct_Vacu(0)"},
+    {"Proc.Respiratorios", 22, "Ct_Vacu(1)", false, 0, "Procesos respiratorios"},
+    {"Proc.Digestivos", 22, "Ct_Vacu(2)", false, 0, "Procesos digestivos"},
+    {"Proc.Reproductivos", 22, "Ct_Vacu(3)", false, 0, "Procesos reproductivos"},
     {"Parainmunidad", 22, "Ct_Vacu(4)"},
 };
 
 constexpr AspectoColumna kFechasVacu[] = {
-    {"IBR", 10, "Ct_FVacu(0)"},
-    {"BVD", 10, "Ct_FVacu(1)"},
+    {"IBR", 10, "Ct_FVacu(0)", false, 0, "Rinotraqueítis infecciosa bovina: fecha de la vacuna"},
+    {"BVD", 10, "Ct_FVacu(1)", false, 0, "Diarrea vírica bovina: fecha de la vacuna"},
     {"Mamitis", 10, "Ct_FVacu(2)"},
     {"Neospora", 10, "Ct_FVacu(3)"},
 };

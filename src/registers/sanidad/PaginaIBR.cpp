@@ -19,8 +19,8 @@ constexpr AspectoColumna kColumnasDeCiclo[] = {
     {"Nº Parto", 5},
     {"F. Parto", 8, nullptr, false, 0, "Fecha del parto"},
     {"F. Últ.Servicio", 8, nullptr, false, 0, "Fecha del último servicio"},
-    {"IBR", 8, "Cd_IBR"},
-    {"BVD", 8, "Cd_BVD"}};
+    {"IBR", 8, "Cd_IBR", false, 0, "Rinotraqueítis infecciosa bovina: resultado"},
+    {"BVD", 8, "Cd_BVD", false, 0, "Diarrea vírica bovina: resultado"}};
 
 const auto kNaturales = PorAñosNaturales("GridIBR", "IBR y BVD por año natural", kIBRBVD.natural,
                                          kColumnasNaturales, "Eliminar Año Natural: ");

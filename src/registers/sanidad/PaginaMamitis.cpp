@@ -21,10 +21,10 @@ constexpr int kNota = 26;  // ... and this its note
 constexpr int kAnchuraNota = 255;
 
 constexpr AspectoColumna kColumnasDeLactacion[] = {
-    {"Año Ref.", 5},
-    {"F.Parto", 8},
+    {"Año Ref.", 5, nullptr, false, 0, "Año de referencia"},
+    {"F.Parto", 8, nullptr, false, 0, "Fecha del parto"},
     {"Nº Parto", 5},
-    {"F.Destete", 18},
+    {"F.Destete", 18, nullptr, false, 0, "Fecha de destete"},
     {"Trat. Secado", 14, "Ct_CP(0)", false, 100, "Tratamiento de secado"},
     {"C. Perdidos antesD", 8, "Ct_CP(1)", false, 4, "Cuartos perdidos antes del destete"}};
 const DefinicionLineas kLactaciones{"GridMamitis", "Lactaciones", ColumnasDeLactacion(), kColumnasDeLactacion,

@@ -12,11 +12,12 @@ constexpr AspectoColumna kColumnasNaturales[] = {
     {"NeospSp", 8, "Cd_LepSp", false, 0, "Resultado de Neospora, sp"},
     {"NeospBp", 8, "Cd_LepBp", false, 0, "Resultado de Neospora, bp"}};
 
-constexpr AspectoColumna kColumnasDeCiclo[] = {{"Año Ref.", 5},
-                                               {"Nº Parto", 5},
-                                               {"Fecha Parto", 8},
-                                               {"F. Último Servicio", 8},
-                                               {"Neospora", 8, "CT_LEPR"}};
+constexpr AspectoColumna kColumnasDeCiclo[] = {
+    {"Año Ref.", 5, nullptr, false, 0, "Año de referencia"},
+    {"Nº Parto", 5},
+    {"Fecha Parto", 8},
+    {"F. Último Servicio", 8, nullptr, false, 0, "Fecha del último servicio"},
+    {"Neospora", 8, "CT_LEPR"}};
 
 const auto kNaturales =
     PorAñosNaturales("Grid_Lep", "Neospora por año natural", kNeospora.natural, kColumnasNaturales);

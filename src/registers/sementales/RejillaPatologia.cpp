@@ -1,6 +1,7 @@
 #include "registers/sementales/RejillaPatologia.h"
 
 #include "frame/Mensajes.h"
+#include "frame/Tablas.h"
 #include "frame/ficha/CampoTexto.h"
 
 #include <QComboBox>
@@ -30,8 +31,8 @@ constexpr AspectoColumna kAspectosSemR[] = {
     {"V.IBR", 13, "Cb_IBN(0)", true, 0, "Vacuna de IBR"},
     {"V.BVD", 13, "Cb_IBN(1)", true, 0, "Vacuna de BVD"},
     {"V.Neospora", 13, "Cb_IBN(2)", true, 0, "Vacuna de Neospora"},
-    {"IBR", 13, "Cb_IBN(3)"},
-    {"BVD", 13, "Cb_IBN(4)"},
+    {"IBR", 13, "Cb_IBN(3)", false, 0, "Rinotraqueítis infecciosa bovina: resultado"},
+    {"BVD", 13, "Cb_IBN(4)", false, 0, "Diarrea vírica bovina: resultado"},
     {"Neospora", 13, "Cb_IBN(5)"},
 };
 
@@ -85,8 +86,11 @@ public:
 
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& celda) const override {
         const auto* campo = dynamic_cast<CampoTexto*>(editor);
+        const auto* combo = dynamic_cast<QComboBox*>(editor);
         m_rejilla.Cambiar(celda.row(), celda.column(),
-                          campo ? campo->text() : static_cast<QComboBox*>(editor)->currentText());
+                          campo   ? campo->text()
+                          : combo ? combo->currentText()
+                                  : QString());
     }
 
 private:
@@ -133,6 +137,7 @@ RejillaPatologia::RejillaPatologia(const DefinicionPatologia& definicion, QWidge
     setSelectionMode(SingleSelection);
     setAlternatingRowColors(true);
     setTabKeyNavigation(false); // from a cell that is not being edited, Tab leaves the grid
+    CopiarConTeclas(*this);
     horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 10);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(QComboBox().sizeHint().height());

@@ -46,9 +46,9 @@ QWidget* Sementales::CrearGeneral() {
     todo->addWidget(CrearRejilla(general, 1));
     Rejilla()->addWidget(Seccion("Genealogía", general), 3, 0, 1, 6);
     Rejilla()->addWidget(Seccion("Valoración", general), 6, 0, 1, 6);
-    PonerIconoBusDato(2, 7, "Seleccionar padre");
-    PonerIconoBusDato(3, 10, "Seleccionar madre");
-    PonerIconoBusDato(4, 13, "Seleccionar por mérito");
+    PonerIconoBusDato(2, 7, "Seleccionar padre", QKeySequence(Qt::Key_F6));
+    PonerIconoBusDato(3, 10, "Seleccionar madre", QKeySequence(Qt::Key_F7));
+    PonerIconoBusDato(4, 13, "Seleccionar por mérito", QKeySequence(Qt::Key_F8));
     todo->addStretch();
     return general;
 }

@@ -1,6 +1,7 @@
 #include "registers/vacas/ObsControlRebano.h"
 
 #include "frame/Mensajes.h"
+#include "frame/Ventanas.h"
 #include "frame/ficha/CampoMemo.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
@@ -54,6 +55,7 @@ ObsControlRebaño::ObsControlRebaño(Conexion& c, double idVaca, QWidget* padre)
     abajo->addWidget(cancelar);
     todo->addLayout(abajo);
     resize(fontMetrics().averageCharWidth() * 90, fontMetrics().lineSpacing() * 16);
+    RecordarVentana(*this);
     Cargar();
     m_nota->setFocus();
 }

@@ -2,10 +2,13 @@
 
 #include "frame/Iconos.h"
 #include "frame/Mensajes.h"
+#include "frame/calendario/Reloj.h"
 #include "frame/ficha/RejillaHijos.h"
+#include "registers/vacas/LineaDeTiempo.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -15,7 +18,7 @@ namespace {
 
 constexpr ColumnaHijos kColumnasPartos[] = {{nullptr, "Nº de Parto", 12},
                                             {nullptr, "Fecha de Parto", 16},
-                                            {nullptr, "Año Ref", 10},
+                                            {nullptr, "Año Ref", 10, "Año de referencia"},
                                             {nullptr, "Datos Completos", 18}};
 constexpr ColumnaHijos kColumnasCubriciones[] = {{nullptr, "Id_Cubricion", 0},
                                                  {nullptr, "Año de Referencia", 20},
@@ -27,6 +30,11 @@ Valor Entero(const std::optional<int>& n) {
 }
 Valor Completo(const CicloDeVaca& c) {
     return std::string(c.completo ? "Sí" : "No");
+}
+// What a record is known by when the list is read anew; a mating record may have changed year and parity meanwhile.
+Valor ClaveDe(const CicloDeVaca& c) {
+    return c.idCubricion != 0 ? Valor(c.idCubricion)
+                              : Valor(TextoDe(Entero(c.añoRef)) + "/" + TextoDe(Entero(c.nParto)));
 }
 QString EnLetra(const std::optional<int>& n) {
     return QString::fromStdString(TextoDe(Entero(n)));
@@ -48,7 +56,8 @@ const DefinicionCiclos kPartosDeVaca{
     EliminarParto,
     [](const CicloDeVaca& c) {
         return QStringLiteral("Confirme eliminar el Parto Nº : ") + EnLetra(c.nParto);
-    }};
+    },
+    "Sin partos. «Añadir Parto...», o la tecla Insert, anota el primero."};
 
 const DefinicionCiclos kCubricionesDeVaca{
     "GridCubriciones",
@@ -66,17 +75,21 @@ const DefinicionCiclos kCubricionesDeVaca{
         return QStringLiteral("Confirme eliminar la Cubrición del Año de Referencia : %1 y Nº de Parto: ")
                    .arg(EnLetra(c.añoRef)) +
                EnLetra(c.nParto);
-    }};
+    },
+    "Sin cubriciones. «Añadir Cubrición...», o la tecla Insert, anota la primera.",
+    true};
 
 PaginaCiclos::PaginaCiclos(Conexion& c, const DefinicionCiclos& definicion, QWidget* padre)
     : QWidget(padre)
     , m_c(c)
     , m_definicion(definicion)
-    , m_rejilla(new RejillaHijos(definicion.columnas, this)) {
+    , m_rejilla(new RejillaHijos(definicion.columnas, this))
+    , m_comienzo(new QLabel(QString::fromUtf8(definicion.comienzo), this)) {
     m_rejilla->setObjectName(QString::fromUtf8(definicion.rejilla));
     m_rejilla->setAccessibleName(QString::fromUtf8(definicion.nombre));
-    m_rejilla->alAbrir = [this](int fila) { Abrir(fila); };
+    m_rejilla->alAbrir = [this](int fila) { Abrir(m_ciclos[static_cast<std::size_t>(fila)]); };
     m_rejilla->alCambiarSeleccion = [this] { Habilitar(); };
+    m_rejilla->alInsertar = [this] { Añadir(); };
     m_rejilla->alEliminar = [this] { Eliminar(); };
     const auto boton = [this](const char* nombre, const QString& texto, const char* icono) {
         auto* b = new QPushButton(Icono(icono), texto, this);
@@ -86,21 +99,31 @@ PaginaCiclos::PaginaCiclos(Conexion& c, const DefinicionCiclos& definicion, QWid
     };
     m_añadir = boton(definicion.botonAñadir, QString::fromUtf8(definicion.textoAñadir), "anadir");
     m_eliminar = boton(definicion.botonEliminar, QStringLiteral("Eliminar..."), "eliminar");
-    connect(m_añadir, &QPushButton::clicked, this, [this] {
-        if (puedeOperar && !puedeOperar())
-            return;
-        m_alAñadir();
-        Releer();
-    });
+    connect(m_añadir, &QPushButton::clicked, this, [this] { Añadir(); });
     connect(m_eliminar, &QPushButton::clicked, this, [this] { Eliminar(); });
+    Colocar();
+    Habilitar();
+}
+
+void PaginaCiclos::Colocar() {
     auto* botones = new QVBoxLayout;
     botones->addWidget(m_añadir);
     botones->addWidget(m_eliminar);
     botones->addStretch();
+    auto* listas = new QVBoxLayout;
+    listas->addWidget(m_comienzo);
+    listas->addWidget(m_rejilla, 1);
+    if (m_definicion.conLinea) {
+        m_linea = new LineaDeTiempo(this);
+        m_linea->alAbrir = [this](const CicloDeVaca& ciclo) { Abrir(ciclo); };
+        m_rejilla->alElegir = [this](int fila) {
+            m_linea->Elegir(m_ciclos[static_cast<std::size_t>(fila)].idCubricion);
+        };
+        listas->addWidget(m_linea);
+    }
     auto* todo = new QHBoxLayout(this);
-    todo->addWidget(m_rejilla, 1);
+    todo->addLayout(listas, 1);
     todo->addLayout(botones);
-    Habilitar();
 }
 
 void PaginaCiclos::FijarOrdenes(std::function<void(const CicloDeVaca&)> abrir, std::function<void()> añadir) {
@@ -110,13 +133,35 @@ void PaginaCiclos::FijarOrdenes(std::function<void(const CicloDeVaca&)> abrir, s
 }
 
 void PaginaCiclos::Mostrar(double idVaca) {
+    const bool laMisma = idVaca == m_idVaca;
     m_idVaca = idVaca;
     m_ciclos = idVaca == 0 ? std::vector<CicloDeVaca>() : m_definicion.leer(m_c, idVaca);
     std::vector<std::vector<Valor>> filas;
-    for (const auto& ciclo : m_ciclos)
+    for (const auto& ciclo : m_ciclos) {
         filas.push_back(m_definicion.celdas(ciclo));
-    m_rejilla->Llenar(std::move(filas));
+        filas.back().push_back(ClaveDe(ciclo));
+    }
+    if (laMisma)
+        m_rejilla->LlenarDeNuevo(std::move(filas), m_definicion.columnas.size());
+    else
+        m_rejilla->Llenar(std::move(filas));
+    m_comienzo->setVisible(idVaca != 0 && m_ciclos.empty());
+    m_lineaPendiente = true;
+    MostrarLinea();
     Habilitar();
+}
+
+void PaginaCiclos::MostrarLinea() {
+    if (!m_linea || !m_lineaPendiente || !isVisible())
+        return;
+    m_lineaPendiente = false;
+    m_linea->Mostrar(m_idVaca == 0 ? std::vector<CicloEnElTiempo>() : LeerLineaDeCiclos(m_c, m_idVaca),
+                     Hoy());
+}
+
+void PaginaCiclos::showEvent(QShowEvent* evento) {
+    QWidget::showEvent(evento);
+    MostrarLinea();
 }
 
 void PaginaCiclos::Releer() {
@@ -130,11 +175,23 @@ void PaginaCiclos::Habilitar() {
     m_eliminar->setEnabled(!m_rejilla->selectedItems().isEmpty());
 }
 
-void PaginaCiclos::Abrir(int fila) {
+void PaginaCiclos::Añadir() {
+    if (!m_añadir->isEnabled() || (puedeOperar && !puedeOperar()))
+        return;
+    m_alAñadir();
+    Releer();
+}
+
+void PaginaCiclos::Abrir(const CicloDeVaca& ciclo) {
     if ((puedeOperar && !puedeOperar()) || !m_abrir)
         return;
-    m_abrir(m_ciclos[static_cast<std::size_t>(fila)]);
+    m_abrir(CicloDeVaca(ciclo)); // the lists are read anew while its sheet stands open
     Releer();
+}
+
+void PaginaCiclos::AbrirUltimo() {
+    if (!m_ciclos.empty())
+        Abrir(m_ciclos.front());
 }
 
 void PaginaCiclos::Eliminar() {

@@ -8,10 +8,12 @@
 #include <span>
 #include <vector>
 
+class QLabel;
 class QPushButton;
 
 namespace pastorix {
 
+class LineaDeTiempo;
 class RejillaHijos;
 struct ColumnaHijos;
 
@@ -27,6 +29,8 @@ struct DefinicionCiclos {
     std::vector<Valor> (*celdas)(const CicloDeVaca&);
     void (*eliminar)(Conexion&, const CicloDeVaca&);
     QString (*pregunta)(const CicloDeVaca&);
+    const char* comienzo;  // how an empty tab says to begin
+    bool conLinea = false; // the cycles are drawn on a time line too
 };
 
 extern const DefinicionCiclos kPartosDeVaca;
@@ -39,21 +43,32 @@ public:
 
     // Throws ErrorAlmacen. With 0 nothing is shown.
     void Mostrar(double idVaca);
+    // Opens the latest cycle of the list.
+    void AbrirUltimo();
     // What a double click and the button do; empty: not there yet, and the button is off.
     void FijarOrdenes(std::function<void(const CicloDeVaca&)> abrir, std::function<void()> añadir);
 
     std::function<void()> alCambiar;   // cycles were opened, added or removed here
     std::function<bool()> puedeOperar; // false, after its own box, while the sheet is being edited
 
+protected:
+    void showEvent(QShowEvent* evento) override;
+
 private:
+    void Colocar();
+    void Añadir();
     void Eliminar();
-    void Abrir(int fila);
+    void Abrir(const CicloDeVaca& ciclo);
+    void MostrarLinea();
     void Habilitar();
     void Releer();
 
     Conexion& m_c;
     const DefinicionCiclos& m_definicion;
     RejillaHijos* m_rejilla;
+    QLabel* m_comienzo;
+    LineaDeTiempo* m_linea = nullptr;
+    bool m_lineaPendiente = false; // it is read when it comes into sight
     QPushButton* m_añadir;
     QPushButton* m_eliminar;
     std::vector<CicloDeVaca> m_ciclos;

@@ -11,12 +11,14 @@
 #include "registers/datos/NombreCompuesto.h"
 #include "registers/sanidad/PaginaMamitis.h"
 #include "registers/vacas/CamposDeVaca.h"
+#include "registers/vacas/FranjaSituacion.h"
 #include "registers/vacas/ObsControlRebano.h"
 #include "registers/vacas/PaginaCiclos.h"
 #include "store/Recordset.h"
 
 #include <QComboBox>
 #include <QTabWidget>
+#include <QToolButton>
 
 #include <vector>
 
@@ -82,6 +84,7 @@ void Vacas::MostrarPropios(Recordset& rs) {
     Poner(FechaBaja, rs["FechaBaja"].Texto());
     Poner(campo_vaca::AñoRef, rs["FechaBaja"].Nulo() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
     MostrarPaginas();
+    MostrarSituacion();
     m_crotal = Texto(Crotal);
     m_nombre = Texto(Nombre);
 }
@@ -105,6 +108,7 @@ void Vacas::VaciarPaginas() {
     m_mamitis->Mostrar({});
     for (auto* pagina : m_sanidad)
         pagina->Mostrar({});
+    m_situacion->Limpiar();
     m_mostrada = {};
 }
 
@@ -130,6 +134,7 @@ std::vector<PaginaPendiente> Vacas::Pendientes() {
 void Vacas::AlCambiarCiclos() {
     AlCambiarDePestaña(m_tab->currentIndex());
     Poner(campo_vaca::AñoRef, Texto(FechaBaja).isEmpty() ? std::string() : UltimoAñoDeVaca(Base(), Clave()));
+    MostrarSituacion();
 }
 
 void Vacas::AlCambiarDePestaña(int) {
@@ -229,8 +234,37 @@ void Vacas::ComponerNombre() {
 void Vacas::AbrirObservaciones() {
     bool numerico = false;
     const double codigo = CodigoTecleado().toDouble(&numerico);
-    if (numerico)
-        ObsControlRebaño(Base(), codigo, this).exec();
+    if (!numerico)
+        return;
+    ObsControlRebaño(Base(), codigo, this).exec();
+    MostrarSituacion();
+}
+
+void Vacas::MostrarSituacion() {
+    if (Clave() == 0 || Modo() == ModoFicha::Añadiendo)
+        return;
+    try {
+        m_situacion->Mostrar(LeerSituacion(Base(), Clave()));
+        m_situacion->PermitirPasar(!Fija());
+    } catch (const ErrorAlmacen& e) {
+        MostrarError(e);
+    }
+}
+
+void Vacas::PasarAVecina(int paso) {
+    const auto ganadero = Clave() == 0 ? m_ganadero->Id() : m_ganaderoLeido;
+    if (!ganadero)
+        return Barra().Decir(QStringLiteral("Elija un ganadero (F4) para recorrer sus vacas"));
+    try {
+        const auto vecina = VecinaDeRebaño(Base(), *ganadero, Clave(), paso);
+        if (!vecina)
+            Barra().Decir(paso > 0 ? QStringLiteral("Es la última de la lista")
+                                   : QStringLiteral("Es la primera de la lista"));
+        else if (PermiteCargarOtro())
+            CargarFicha(*vecina);
+    } catch (const ErrorAlmacen& e) {
+        MostrarError(e);
+    }
 }
 
 void Vacas::BuscarDato(int icono) {

@@ -14,6 +14,7 @@ class QVBoxLayout;
 namespace pastorix {
 
 class EncabezadoGanadero;
+class FranjaSituacion;
 class PaginaCiclos;
 class PaginaMamitis;
 class PaginaSanidad;
@@ -21,7 +22,7 @@ class PaginaSanidad;
 // The sheet of cows: identity, cycles, health and removal. Farmer, code, name and tag stand above the tabs and stay in sight on all of them.
 class Vacas : public Ficha {
 public:
-    Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre = nullptr);
+    Vacas(Sesion& sesion, const OrdenesDeVaca& ordenes, QWidget* padre = nullptr);
 
     // Opens with a new cow of that farmer begun.
     void AbrirParaAñadir(double idGanadero);
@@ -55,7 +56,7 @@ private:
     void Construir();
     QWidget* CrearCabecera();
     QWidget* CrearGeneral();
-    void ConectarCiclos(OrdenesDeVaca ordenes);
+    void ConectarCiclos(const OrdenesDeVaca& ordenes);
     void ConectarTeclas();
     void AlCambiarDePestaña(int indice);
     void MostrarPaginas();
@@ -67,6 +68,8 @@ private:
     void ElegirMadre();
     void ComponerNombre();
     void AbrirObservaciones();
+    void MostrarSituacion();
+    void PasarAVecina(int paso);
 
     // Ear tag as a way to a cow.
     void BuscarPorCrotal();
@@ -76,6 +79,7 @@ private:
 
     QTabWidget* m_tab;
     EncabezadoGanadero* m_ganadero = nullptr;
+    FranjaSituacion* m_situacion = nullptr;
     PaginaCiclos* m_partos = nullptr;
     PaginaCiclos* m_cubriciones = nullptr;
     PaginaMamitis* m_mamitis = nullptr;

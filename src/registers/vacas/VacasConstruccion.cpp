@@ -7,6 +7,7 @@
 #include "registers/sanidad/PaginaMamitis.h"
 #include "registers/sanidad/PaginaNeospora.h"
 #include "registers/vacas/CamposDeVaca.h"
+#include "registers/vacas/FranjaSituacion.h"
 #include "registers/vacas/PaginaCiclos.h"
 #include "registers/vacas/Vacas.h"
 
@@ -23,17 +24,18 @@ namespace pastorix {
 
 using namespace campo_vaca;
 
-Vacas::Vacas(Sesion& sesion, OrdenesDeVaca ordenes, QWidget* padre)
+Vacas::Vacas(Sesion& sesion, const OrdenesDeVaca& ordenes, QWidget* padre)
     : Ficha(sesion, kFichaDeVaca, padre)
     , m_tab(new QTabWidget(this)) {
     setObjectName(QStringLiteral("Vacas"));
     m_tab->setObjectName(QStringLiteral("TabVacas"));
     Barra()[BarraFicha::Eliminar]->setObjectName(QStringLiteral("B_Borrar"));
     Construir();
-    ConectarCiclos(std::move(ordenes));
+    ConectarCiclos(ordenes);
     ConectarTeclas();
     VaciarPaginas();
-    setTabOrder(&Campo(Crotal), m_tab);
+    setTabOrder(&Campo(Crotal), m_situacion->Control());
+    setTabOrder(m_situacion->Control(), m_tab);
     QWidget* ultimo = m_tab;
     for (auto* w = m_tab->nextInFocusChain(); w != m_tab; w = w->nextInFocusChain())
         if (m_tab->isAncestorOf(w))
@@ -79,6 +81,10 @@ QWidget* Vacas::CrearCabecera() {
     todo->addWidget(m_ganadero);
     todo->addWidget(CrearRejilla(cabecera, hoja_vaca::Cabecera));
     PonerIconoBusDato(0, Codigo, "Seleccionar vaca");
+    m_situacion = new FranjaSituacion(cabecera);
+    m_situacion->alPasar = [this](int paso) { PasarAVecina(paso); };
+    m_situacion->alControl = [this] { AbrirObservaciones(); };
+    todo->addWidget(m_situacion);
     Campo(Crotal).Explicar(QStringLiteral(
         "Intro busca el crotal; las flechas recorren los que acaban en las mismas cuatro cifras"));
     return cabecera;
@@ -93,14 +99,14 @@ QWidget* Vacas::CrearGeneral() {
         titular->setContentsMargins(0, 10, 0, 2);
         Rejilla()->addWidget(titular, fila, 0, 1, 6);
     }
-    PonerIconoBusDato(2, NombrePadre, "Seleccionar padre");
-    PonerIconoBusDato(3, NombreMadre, "Seleccionar madre");
+    PonerIconoBusDato(2, NombrePadre, "Seleccionar padre", QKeySequence(Qt::Key_F6));
+    PonerIconoBusDato(3, NombreMadre, "Seleccionar madre", QKeySequence(Qt::Key_F7));
     todo->addStretch();
     connect(&Combo("CD_Cularidad"), &QComboBox::activated, this, [this] { ComponerNombre(); });
     return general;
 }
 
-void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
+void Vacas::ConectarCiclos(const OrdenesDeVaca& ordenes) {
     const auto conCiclo = [this](auto orden) -> std::function<void(const CicloDeVaca&)> {
         if (!orden)
             return {};
@@ -126,6 +132,12 @@ void Vacas::ConectarCiclos(OrdenesDeVaca ordenes) {
 void Vacas::ConectarTeclas() {
     connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
             [this] { AbrirObservaciones(); });
+    for (const auto& [pagina, tecla, texto] : {std::tuple{m_cubriciones, Qt::Key_F5, "%1; F5 abre la última"},
+                                               {m_partos, Qt::Key_F8, "%1; F8 abre el último"}}) {
+        connect(new QShortcut(tecla, this), &QShortcut::activated, pagina, &PaginaCiclos::AbrirUltimo);
+        const int i = m_tab->indexOf(pagina);
+        m_tab->setTabToolTip(i, QString::fromUtf8(texto).arg(m_tab->tabToolTip(i)));
+    }
     Campo(Crotal).installEventFilter(this); // before the fields' own
     ConectarPestañas(*m_tab);
 }

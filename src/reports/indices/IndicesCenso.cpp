@@ -31,22 +31,24 @@ bool EnCategoria(double n, int categoria) {
     }
 }
 
-double ContarPorParidad(Conexion& c, const std::string& vacas, double añoRef, int categoria) {
-    double n = 0;
-    for (auto rs = Leer(c, vacas); !rs.Eof(); rs.Siguiente()) {
-        if (rs["Id_Vaca"].Nulo())
-            continue;
-        auto paridades =
-            Leer(c, "SELECT N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(rs["Id_Vaca"].Numero()) +
-                        " AND Año_Ref <=" + NumeroSql(añoRef) + " ORDER BY Año_Ref, N_Parto");
-        if (paridades.Eof())
-            continue;
-        paridades.Ultimo();
-        const auto paridad = paridades["N_Parto"];
-        if (EnCategoria(paridad.Nulo() ? kSinParidad : paridad.Numero(), categoria))
-            ++n;
+// The cows of the condition whose last mating record up to the year puts them into the category.
+Animales PorParidad(Conexion& c, const std::string& condicion, double añoRef, int categoria) {
+    Animales todas;
+    for (auto rs =
+             Leer(c, "SELECT T_Vacas.Id_Vaca, T_Cubriciones.N_Parto FROM T_Vacas INNER JOIN T_Cubriciones ON "
+                     "T_Vacas.Id_Vaca = T_Cubriciones.Id_Vaca WHERE " +
+                         condicion + " AND T_Cubriciones.Año_Ref <= " + NumeroSql(añoRef) +
+                         " ORDER BY T_Vacas.Id_Vaca, T_Cubriciones.Año_Ref, T_Cubriciones.N_Parto");
+         !rs.Eof(); rs.Siguiente()) {
+        const double vaca = rs[0].Numero();
+        if (todas.empty() || todas.back().vaca != vaca)
+            todas.push_back({vaca, {}, {}, {}, {}, 0});
+        todas.back().valor = rs[1].Nulo() ? kSinParidad : rs[1].Numero();
     }
-    return n;
+    std::erase_if(todas, [&](const AnimalContado& a) { return !EnCategoria(a.valor, categoria); });
+    for (AnimalContado& a : todas)
+        a.dato = a.valor == kSinParidad ? "sin anotar" : TextoNumero(a.valor);
+    return todas;
 }
 
 } // namespace
@@ -67,26 +69,33 @@ std::string FinDeAño(double añoRef) {
     return "30/11/" + (texto.size() > 2 ? texto.substr(texto.size() - 2) : texto);
 }
 
+Animales VacasEnCenso(Conexion& c, double idGanadero, double añoRef, std::string_view fecha, int categoria) {
+    const auto d = FechaSql2(FechaDeArgumento(fecha));
+    return PorParidad(c,
+                      "T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
+                          " AND (T_Vacas.FechaDesecho Is Null Or T_Vacas.FechaDesecho >= " + d +
+                          ") AND (T_Vacas.FechaCompra <= " + d + " OR T_Vacas.FechaCompra IS Null)",
+                      añoRef, categoria);
+}
+
+Animales VacasDeBajaEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                              std::string_view fechaFin, double añoRef, int categoria) {
+    return PorParidad(c,
+                      "T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
+                          " AND T_Vacas.FechaDesecho >= " + FechaSql2(FechaDeArgumento(fechaInicio)) +
+                          " AND T_Vacas.FechaDesecho <= " + FechaSql2(FechaDeArgumento(fechaFin)),
+                      añoRef, categoria);
+}
+
 double CensoVacasAFecha(Conexion& c, double idGanadero, double añoRef, std::string_view fecha,
                         int categoria) {
-    const auto d = FechaSql2(FechaDeArgumento(fecha));
-    return ContarPorParidad(
-        c,
-        "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
-            ") AND ((T_Vacas.FechaDesecho) Is Null Or (T_Vacas.FechaDesecho)>=" + d +
-            ")) AND (FechaCompra <=" + d + " OR FechaCompra IS Null)",
-        añoRef, categoria);
+    return static_cast<double>(VacasEnCenso(c, idGanadero, añoRef, fecha, categoria).size());
 }
 
 double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
                            std::string_view fechaFin, double añoRef, int categoria) {
-    return ContarPorParidad(
-        c,
-        "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" + NumeroSql(idGanadero) +
-            ") AND ((T_Vacas.FechaDesecho) Is Not Null And (T_Vacas.FechaDesecho)>=" +
-            FechaSql2(FechaDeArgumento(fechaInicio)) +
-            " And (T_Vacas.FechaDesecho)<=" + FechaSql2(FechaDeArgumento(fechaFin)) + "))",
-        añoRef, categoria);
+    return static_cast<double>(
+        VacasDeBajaEnPeriodo(c, idGanadero, fechaInicio, fechaFin, añoRef, categoria).size());
 }
 
 double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad) {

@@ -21,7 +21,7 @@ Recordset Leer(Conexion& c, const std::string& sql) {
     return {c, sql, Cursor::Keyset, Bloqueo::SoloLectura};
 }
 
-double Contar(Conexion& c, const std::string& sql) {
+double Cuenta(Conexion& c, const std::string& sql) {
     auto rs = Leer(c, sql);
     return rs.Eof() ? 0 : rs[0].Numero();
 }
@@ -33,11 +33,12 @@ std::string DeGanaderoYAño(double idGanadero, double añoRef) {
 
 } // namespace
 
-double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
-                       std::string_view fechaFin, std::string_view criterioParto, double añoRef) {
-    const auto rs =
-        Leer(c, "SELECT T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto, "
-                "T_Partos.Año_Ref" +
+Animales PartosContados(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                        std::string_view fechaFin, std::string_view criterioParto, double añoRef) {
+    Animales partos;
+    for (auto rs = Leer(
+             c, "SELECT Max(T_Vacas.Id_Vaca) AS Vaca, T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, "
+                "T_Partos.Fecha_Parto, T_Partos.Año_Ref" +
                     std::string(kVacasPartos) +
                     " GROUP BY T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto, "
                     "T_Partos.Año_Ref HAVING (((T_Vacas.Id_Ganadero)=" +
@@ -45,11 +46,24 @@ double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaIni
                     ") AND ((T_Partos.Fecha_Parto)>=" + FechaSql2(FechaDeArgumento(fechaInicio)) +
                     " And (T_Partos.Fecha_Parto)<=" + FechaSql2(FechaDeArgumento(fechaFin)) +
                     ") AND ((T_Partos.Año_Ref)=" + NumeroSql(añoRef) + "))");
-    return static_cast<double>(rs.Contar());
+         !rs.Eof(); rs.Siguiente())
+        partos.push_back({rs["Vaca"].Numero(),
+                          {},
+                          {},
+                          rs["Fecha_Parto"].Texto(),
+                          rs["N_Parto"].Texto(),
+                          rs["N_Parto"].Numero()});
+    return partos;
+}
+
+double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                       std::string_view fechaFin, std::string_view criterioParto, double añoRef) {
+    return static_cast<double>(
+        PartosContados(c, idGanadero, fechaInicio, fechaFin, criterioParto, añoRef).size());
 }
 
 std::int64_t PorcentajeNacidosIA(Conexion& c, double idGanadero, double añoRef) {
-    const double terneros = Contar(c, "SELECT Count(T_Partos.N_Parto) AS NumTer" + std::string(kVacasPartos) +
+    const double terneros = Cuenta(c, "SELECT Count(T_Partos.N_Parto) AS NumTer" + std::string(kVacasPartos) +
                                           DeGanaderoYAño(idGanadero, añoRef));
     const auto deIA = Leer(c, "SELECT T_Partos.N_Parto FROM (T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca "
                               "= T_Partos.Id_Vaca) LEFT "
@@ -74,55 +88,59 @@ std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoR
         .Contar();
 }
 
-std::string PorcentajeAbortos(Conexion& c, double idGanadero, double añoRef) {
-    double total = 0;
-    double abortos = 0;
+Animales CubricionesParaAbortos(Conexion& c, double idGanadero, double añoRef) {
+    Animales filas;
     const auto año = NumeroSql(añoRef);
     for (auto rs = Leer(
-             c, "SELECT T_Vacas.Id_Vaca FROM T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero = "
-                "T_Vacas.Id_Ganadero WHERE T_Ganaderos.Id_Ganadero = " +
-                    NumeroSql(idGanadero) +
+             c, "SELECT T_Vacas.Id_Vaca, T_Cubriciones.Aborto, T_Cubriciones.Año_Ref" +
+                    std::string(kCubricionesVacas) + " WHERE T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
                     " AND (T_Vacas.FechaDesecho Is Null OR Year([T_Vacas]![FechaDesecho])>=" + año +
-                    ") ORDER BY T_Ganaderos.ID_GANADERO, T_Vacas.Nombre");
-         !rs.Eof(); rs.Siguiente()) {
-        const auto id = NumeroSql(rs["Id_Vaca"].Numero());
-        for (auto filas = Leer(c, "SELECT * FROM T_Cubriciones WHERE (Id_Vaca = " + id +
-                                      " AND Año_Ref = " + año + ") OR (Id_Vaca = " + id +
-                                      " AND Año_Ref = " + NumeroSql(añoRef - 1) + " AND DatosCompletos = 0)");
-             !filas.Eof(); filas.Siguiente()) {
-            ++total;
-            if (filas["Aborto"].Numero() == 1)
-                ++abortos;
-        }
-    }
-    if (total == 0)
+                    ") AND (T_Cubriciones.Año_Ref = " + año + " OR (T_Cubriciones.Año_Ref = " +
+                    NumeroSql(añoRef - 1) + " AND T_Cubriciones.DatosCompletos = 0))");
+         !rs.Eof(); rs.Siguiente())
+        filas.push_back({rs[0].Numero(), {}, {}, {}, rs[2].Texto(), rs[1].Numero() == 1 ? 1.0 : 0.0});
+    return filas;
+}
+
+std::string PorcentajeAbortos(Conexion& c, double idGanadero, double añoRef) {
+    const auto filas = CubricionesParaAbortos(c, idGanadero, añoRef);
+    if (filas.empty())
         throw ErrorDeEjecucion::DivisionPorCero();
-    return FormatoNumero(abortos / total * 100, "###0");
+    double abortos = 0;
+    for (const AnimalContado& fila : filas)
+        abortos += fila.valor;
+    return FormatoNumero(abortos / static_cast<double>(filas.size()) * 100, "###0");
+}
+
+Registros IntervalosDelAño(double idGanadero, double añoRef) {
+    return {std::string(kCubricionesVacas) + " WHERE T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
+                " AND T_Cubriciones.Año_Ref = " + NumeroSql(añoRef) + " AND IEPc > 0",
+            "IEPc"};
 }
 
 double PerdidaPreñezTardia(Conexion& c, double idGanadero, double añoRef) {
-    double dias = 0;
-    for (auto rs = Leer(c, "SELECT IEPc" + std::string(kCubricionesVacas) +
-                               " WHERE T_Vacas.Id_Ganadero = " + NumeroSql(idGanadero) +
-                               " AND T_Cubriciones.Año_Ref = " + NumeroSql(añoRef) + " AND IEPc > 0");
-         !rs.Eof(); rs.Siguiente())
-        if (const double iepc = rs["IEPc"].Numero(); iepc > 0)
-            dias += iepc - 365.0;
-    return Round(dias / 365.0, 1);
+    const auto [n, media] = ContarYPromediar(c, IntervalosDelAño(idGanadero, añoRef));
+    return Round(n * (media - 365.0) / 365.0, 1);
+}
+
+Registros RegistrosTernerosMuertos(double idGanadero, double añoRef) {
+    return {kVacasPartos + DeGanaderoYAño(idGanadero, añoRef) + kMuertosAntesDelDestete, "T_Partos.N_Parto"};
+}
+
+Registros RegistrosPartosDelAño(double idGanadero, double añoRef) {
+    return {kVacasPartos + DeGanaderoYAño(idGanadero, añoRef), "T_Vacas.Id_Ganadero"};
 }
 
 double TernerosMuertos(Conexion& c, double idGanadero, double añoRef) {
-    return Contar(c, "SELECT Count(T_Partos.N_Parto) AS N" + std::string(kVacasPartos) +
-                         DeGanaderoYAño(idGanadero, añoRef) + kMuertosAntesDelDestete);
+    return Contar(c, RegistrosTernerosMuertos(idGanadero, añoRef));
 }
 
 double PartosDelAño(Conexion& c, double idGanadero, double añoRef) {
-    return Contar(c, "SELECT Count(T_Vacas.Id_Ganadero) AS N" + std::string(kVacasPartos) +
-                         DeGanaderoYAño(idGanadero, añoRef));
+    return Contar(c, RegistrosPartosDelAño(idGanadero, añoRef));
 }
 
 double MuertesCebo(Conexion& c, double idGanadero, double añoRef) {
-    return Contar(c,
+    return Cuenta(c,
                   "SELECT Count(Id_Ganadero) AS N FROM T_Cebo WHERE Id_Ganadero = " + NumeroSql(idGanadero) +
                       " AND AñoRef = " + NumeroSql(añoRef) + " And Not CausaMuerte is null");
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Conexion.h"
+#include "reports/indices/Contados.h"
 #include "store/Fecha.h"
 
 #include <cstdint>
@@ -32,15 +32,22 @@ Fecha FechaDeArgumento(std::string_view texto);
 // Cows of the category in the herd at the date: one that leaves on the date itself still counts, one that was bought later does not. A
 // female without a mating record up to the year counts nowhere; one whose last record has no parity counts as of more than six.
 double CensoVacasAFecha(Conexion& c, double idGanadero, double añoRef, std::string_view fecha, int categoria);
+// Those cows, each with her parity.
+Animales VacasEnCenso(Conexion& c, double idGanadero, double añoRef, std::string_view fecha, int categoria);
 // Cows of the category that left from one date to the other, both included.
 double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
                            std::string_view fechaFin, double añoRef, int categoria);
+Animales VacasDeBajaEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                              std::string_view fechaFin, double añoRef, int categoria);
 // Cows of a muscling class with mating records up to the year that had not left by 30 November of the year before.
 double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad);
 
 // Calvings in the period and reference year of the parities that the criterion (">1", "=1", ">=1") picks. Twins are one calving.
 double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
                        std::string_view fechaFin, std::string_view criterioParto, double añoRef);
+// Those calvings, each with its date.
+Animales PartosContados(Conexion& c, double idGanadero, std::string_view fechaInicio,
+                        std::string_view fechaFin, std::string_view criterioParto, double añoRef);
 // Percentage of the year's calves whose sire is a bull of the common pool (of farmer 1), halves to even; 0 without calves.
 std::int64_t PorcentajeNacidosIA(Conexion& c, double idGanadero, double añoRef);
 // Calves of a muscling class that were alive at weaning, at 120 days or older, with more than 500 g a day: the test of all weaning figures.
@@ -48,11 +55,17 @@ std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoR
                                     std::string_view cularidad);
 // Abortions per cent of the year's records and last year's open ones, as text "###0". ErrorDeEjecucion 11 when there is no record.
 std::string PorcentajeAbortos(Conexion& c, double idGanadero, double añoRef);
+// Those records, each with its year and 1 for an abortion.
+Animales CubricionesParaAbortos(Conexion& c, double idGanadero, double añoRef);
+// Records of the year with days between calvings.
+Registros IntervalosDelAño(double idGanadero, double añoRef);
 // Calves lost to late pregnancy: the days over 365 between calvings, less those under it, in years of 365 days; may be negative.
 double PerdidaPreñezTardia(Conexion& c, double idGanadero, double añoRef);
 // Calves dead up to weaning; a death after weaning is none of these, nor is a row without an entry.
 double TernerosMuertos(Conexion& c, double idGanadero, double añoRef);
+Registros RegistrosTernerosMuertos(double idGanadero, double añoRef);
 double PartosDelAño(Conexion& c, double idGanadero, double añoRef);
+Registros RegistrosPartosDelAño(double idGanadero, double añoRef);
 // Fattening animals of the year with a cause of death.
 double MuertesCebo(Conexion& c, double idGanadero, double añoRef);
 double TernerosVivos(Conexion& c, double idGanadero, double añoRef);

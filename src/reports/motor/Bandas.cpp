@@ -26,6 +26,11 @@ QString Limpiar(QString texto) {
     return texto;
 }
 
+// Boxes and lines that stretch follow the bottom of a band; all else makes it.
+bool CuentaEnElFondo(const Elemento& e) {
+    return !e.estirar || e.tipo == Elemento::Tipo::Texto;
+}
+
 } // namespace
 
 double Flujo::Alto() const {
@@ -40,7 +45,8 @@ struct Bandas::Medido {
     double altoLinea = 0;
     double margen = 0; // above the first line of a wrapping text
     double crece = 0;  // beyond its own height
-    double baja = 0;   // pushed down by what grows above it
+    int figura = -1;
+    double baja = 0; // pushed down by what grows above it
 };
 
 Bandas::Bandas(const Disposicion& disposicion, const Conjuntos& conjuntos, const Evaluador& evaluador,
@@ -50,12 +56,16 @@ Bandas::Bandas(const Disposicion& disposicion, const Conjuntos& conjuntos, const
     , m_evaluador(evaluador)
     , m_medidor(medidor) {}
 
-Bandas::Medido Bandas::Medir(const Elemento& e, const Contexto* contexto, int pagina, int paginas) {
+Bandas::Medido Bandas::Medir(const Elemento& e, const Contexto* contexto, const NumeroDePagina& n) {
     Medido m;
     m.elemento = &e;
     if (e.tipo != Elemento::Tipo::Texto)
         return m;
-    const QString texto = Limpiar(m_evaluador.Texto(e.plantilla, contexto, pagina, paginas)).trimmed();
+    QString texto = Limpiar(m_evaluador.Texto(e.plantilla, contexto, n)).trimmed();
+    if (texto.isEmpty())
+        texto = QString::fromStdString(e.aspecto.vacio);
+    else if (const QString figura = m_evaluador.Texto(e.figura, contexto, n); !figura.isEmpty())
+        m.figura = AñadirFigura(figura);
     if (texto.isEmpty())
         return m;
     m.letra = m_medidor.Indice(e.aspecto);
@@ -64,7 +74,7 @@ Bandas::Medido Bandas::Medir(const Elemento& e, const Contexto* contexto, int pa
     if (e.aspecto.ajustar) {
         m.lineas = m_medidor.Partir(m.letra, texto, ancho);
         m.margen = std::clamp((e.alto - m.altoLinea) / 2, 0.0, MargenDeTextoLargo);
-        if (pagina == 0) // the bands of the page itself do not grow
+        if (n.pagina == 0) // the bands of the page itself do not grow
             m.crece =
                 std::max(0.0, static_cast<double>(m.lineas.size()) * m.altoLinea + 2 * m.margen - e.alto);
         return m;
@@ -81,8 +91,13 @@ Bandas::Medido Bandas::Medir(const Elemento& e, const Contexto* contexto, int pa
     return m;
 }
 
+int Bandas::AñadirFigura(const QString& clave) {
+    m_figuras << clave;
+    return static_cast<int>(m_figuras.size()) - 1;
+}
+
 Tira Bandas::Hacer(const Banda& banda, const Contexto* contexto, double x, double ancho, bool impar,
-                   int pagina, int paginas) {
+                   const NumeroDePagina& n) {
     Tira tira;
     tira.contexto = contexto;
     tira.conSiguiente = banda.conSiguiente;
@@ -90,16 +105,17 @@ Tira Bandas::Hacer(const Banda& banda, const Contexto* contexto, double x, doubl
     double fondoOriginal = 0;
     bool alguienCrece = false;
     for (const Elemento& e : banda.elementos) {
-        if (!e.estirar)
+        if (CuentaEnElFondo(e))
             fondoOriginal = std::max(fondoOriginal, e.y + e.alto);
         if (!m_evaluador.Cumple(e.si, contexto))
             continue;
-        medidos.push_back(Medir(e, contexto, pagina, paginas));
+        medidos.push_back(Medir(e, contexto, n));
         alguienCrece = alguienCrece || medidos.back().crece > 0;
     }
     tira.alto = banda.alto;
     if (alguienCrece) {
         std::vector<Medido*> porAltura;
+        porAltura.reserve(medidos.size());
         for (Medido& m : medidos)
             porAltura.push_back(&m);
         std::stable_sort(porAltura.begin(), porAltura.end(),
@@ -113,7 +129,7 @@ Tira Bandas::Hacer(const Banda& banda, const Contexto* contexto, double x, doubl
                     !m->elemento->estirar)
                     m->baja = std::max(m->baja, otro->baja + otro->crece);
             }
-            if (!m->elemento->estirar)
+            if (CuentaEnElFondo(*m->elemento))
                 fondo = std::max(fondo, m->elemento->y + m->elemento->alto + m->baja + m->crece);
         }
         tira.alto = std::max(banda.alto, fondo + (banda.alto - fondoOriginal));
@@ -125,13 +141,36 @@ Tira Bandas::Hacer(const Banda& banda, const Contexto* contexto, double x, doubl
         if (m.elemento->tipo == Elemento::Tipo::Texto)
             PonerTexto(tira, m, x, crece);
         else if (m.elemento->tipo == Elemento::Tipo::Grafico)
-            tira.trozos.emplace_back(GraficoColocado{
-                QRectF(x + m.elemento->x, m.elemento->y + m.baja, m.elemento->ancho, m.elemento->alto),
-                Grafico(*m.elemento, contexto)});
+            PonerGrafico(tira, m, x, contexto);
         else
             PonerCaja(tira, m, x, crece);
     }
     return tira;
+}
+
+// A chart of nothing but zeros says less than a word.
+void Bandas::PonerGrafico(Tira& tira, const Medido& medido, double x, const Contexto* contexto) {
+    const Elemento& e = *medido.elemento;
+    auto datos = Grafico(e, contexto);
+    const bool hayDatos = std::any_of(datos->series.begin(), datos->series.end(), [](const auto& serie) {
+        return std::any_of(serie.valores.begin(), serie.valores.end(),
+                           [](double v) { return v != 0 && v == v; });
+    });
+    if (hayDatos) {
+        tira.trozos.emplace_back(
+            GraficoColocado{QRectF(x + e.x, e.y + medido.baja, e.ancho, e.alto), std::move(datos)});
+        return;
+    }
+    Elemento aviso = e;
+    aviso.tipo = Elemento::Tipo::Texto;
+    aviso.aspecto.alineacion = Alineacion::Centro;
+    Medido m;
+    m.elemento = &aviso;
+    m.baja = medido.baja;
+    m.letra = m_medidor.Indice(aviso.aspecto);
+    m.altoLinea = m_medidor.AltoLinea(m.letra);
+    m.lineas << QStringLiteral("Sin datos");
+    PonerTexto(tira, m, x, 0);
 }
 
 void Bandas::PonerCaja(Tira& tira, const Medido& medido, double x, double crece) const {
@@ -178,6 +217,7 @@ void Bandas::PonerTexto(Tira& tira, const Medido& medido, double x, double crece
         texto.texto = linea;
         texto.letra = medido.letra;
         texto.color = e.aspecto.color;
+        texto.figura = medido.figura;
         texto.ancho = m_medidor.Ancho(medido.letra, linea);
         const double hueco = e.ancho - 2 * e.aspecto.relleno - texto.ancho;
         double izquierda = lugar.left() + e.aspecto.relleno;
@@ -197,7 +237,7 @@ std::shared_ptr<const DatosGrafico> Bandas::Grafico(const Elemento& elemento, co
     auto datos = std::make_shared<DatosGrafico>();
     std::vector<std::size_t> filas;
     if (grafico.lazos.empty()) {
-        filas.resize(std::min(CategoriasMaximas + 1, m_conjuntos.Filas(m_disposicion.Raiz(grafico.tabla))));
+        filas.resize(std::min(CategoriasMaximas + 1, m_conjuntos.Filas(grafico.tabla)));
         std::iota(filas.begin(), filas.end(), std::size_t{0});
     } else {
         std::vector<const Valor*> valores;
@@ -214,8 +254,8 @@ std::shared_ptr<const DatosGrafico> Bandas::Grafico(const Elemento& elemento, co
             TextoDe(m_conjuntos.Celda({grafico.tabla, grafico.categoria}, fila)));
         for (std::size_t s = 0; s < grafico.series.size(); ++s) {
             const Valor& valor = m_conjuntos.Celda({grafico.tabla, grafico.series[s].columna}, fila);
-            datos->series[s].valores.push_back(EsNulo(valor) ? std::numeric_limits<double>::quiet_NaN()
-                                                             : NumeroDe(valor));
+            datos->series[s].valores.push_back(
+                NumeroDeCelda(valor).value_or(std::numeric_limits<double>::quiet_NaN()));
         }
     }
     datos->apilado = grafico.apilado;

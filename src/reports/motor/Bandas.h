@@ -13,12 +13,17 @@ public:
 
     // x is where the band begins, right of the left margin (mm); ancho is its width. impar says that it is every second row.
     Tira Hacer(const Banda& banda, const Contexto* contexto, double x, double ancho, bool impar = false,
-               int pagina = 0, int paginas = 0);
+               const NumeroDePagina& n = {});
+
+    // The keys of the figures that were placed.
+    QStringList& Figuras() { return m_figuras; }
 
 private:
     struct Medido;
-    Medido Medir(const Elemento& elemento, const Contexto* contexto, int pagina, int paginas);
+    Medido Medir(const Elemento& elemento, const Contexto* contexto, const NumeroDePagina& n);
     void PonerTexto(Tira& tira, const Medido& medido, double x, double crece) const;
+    void PonerGrafico(Tira& tira, const Medido& medido, double x, const Contexto* contexto);
+    int AñadirFigura(const QString& clave);
     void PonerCaja(Tira& tira, const Medido& medido, double x, double crece) const;
     std::shared_ptr<const DatosGrafico> Grafico(const Elemento& elemento, const Contexto* contexto);
 
@@ -26,6 +31,7 @@ private:
     const Conjuntos& m_conjuntos;
     const Evaluador& m_evaluador;
     Medidor& m_medidor;
+    QStringList m_figuras;
 };
 
 } // namespace pastorix

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 namespace pastorix {
 
@@ -29,10 +30,10 @@ Flujo Compositor::Componer() {
     return flujo;
 }
 
-const Contexto* Compositor::Entrar(const Lugar& lugar, int raiz, std::size_t fila, const Filas* filas) {
+const Contexto* Compositor::Entrar(const Lugar& lugar, int tabla, std::size_t fila, const Filas* filas) {
     if (++m_pasos > PasosMaximos)
         throw ErrorInforme(CodigoInforme::Limite, "El informe tendría demasiadas filas");
-    return &m_contextos.emplace_back(Contexto{lugar.contexto, raiz, fila, filas});
+    return &m_contextos.emplace_back(Contexto{lugar.contexto, tabla, fila, filas});
 }
 
 void Compositor::Poner(Tira tira, const Lugar& lugar, Flujo& flujo) {
@@ -41,6 +42,7 @@ void Compositor::Poner(Tira tira, const Lugar& lugar, Flujo& flujo) {
     tira.cabeceras = lugar.cabeceras;
     tira.saltoAntes = flujo.saltoPendiente && !flujo.tiras.empty();
     flujo.saltoPendiente = false;
+    tira.marcas = std::exchange(flujo.marcasPendientes, {});
     flujo.tiras.push_back(std::move(tira));
 }
 
@@ -97,6 +99,18 @@ void Compositor::Nodos(const std::vector<Nodo>& nodos, const Lugar& lugar, Flujo
     }
 }
 
+Compositor::Lugar Compositor::Empezar(const Lugar& lugar, const QString& indice, bool paginaNueva,
+                                      Flujo& flujo) const {
+    Lugar dentro = lugar;
+    const bool conPaginas = paginaNueva && !lugar.conPaginas;
+    if (indice.isEmpty() && !conPaginas)
+        return dentro;
+    flujo.marcasPendientes.push_back({indice, lugar.nivel, conPaginas});
+    dentro.nivel += indice.isEmpty() ? 0 : 1;
+    dentro.conPaginas = lugar.conPaginas || conPaginas;
+    return dentro;
+}
+
 void Compositor::Columnas(const Nodo& nodo, const Lugar& lugar, Flujo& flujo) {
     Tira tira;
     tira.contexto = lugar.contexto;
@@ -114,10 +128,9 @@ void Compositor::Columnas(const Nodo& nodo, const Lugar& lugar, Flujo& flujo) {
 }
 
 Compositor::Filas Compositor::FilasDe(const Seccion& seccion, const Lugar& lugar) {
-    const int raiz = m_disposicion.Raiz(seccion.tabla);
     Filas filas;
     if (seccion.lazos.empty()) {
-        filas.resize(m_conjuntos.Filas(raiz));
+        filas.resize(m_conjuntos.Filas(seccion.tabla));
         std::iota(filas.begin(), filas.end(), std::size_t{0});
     } else {
         std::vector<const Valor*> valores;
@@ -127,7 +140,7 @@ Compositor::Filas Compositor::FilasDe(const Seccion& seccion, const Lugar& lugar
     }
     if (!seccion.donde.Vacia()) {
         std::erase_if(filas, [&](std::size_t fila) {
-            const Contexto contexto{lugar.contexto, raiz, fila, nullptr};
+            const Contexto contexto{lugar.contexto, seccion.tabla, fila, nullptr};
             return !m_evaluador.Cumple(seccion.donde, &contexto);
         });
     }
@@ -135,24 +148,33 @@ Compositor::Filas Compositor::FilasDe(const Seccion& seccion, const Lugar& lugar
 }
 
 void Compositor::UnaSeccion(const Seccion& seccion, const Lugar& lugar, Flujo& flujo) {
-    const int raiz = m_disposicion.Raiz(seccion.tabla);
     m_filas.push_back(FilasDe(seccion, lugar));
     const Filas& filas = m_filas.back();
     m_pasos += filas.size() / 64; // a walk that finds nothing to print is work too
     Lugar dentro = lugar;
     dentro.impar = false;
-    dentro.contexto = Entrar(lugar, raiz, filas.empty() ? SinFila : filas.front(), &filas);
+    dentro.contexto = Entrar(lugar, seccion.tabla, filas.empty() ? SinFila : filas.front(), &filas);
     if (seccion.cabecera)
         dentro = PonerCabecera(*seccion.cabecera, dentro, flujo);
     if (filas.empty() && seccion.vacia)
         PonerBanda(*seccion.vacia, dentro, flujo);
     UnGrupo(seccion, 0, filas, dentro, flujo);
     if (!filas.empty())
-        dentro.contexto = Entrar(lugar, raiz, filas.back(), &filas);
+        dentro.contexto = Entrar(lugar, seccion.tabla, filas.back(), &filas);
     if (seccion.pie && !(filas.empty() && seccion.vacia))
         PonerPie(*seccion.pie, dentro, flujo);
     dentro.cabeceras = lugar.cabeceras;
     Nodos(seccion.alFinal, dentro, flujo);
+}
+
+QString Compositor::TextoDeIndice(const Grupo& grupo, const Contexto* contexto) const {
+    if (!grupo.indice.empty())
+        return m_evaluador.Texto(grupo.indice, contexto);
+    QStringList valores;
+    for (const RefCampo campo : grupo.columnas)
+        valores << QString::fromStdString(TextoConMascara(m_evaluador.Celda(campo, contexto), {}));
+    const QString texto = valores.join(QStringLiteral(" · ")).trimmed();
+    return texto.isEmpty() ? QStringLiteral("–") : texto;
 }
 
 std::vector<Compositor::Filas> Compositor::Agrupar(const Grupo& grupo, const Filas& filas) const {
@@ -175,7 +197,6 @@ std::vector<Compositor::Filas> Compositor::Agrupar(const Grupo& grupo, const Fil
 
 void Compositor::UnGrupo(const Seccion& seccion, std::size_t nivel, const Filas& filas, const Lugar& lugar,
                          Flujo& flujo) {
-    const int raiz = m_disposicion.Raiz(seccion.tabla);
     Lugar fuera = lugar;
     fuera.contexto = lugar.contexto->fuera;
     if (nivel == seccion.grupos.size()) {
@@ -183,9 +204,10 @@ void Compositor::UnGrupo(const Seccion& seccion, std::size_t nivel, const Filas&
         dentro.impar = true;
         for (std::size_t i = 0; i < filas.size(); ++i) {
             flujo.saltoPendiente = flujo.saltoPendiente || (seccion.paginaNueva && i > 0);
-            dentro.contexto = Entrar(fuera, raiz, filas[i], nullptr);
+            dentro.contexto = Entrar(fuera, seccion.tabla, filas[i], nullptr);
             dentro.impar = !dentro.impar;
-            Nodos(seccion.cuerpo, dentro, flujo);
+            const QString indice = m_evaluador.Texto(seccion.indice, dentro.contexto);
+            Nodos(seccion.cuerpo, Empezar(dentro, indice, seccion.paginaNueva, flujo), flujo);
         }
         return;
     }
@@ -199,12 +221,13 @@ void Compositor::UnGrupo(const Seccion& seccion, std::size_t nivel, const Filas&
         const std::size_t rango = flujo.juntos.size();
         if (grupo.juntos)
             flujo.juntos.push_back({flujo.tiras.size(), 0});
-        Lugar dentro = lugar;
-        dentro.contexto = Entrar(fuera, raiz, suyas.front(), &suyas);
+        const Contexto* contexto = Entrar(fuera, seccion.tabla, suyas.front(), &suyas);
+        Lugar dentro = Empezar(lugar, TextoDeIndice(grupo, contexto), grupo.paginaNueva, flujo);
+        dentro.contexto = contexto;
         if (grupo.cabecera)
             dentro = PonerCabecera(*grupo.cabecera, dentro, flujo);
         UnGrupo(seccion, nivel + 1, suyas, dentro, flujo);
-        dentro.contexto = Entrar(fuera, raiz, suyas.back(), &suyas);
+        dentro.contexto = Entrar(fuera, seccion.tabla, suyas.back(), &suyas);
         if (grupo.pie)
             PonerPie(*grupo.pie, dentro, flujo);
         if (grupo.juntos)

@@ -24,6 +24,8 @@ private:
         double x = 0;
         double ancho = 0;
         bool impar = false;
+        int nivel = 0;           // groups of the index around
+        bool conPaginas = false; // within a group whose pages are numbered by themselves
     };
     using Filas = std::vector<std::size_t>;
 
@@ -31,15 +33,18 @@ private:
     void UnaSeccion(const Seccion& seccion, const Lugar& lugar, Flujo& flujo);
     void UnGrupo(const Seccion& seccion, std::size_t nivel, const Filas& filas, const Lugar& lugar,
                  Flujo& flujo);
+    // Notes that a group begins, and returns where what is in it stands.
+    Lugar Empezar(const Lugar& lugar, const QString& indice, bool paginaNueva, Flujo& flujo) const;
     void Columnas(const Nodo& nodo, const Lugar& lugar, Flujo& flujo);
     Filas FilasDe(const Seccion& seccion, const Lugar& lugar);
+    QString TextoDeIndice(const Grupo& grupo, const Contexto* contexto) const;
     std::vector<Filas> Agrupar(const Grupo& grupo, const Filas& filas) const;
     void PonerBanda(const Banda& banda, const Lugar& lugar, Flujo& flujo);
     // A heading: printed now, and again on every page where what follows goes on. Returns where what follows stands.
     Lugar PonerCabecera(const Banda& banda, const Lugar& lugar, Flujo& flujo);
     void PonerPie(const Banda& banda, const Lugar& lugar, Flujo& flujo);
     void Poner(Tira tira, const Lugar& lugar, Flujo& flujo);
-    const Contexto* Entrar(const Lugar& lugar, int raiz, std::size_t fila, const Filas* filas);
+    const Contexto* Entrar(const Lugar& lugar, int tabla, std::size_t fila, const Filas* filas);
 
     const Disposicion& m_disposicion;
     const Conjuntos& m_conjuntos;

@@ -1,9 +1,9 @@
 #include "reports/motor/ControlInforme.h"
 
-#include "frame/Rutas.h"
+#include "reports/motor/DisposicionesIncluidas.h"
 #include "reports/motor/ErrorInforme.h"
 #include "reports/motor/Espera.h"
-#include "reports/motor/LectorDisposicion.h"
+#include "reports/motor/Exportacion.h"
 #include "reports/motor/VentanaInforme.h"
 
 #include <QFileInfo>
@@ -31,6 +31,8 @@ void ControlInforme::Reiniciar() {
     TituloVentana.clear();
     FicheroInforme.clear();
     FormulaSeleccion.clear();
+    NombrePropuesto.clear();
+    Ganadero = 0;
     Destino = 0;
     m_parametros.clear();
 }
@@ -45,6 +47,7 @@ void ControlInforme::CampoParametro(int indice, const QString& texto) {
 PeticionInforme ControlInforme::Peticion() const {
     PeticionInforme peticion;
     peticion.titulo = TituloVentana;
+    peticion.ganadero = Ganadero;
     peticion.formulaSeleccion = FormulaSeleccion.toStdString();
     for (const auto& [indice, texto] : m_parametros) {
         const qsizetype primero = texto.indexOf(QLatin1Char(';'));
@@ -69,16 +72,21 @@ void ControlInforme::Action(int accion) {
     InformeTerminado informe;
     {
         const Espera espera;
-        const Disposicion disposicion =
-            LeerDisposicionDeFichero(BuscarSinCaja(fichero.path(), fichero.fileName()).toStdString());
-        informe = GenerarInforme(disposicion, m_fuente, Peticion());
+        const DisposicionHallada hallada = BuscarDisposicion(fichero.filePath());
+        informe = GenerarInforme(hallada.disposicion, m_fuente, Peticion());
+        if (!hallada.aviso.isEmpty() && m_avisadas.insert(fichero.fileName().toLower()).second)
+            informe.aviso = hallada.aviso;
+    }
+    for (const QString& nombre : {TituloVentana, NombrePropuesto}) {
+        if (const QString limpio = NombreDeFichero(nombre); !limpio.isEmpty())
+            informe.nombrePropuesto = limpio;
     }
     informe.maximizada = EstadoVentana == 2;
     if (Instalado()) {
         Instalado()(std::move(informe));
         return;
     }
-    VentanaInforme::Abrir(std::move(informe), EstadoVentana == 1);
+    VentanaInforme::Abrir(std::move(informe), Preguntas, EstadoVentana == 1);
 }
 
 ControlInforme::Destinatario ControlInforme::InstalarDestino(Destinatario destinatario) {

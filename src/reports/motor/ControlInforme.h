@@ -1,9 +1,11 @@
 #pragma once
 
 #include "reports/motor/Informe.h"
+#include "reports/motor/PanelDeCifra.h"
 
 #include <functional>
 #include <map>
+#include <set>
 
 namespace pastorix {
 
@@ -24,9 +26,16 @@ public:
     bool Bandera115 = false; // both are set by the forms and change nothing here
     bool Bandera125 = false;
     QString TituloVentana;
-    QString FicheroInforme; // path of the layout; found without regard to case, separators of either kind
+    QString
+        FicheroInforme; // path of the layout, separators of either kind; a built-in one of that name serves where there is none
     QString FormulaSeleccion;
-    int Destino = 0; // 0, the window, is the only one
+    QString
+        NombrePropuesto; // of the files that the report is exported to, without ending; the title of the window if empty
+    double Ganadero = 0; // of a report on one farmer; its figures are asked by him
+    int Destino = 0;     // 0, the window, is the only one
+
+    // What previews ask about their figures; Reiniciar leaves it.
+    PreguntasDeCifra Preguntas;
 
     // "Name;value;TRUE": the value may hold semicolons and line breaks. An empty text takes the field away again.
     void CampoParametro(int indice, const QString& texto);
@@ -44,6 +53,7 @@ private:
 
     const FuenteDeTablas& m_fuente;
     std::map<int, QString> m_parametros;
+    std::set<QString> m_avisadas; // layouts of which was told that the built-in one serves
 };
 
 } // namespace pastorix

@@ -10,15 +10,9 @@ double Disposicion::AltoUtil() const {
            (piePagina ? piePagina->alto : 0);
 }
 
-int Disposicion::Raiz(int tabla) const {
-    while (tablas[static_cast<std::size_t>(tabla)].base >= 0)
-        tabla = tablas[static_cast<std::size_t>(tabla)].base;
-    return tabla;
-}
-
-int Disposicion::BuscarTabla(std::string_view alias) const {
+int Disposicion::BuscarTabla(std::string_view nombre) const {
     for (std::size_t i = 0; i < tablas.size(); ++i) {
-        if (IgualSinCaso(tablas[i].alias, alias))
+        if (IgualSinCaso(tablas[i].nombre, nombre))
             return static_cast<int>(i);
     }
     return -1;
@@ -40,11 +34,11 @@ Nombres Disposicion::NombresDeclarados() const {
         if (punto == std::string_view::npos)
             throw ErrorInforme(CodigoInforme::Formula,
                                "El campo \"" + std::string(nombre) + "\" no está escrito como Tabla.Columna");
-        const std::string_view alias = nombre.substr(0, punto);
-        const int tabla = BuscarTabla(alias);
+        const std::string_view deTabla = nombre.substr(0, punto);
+        const int tabla = BuscarTabla(deTabla);
         if (tabla < 0)
             throw ErrorInforme(CodigoInforme::Formula,
-                               "La tabla \"" + std::string(alias) + "\" no está declarada en el informe");
+                               "La tabla \"" + std::string(deTabla) + "\" no está declarada en el informe");
         const int columna = BuscarColumna(tabla, nombre.substr(punto + 1));
         if (columna < 0)
             throw ErrorInforme(CodigoInforme::Formula,

@@ -43,6 +43,7 @@ struct Aspecto {
     Color colorBorde = 0x000000;
     double relleno = 0; // blank at the left and right of the text
     double radio = 0;   // rounded corners of a box
+    std::string vacio;  // printed in place of a text that comes out blank
 };
 
 // One piece of a text: a literal, or something that is only known when the report runs.
@@ -53,8 +54,11 @@ struct Pieza {
         Parametro,
         Pagina,
         Paginas,
+        PaginaGrupo,
+        PaginasGrupo,
         FechaImpresion,
         Titulo,
+        Ganadero,
         Cuenta,
         Suma,
         Media
@@ -64,6 +68,8 @@ struct Pieza {
     std::string mascara;
     RefCampo campo;
     int parametro = -1;
+    int tramo = -1; // optional stretch [...] it belongs to: printed only when one of its fields is filled
+    int linea = 0;  // of the layout, for errors
 
     bool EsAgregado() const { return tipo == Tipo::Cuenta || tipo == Tipo::Suma || tipo == Tipo::Media; }
 };
@@ -102,6 +108,7 @@ struct Elemento {
     Aspecto aspecto;
     bool estirar = false; // its bottom follows the bottom of the band when that grows
     Plantilla plantilla;
+    Plantilla figura; // key under which the figure can be asked where it comes from
     Formula si;
     std::optional<Grafico> grafico;
 };
@@ -140,6 +147,7 @@ struct Nodo {
 // Rows that share the values of some columns, in order of first appearance.
 struct Grupo {
     std::vector<RefCampo> columnas;
+    Plantilla indice;              // its entry in the index; the values of its columns when empty
     std::optional<Banda> cabecera; // repeated on each page the group reaches
     std::optional<Banda> pie;
     bool paginaNueva = false;
@@ -152,6 +160,7 @@ struct Seccion {
     std::vector<Lazo> lazos;
     Formula donde;
     bool paginaNueva = false;      // each row begins a page
+    Plantilla indice;              // entry of each row in the index; none when empty
     std::optional<Banda> cabecera; // repeated on each page the section reaches
     std::optional<Banda> pie;
     std::optional<Banda> vacia; // in place of the rows when there is none
@@ -160,7 +169,7 @@ struct Seccion {
     std::vector<Nodo> alFinal;  // printed after the last row, which is then the current one
 };
 
-// A table that the layout takes, and the columns of it.
+// Rows that the layout takes, and the columns of them: a table of the database, or a query that stands for one.
 struct TablaUsada {
     struct Columna {
         std::string nombre;
@@ -168,17 +177,12 @@ struct TablaUsada {
         std::string formato; // number or date mask in exports
         int linea = 0;
     };
-    struct Orden {
-        RefCampo campo;
-        bool descendente = false;
-    };
     std::string nombre;
-    std::string alias;
-    std::string hoja; // name of its sheet in exports
+    std::string consulta;   // a statement of the store; empty for the table of that name
+    std::string hoja;       // name of its sheet in exports
+    bool calculada = false; // the program works it out when it is asked for; without rows where nobody does
     std::vector<Columna> columnas;
-    std::vector<Orden> orden;
-    int base = -1;            // the table it is joined to, -1 when it stands by itself
-    std::vector<Lazo> union_; // with that table
+    std::vector<Lazo> lazos; // in the bands of the page its row is the one tied to theirs
     int linea = 0;
 };
 
@@ -190,6 +194,7 @@ struct ParametroUsado {
 struct Disposicion {
     std::string fichero; // as told in error texts
     std::string titulo;
+    Plantilla encabezado; // what exported sheets say of whose they are
     double anchoPagina = 210;
     double altoPagina = 297;
     double izquierda = 15, arriba = 15, derecha = 15, abajo = 15; // margins
@@ -203,10 +208,8 @@ struct Disposicion {
     bool Apaisada() const { return anchoPagina > altoPagina; }
     double AnchoUtil() const { return anchoPagina - izquierda - derecha; }
     double AltoUtil() const;
-    // Index of the table by which a joined set is known: the base of the base.
-    int Raiz(int tabla) const;
-    // Index of a declared table by its alias, or of a column of it, without regard to case; -1 when there is none.
-    int BuscarTabla(std::string_view alias) const;
+    // Index of a declared table, or of a column of it, without regard to case; -1 when there is none.
+    int BuscarTabla(std::string_view nombre) const;
     int BuscarColumna(int tabla, std::string_view nombre) const;
     // Names for the reader of formulas: "Tabla.Columna".
     Nombres NombresDeclarados() const;

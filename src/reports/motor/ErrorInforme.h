@@ -1,7 +1,9 @@
 #pragma once
 
-#include <stdexcept>
+#include "store/Errores.h"
+
 #include <string>
+#include <utility>
 
 namespace pastorix {
 
@@ -18,10 +20,10 @@ enum class CodigoInforme : long {
 };
 
 // Every failure of the report engine. what() is the description in Spanish (UTF-8).
-class ErrorInforme : public std::runtime_error {
+class ErrorInforme : public ErrorConDetalle {
 public:
-    ErrorInforme(CodigoInforme codigo, const std::string& descripcion)
-        : std::runtime_error(descripcion)
+    ErrorInforme(CodigoInforme codigo, const std::string& descripcion, std::string detalle = {})
+        : ErrorConDetalle(descripcion, std::move(detalle))
         , m_codigo(codigo) {}
 
     CodigoInforme Codigo() const { return m_codigo; }

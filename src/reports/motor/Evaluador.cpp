@@ -5,33 +5,62 @@
 #include "reports/motor/Plantilla.h"
 #include "store/Textos.h"
 
-#include <optional>
+#include <QStringList>
+
+#include <algorithm>
+#include <set>
 
 namespace pastorix {
 
 namespace {
 const Valor Nulo;
 
-// The number a cell counts with in totals: empty for Null and for texts that are none.
-std::optional<double> Sumando(const Valor& valor) {
+bool EnBlanco(std::string_view texto) {
+    return texto.find_first_not_of(' ') == std::string_view::npos;
+}
+
+// Takes a separator off that a missing part has left: "Nombre - ", " / 609".
+std::string Limpio(std::string_view texto) {
+    const auto recortar = [&] {
+        texto.remove_prefix(std::min(texto.find_first_not_of(' '), texto.size()));
+        texto.remove_suffix(texto.size() - 1 - std::min(texto.find_last_not_of(' '), texto.size() - 1));
+    };
+    const auto separa = [](char c) { return c == '-' || c == '/'; };
+    for (bool mas = true; mas && !EnBlanco(texto);) {
+        recortar();
+        mas = true;
+        if (separa(texto.back()) && (texto.size() == 1 || texto[texto.size() - 2] == ' '))
+            texto.remove_suffix(1);
+        else if (separa(texto.front()) && texto.size() > 1 && texto[1] == ' ')
+            texto.remove_prefix(1);
+        else
+            mas = false;
+    }
+    return std::string(EnBlanco(texto) ? std::string_view() : texto);
+}
+
+} // namespace
+
+std::optional<double> NumeroDeCelda(const Valor& valor) {
     if (EsNulo(valor))
         return std::nullopt;
-    if (const auto* texto = std::get_if<std::string>(&valor)) {
-        double n = 0;
-        return NumeroDeTexto(*texto, n) ? std::optional(n) : std::nullopt;
-    }
-    return NumeroDe(valor);
+    const auto* texto = std::get_if<std::string>(&valor);
+    if (!texto)
+        return NumeroDe(valor);
+    // Brackets and signs behind are numbers to a sheet's field, and notes in a report: "( 4 )".
+    if (texto->find_first_not_of("0123456789.,-+ ") != std::string::npos)
+        return std::nullopt;
+    return NumeroEscrito(*texto);
 }
-} // namespace
 
 std::string TextoConMascara(const Valor& valor, const std::string& mascara) {
     if (const auto* fecha = std::get_if<Fecha>(&valor))
         return FormatoFecha(*fecha, ClaseDe(mascara) == ClaseDeMascara::Fecha ? mascara : "dd/mm/yy");
     if (ClaseDe(mascara) == ClaseDeMascara::Numero) {
-        if (const auto n = Sumando(valor))
+        if (const auto n = NumeroDeCelda(valor))
             return FormatoNumero(*n, mascara);
     }
-    return TextoDe(valor);
+    return ClaseDe(mascara) == ClaseDeMascara::Limpio ? Limpio(TextoDe(valor)) : TextoDe(valor);
 }
 
 Evaluador::Evaluador(const Disposicion& disposicion, const Conjuntos& conjuntos, const DatosDeInforme& datos)
@@ -49,33 +78,32 @@ Evaluador::Evaluador(const Disposicion& disposicion, const Conjuntos& conjuntos,
         if (!valor)
             throw ErrorInforme(CodigoInforme::Parametro,
                                "Falta el valor del parámetro \"" + parametro.nombre + "\" del informe");
-        m_parametros.push_back(QString::fromStdString(*valor));
+        m_parametros.emplace_back(*valor);
     }
 }
 
-const Contexto* Evaluador::ContextoDe(int raiz, const Contexto* contexto) const {
-    while (contexto && contexto->raiz != raiz)
+const Contexto* Evaluador::ContextoDe(int tabla, const Contexto* contexto) const {
+    while (contexto && contexto->tabla != tabla)
         contexto = contexto->fuera;
     return contexto;
 }
 
 const Valor& Evaluador::Celda(RefCampo campo, const Contexto* contexto) const {
-    const int raiz = m_disposicion.Raiz(campo.tabla);
-    const Contexto* suyo = ContextoDe(raiz, contexto);
-    if (!suyo || suyo->fila >= m_conjuntos.Filas(raiz))
+    const Contexto* suyo = ContextoDe(campo.tabla, contexto);
+    if (!suyo || suyo->fila >= m_conjuntos.Filas(campo.tabla))
         return Nulo;
     return m_conjuntos.Celda(campo, suyo->fila);
 }
 
 bool Evaluador::Cumple(const Formula& formula, const Contexto* contexto) const {
-    return formula.Cumple([&](RefCampo campo) -> const Valor& { return Celda(campo, contexto); });
+    return formula.Cumple([&](RefCampo campo) -> const Valor& { return Celda(campo, contexto); },
+                          m_parametros);
 }
 
 QString Evaluador::Agregado(const Pieza& pieza, const Contexto* contexto) const {
-    const int raiz = m_disposicion.Raiz(pieza.campo.tabla);
-    const Contexto* suyo = ContextoDe(raiz, contexto);
+    const Contexto* suyo = ContextoDe(pieza.campo.tabla, contexto);
     const std::vector<std::size_t>* filas = suyo ? suyo->filas : nullptr;
-    const std::size_t n = filas ? filas->size() : m_conjuntos.Filas(raiz);
+    const std::size_t n = filas ? filas->size() : m_conjuntos.Filas(pieza.campo.tabla);
     double suma = 0;
     std::int64_t sumandos = 0;
     std::int64_t llenas = 0;
@@ -84,10 +112,15 @@ QString Evaluador::Agregado(const Pieza& pieza, const Contexto* contexto) const 
         if (EsNulo(valor))
             continue;
         ++llenas;
-        if (const auto sumando = Sumando(valor)) {
-            suma += *sumando;
-            ++sumandos;
-        }
+        if (pieza.tipo == Pieza::Tipo::Cuenta || EnBlanco(TextoDe(valor)))
+            continue;
+        const auto sumando = NumeroDeCelda(valor);
+        if (!sumando)
+            throw ErrorInforme(CodigoInforme::Disposicion,
+                               m_disposicion.fichero + ", línea " + std::to_string(pieza.linea) +
+                                   ": no se puede sumar \"" + TextoDe(valor) + "\", que no es un número");
+        suma += *sumando;
+        ++sumandos;
     }
     Valor resultado;
     if (pieza.tipo == Pieza::Tipo::Cuenta)
@@ -97,46 +130,57 @@ QString Evaluador::Agregado(const Pieza& pieza, const Contexto* contexto) const 
     return QString::fromStdString(TextoConMascara(resultado, pieza.mascara));
 }
 
-QString Evaluador::Texto(const Plantilla& plantilla, const Contexto* contexto, int pagina,
-                         int paginas) const {
-    QString texto;
+QString Evaluador::Trozo(const Pieza& pieza, const Contexto* contexto, const NumeroDePagina& n) const {
+    switch (pieza.tipo) {
+    case Pieza::Tipo::Literal:
+        return QString::fromStdString(pieza.texto);
+    case Pieza::Tipo::Campo:
+        return QString::fromStdString(TextoConMascara(Celda(pieza.campo, contexto), pieza.mascara));
+    case Pieza::Tipo::Parametro:
+        return QString::fromStdString(TextoDe(m_parametros[static_cast<std::size_t>(pieza.parametro)]));
+    case Pieza::Tipo::Pagina:
+        return QString::number(n.pagina);
+    case Pieza::Tipo::Paginas:
+        return QString::number(n.paginas);
+    case Pieza::Tipo::PaginaGrupo:
+        return QString::number(n.paginaGrupo);
+    case Pieza::Tipo::PaginasGrupo:
+        return QString::number(n.paginasGrupo);
+    case Pieza::Tipo::FechaImpresion:
+        return QString::fromStdString(TextoConMascara(m_datos.fecha, pieza.mascara));
+    case Pieza::Tipo::Titulo:
+        return m_datos.titulo.trimmed();
+    case Pieza::Tipo::Ganadero:
+        return m_datos.ganadero == 0 ? QString() : QString::fromStdString(TextoNumero(m_datos.ganadero));
+    default:
+        return Agregado(pieza, contexto);
+    }
+}
+
+QString Evaluador::Texto(const Plantilla& plantilla, const Contexto* contexto,
+                         const NumeroDePagina& n) const {
+    QStringList trozos;
+    std::set<int> tramosLlenos{-1};
     bool conCampos = false;
     bool algunoLleno = false;
     for (const Pieza& pieza : plantilla) {
-        QString trozo;
-        switch (pieza.tipo) {
-        case Pieza::Tipo::Literal:
-            trozo = QString::fromStdString(pieza.texto);
-            break;
-        case Pieza::Tipo::Campo:
-            trozo = QString::fromStdString(TextoConMascara(Celda(pieza.campo, contexto), pieza.mascara));
-            break;
-        case Pieza::Tipo::Parametro:
-            trozo = m_parametros[static_cast<std::size_t>(pieza.parametro)];
-            break;
-        case Pieza::Tipo::Pagina:
-            trozo = QString::number(pagina);
-            break;
-        case Pieza::Tipo::Paginas:
-            trozo = QString::number(paginas);
-            break;
-        case Pieza::Tipo::FechaImpresion:
-            trozo = QString::fromStdString(TextoConMascara(m_datos.fecha, pieza.mascara));
-            break;
-        case Pieza::Tipo::Titulo:
-            trozo = m_datos.titulo.trimmed();
-            break;
-        default:
-            trozo = Agregado(pieza, contexto);
-            break;
-        }
+        trozos << Trozo(pieza, contexto, n);
+        const bool lleno = pieza.tipo != Pieza::Tipo::Literal && !trozos.back().trimmed().isEmpty();
+        if (lleno)
+            tramosLlenos.insert(pieza.tramo);
         if (pieza.tipo == Pieza::Tipo::Campo || pieza.EsAgregado()) {
             conCampos = true;
-            algunoLleno = algunoLleno || !trozo.trimmed().isEmpty();
+            algunoLleno = algunoLleno || lleno;
         }
-        texto += trozo;
     }
-    return conCampos && !algunoLleno ? QString() : texto;
+    if (conCampos && !algunoLleno)
+        return {};
+    QString texto;
+    for (std::size_t i = 0; i < plantilla.size(); ++i) {
+        if (tramosLlenos.contains(plantilla[i].tramo))
+            texto += trozos.at(static_cast<qsizetype>(i));
+    }
+    return texto;
 }
 
 } // namespace pastorix

@@ -1,8 +1,8 @@
 #include "reports/motor/ErrorInforme.h"
+#include "reports/motor/Escritura.h"
 #include "reports/motor/Exportacion.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 namespace pastorix {
 
@@ -25,7 +25,7 @@ std::string Campo(std::string texto, bool escrito) {
 std::string Fila(const HojaDatos& hoja, const std::vector<Valor>& fila) {
     std::string linea;
     for (std::size_t c = 0; c < hoja.columnas.size(); ++c) {
-        const Valor valor = CeldaExportada(fila[c], hoja.columnas[c]);
+        const Valor& valor = fila[c];
         const auto* fecha = std::get_if<Fecha>(&valor);
         linea += (c ? ";" : "") + Campo(fecha ? FormatoFecha(*fecha, "dd/mm/yyyy") : TextoDe(valor),
                                         std::holds_alternative<std::string>(valor));
@@ -33,36 +33,37 @@ std::string Fila(const HojaDatos& hoja, const std::vector<Valor>& fila) {
     return linea + "\r\n";
 }
 
-void GuardarHoja(const HojaDatos& hoja, const QString& fichero) {
-    QSaveFile salida(fichero);
-    bool bien = salida.open(QIODevice::WriteOnly);
-    std::string cabeza = "\xEF\xBB\xBF";
+QByteArray TextoDeHoja(const HojaDatos& hoja) {
+    std::string texto = "\xEF\xBB\xBF";
     for (std::size_t c = 0; c < hoja.columnas.size(); ++c)
-        cabeza += (c ? ";" : "") + Campo(hoja.columnas[c].titulo.toStdString(), true);
-    cabeza += "\r\n";
-    bien = bien && salida.write(cabeza.data(), static_cast<qint64>(cabeza.size())) >= 0;
-    for (std::size_t f = 0; bien && f < hoja.filas.size(); ++f) {
-        const std::string linea = Fila(hoja, hoja.filas[f]);
-        bien = salida.write(linea.data(), static_cast<qint64>(linea.size())) >= 0;
-    }
-    if (!bien || !salida.commit())
-        throw ErrorInforme(CodigoInforme::Escritura, "No se puede escribir el fichero " +
-                                                         fichero.toStdString() + " (" +
-                                                         salida.errorString().toStdString() + ")");
+        texto += (c ? ";" : "") + Campo(hoja.columnas[c].titulo.toStdString(), true);
+    texto += "\r\n";
+    for (const auto& fila : hoja.filas)
+        texto += Fila(hoja, fila);
+    return QByteArray::fromStdString(texto);
 }
 
 } // namespace
 
 QStringList GuardarCsv(const InformeTerminado& informe, const QString& carpeta) {
+    const bool nueva = !QDir(carpeta).exists();
     if (!QDir().mkpath(carpeta))
         throw ErrorInforme(CodigoInforme::Escritura, "No se puede crear la carpeta " + carpeta.toStdString());
     const QStringList nombres = NombresDeHojas(informe.hojas);
-    QStringList ficheros;
+    std::vector<FicheroEntero> ficheros;
+    QStringList escritos;
     for (std::size_t i = 0; i < informe.hojas.size(); ++i) {
-        ficheros << QDir(carpeta).filePath(nombres.at(static_cast<qsizetype>(i)) + QStringLiteral(".csv"));
-        GuardarHoja(informe.hojas[i], ficheros.back());
+        escritos << QDir(carpeta).filePath(nombres.at(static_cast<qsizetype>(i)) + QStringLiteral(".csv"));
+        ficheros.push_back({escritos.back(), TextoDeHoja(informe.hojas[i])});
     }
-    return ficheros;
+    try {
+        EscribirFicheros(ficheros);
+    } catch (const ErrorInforme&) {
+        if (nueva)
+            QDir().rmdir(carpeta);
+        throw;
+    }
+    return escritos;
 }
 
 } // namespace pastorix

@@ -1,10 +1,13 @@
 #include "reports/motor/ErrorInforme.h"
+#include "reports/motor/Escritura.h"
 #include "reports/motor/Exportacion.h"
 #include "reports/motor/Plantilla.h"
+#include "reports/motor/Zip.h"
 
+#include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 #include <xlsxwriter.h>
 
@@ -18,18 +21,29 @@ namespace {
 constexpr double AnchoMinimo = 8; // letters
 constexpr double AnchoMaximo = 60;
 constexpr qsizetype TextoMaximo = 32'000; // letters of a cell; the format ends at 32767
-constexpr std::size_t FilasMaximas = 1'048'575;
+constexpr lxw_row_t Cabeceras = 2; // row of the headings, from 0: above it whose sheet it is, and a blank
+constexpr std::size_t FilasMaximas = 1'048'573;
 
-[[noreturn]] void Fallo(const QString& fichero, const QString& causa) {
-    throw ErrorInforme(CodigoInforme::Escritura, "No se puede escribir el fichero " + fichero.toStdString() +
-                                                     " (" + causa.toStdString() + ")");
+// The library does not look whether its temporary files took what it wrote, and packs what a full disk has left of them.
+bool EstaEntero(const QByteArray& libro) {
+    const auto partes = PartesDelZip(libro);
+    return partes && std::all_of(partes->begin(), partes->end(), [](const auto& parte) {
+               QXmlStreamReader xml(parte.second);
+               while (!xml.atEnd())
+                   xml.readNext();
+               return !xml.hasError();
+           });
 }
 
 // A workbook being written; the library's handle never leaves it.
 class Libro {
 public:
-    explicit Libro(const QString& fichero)
-        : m_libro(workbook_new(QFile::encodeName(fichero).constData())) {
+    // carpeta: where the library may put its temporary files.
+    Libro(const QString& fichero, const QString& carpeta)
+        : m_carpeta(QFile::encodeName(carpeta)) {
+        lxw_workbook_options opciones{};
+        opciones.tmpdir = m_carpeta.data();
+        m_libro = workbook_new_opt(QFile::encodeName(fichero).constData(), &opciones);
         if (!m_libro)
             throw std::bad_alloc();
         m_cabecera = workbook_add_format(m_libro);
@@ -38,6 +52,9 @@ public:
         format_set_bottom(m_cabecera, LXW_BORDER_THIN);
         format_set_text_wrap(m_cabecera);
         format_set_align(m_cabecera, LXW_ALIGN_VERTICAL_BOTTOM);
+        m_titulo = workbook_add_format(m_libro);
+        format_set_bold(m_titulo);
+        format_set_font_size(m_titulo, 13);
     }
     ~Libro() {
         if (m_libro)
@@ -55,7 +72,7 @@ public:
         workbook_set_properties(m_libro, &propiedades);
     }
 
-    void PonerHoja(const HojaDatos& hoja, const QString& nombre) {
+    void PonerHoja(const HojaDatos& hoja, const QString& nombre, const QString& encabezado) {
         lxw_worksheet* hojaNueva = workbook_add_worksheet(m_libro, nombre.toUtf8().constData());
         if (!hojaNueva)
             throw ErrorInforme(CodigoInforme::Escritura,
@@ -67,12 +84,14 @@ public:
             PonerColumna(hojaNueva, hoja, c);
         const auto ultimaColumna =
             static_cast<lxw_col_t>(hoja.columnas.empty() ? 0 : hoja.columnas.size() - 1);
-        worksheet_freeze_panes(hojaNueva, 1, 0);
-        worksheet_autofilter(hojaNueva, 0, 0, static_cast<lxw_row_t>(hoja.filas.size()), ultimaColumna);
+        worksheet_write_string(hojaNueva, 0, 0, encabezado.left(TextoMaximo).toUtf8().constData(), m_titulo);
+        worksheet_freeze_panes(hojaNueva, Cabeceras + 1, 0);
+        worksheet_autofilter(hojaNueva, Cabeceras, 0, Cabeceras + static_cast<lxw_row_t>(hoja.filas.size()),
+                             ultimaColumna);
         worksheet_set_landscape(hojaNueva);
         worksheet_set_paper(hojaNueva, 9); // A4
         worksheet_fit_to_pages(hojaNueva, 1, 0);
-        worksheet_repeat_rows(hojaNueva, 0, 0);
+        worksheet_repeat_rows(hojaNueva, 0, Cabeceras);
     }
 
     lxw_error Cerrar() {
@@ -94,13 +113,12 @@ private:
     void PonerColumna(lxw_worksheet* hojaNueva, const HojaDatos& hoja, std::size_t c) {
         const HojaDatos::Columna& columna = hoja.columnas[c];
         const auto lugar = static_cast<lxw_col_t>(c);
-        worksheet_write_string(hojaNueva, 0, lugar, columna.titulo.left(TextoMaximo).toUtf8().constData(),
-                               m_cabecera);
+        worksheet_write_string(hojaNueva, Cabeceras, lugar,
+                               columna.titulo.left(TextoMaximo).toUtf8().constData(), m_cabecera);
         double ancho = std::clamp(double(columna.titulo.size()) + 3, AnchoMinimo, 24.0);
         for (std::size_t f = 0; f < hoja.filas.size(); ++f) {
-            const Valor valor = CeldaExportada(hoja.filas[f][c], columna);
-            ancho =
-                std::max(ancho, PonerCelda(hojaNueva, static_cast<lxw_row_t>(f + 1), lugar, valor, columna));
+            ancho = std::max(ancho, PonerCelda(hojaNueva, Cabeceras + 1 + static_cast<lxw_row_t>(f), lugar,
+                                               hoja.filas[f][c], columna));
         }
         worksheet_set_column(hojaNueva, lugar, lugar, std::min(ancho, AnchoMaximo), nullptr);
     }
@@ -135,8 +153,10 @@ private:
         return double(TextoDe(valor).size()) + 1;
     }
 
-    lxw_workbook* m_libro;
+    QByteArray m_carpeta; // the library keeps a pointer to it
+    lxw_workbook* m_libro = nullptr;
     lxw_format* m_cabecera = nullptr;
+    lxw_format* m_titulo = nullptr;
     std::map<std::string, lxw_format*> m_formatos;
 };
 
@@ -146,20 +166,21 @@ void GuardarXlsx(const InformeTerminado& informe, const QString& fichero) {
     // The library writes by file name only: it writes aside, and the result takes the place of the old file.
     const QTemporaryDir aparte;
     const QString temporal = aparte.filePath(QStringLiteral("libro.xlsx"));
-    Libro libro(temporal);
-    libro.PonerTitulo(informe.titulo);
-    const QStringList nombres = NombresDeHojas(informe.hojas);
-    for (std::size_t i = 0; i < informe.hojas.size(); ++i)
-        libro.PonerHoja(informe.hojas[i], nombres.at(static_cast<qsizetype>(i)));
-    if (const lxw_error error = libro.Cerrar(); error != LXW_NO_ERROR)
-        Fallo(fichero, QString::fromUtf8(lxw_strerror(error)));
-    QFile escrito(temporal);
-    QSaveFile salida(fichero);
-    if (!escrito.open(QIODevice::ReadOnly))
-        Fallo(fichero, escrito.errorString());
-    const QByteArray bytes = escrito.readAll();
-    if (!salida.open(QIODevice::WriteOnly) || salida.write(bytes) != bytes.size() || !salida.commit())
-        Fallo(fichero, salida.errorString());
+    QByteArray bytes;
+    if (aparte.isValid()) {
+        Libro libro(temporal, aparte.path());
+        libro.PonerTitulo(informe.titulo);
+        const QStringList nombres = NombresDeHojas(informe.hojas);
+        for (std::size_t i = 0; i < informe.hojas.size(); ++i)
+            libro.PonerHoja(informe.hojas[i], nombres.at(static_cast<qsizetype>(i)), informe.encabezado);
+        QFile escrito(temporal);
+        if (libro.Cerrar() == LXW_NO_ERROR && escrito.open(QIODevice::ReadOnly))
+            bytes = escrito.readAll();
+    }
+    if (!EstaEntero(bytes))
+        NoSePuedeEscribir(fichero, "no queda sitio, o no hay permiso, para los ficheros temporales en " +
+                                       QDir::toNativeSeparators(QDir::tempPath()).toStdString());
+    EscribirFicheros({{fichero, bytes}});
 }
 
 } // namespace pastorix

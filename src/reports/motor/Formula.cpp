@@ -4,7 +4,7 @@
 #include "store/Textos.h"
 
 #include <array>
-#include <cmath>
+#include <optional>
 
 namespace pastorix {
 
@@ -17,32 +17,35 @@ constexpr int HondoMaximo = 50;
     throw ErrorInforme(CodigoInforme::Formula, "Fórmula de selección errónea: " + texto);
 }
 
-double Numero(const Valor& v) {
+std::optional<double> Numero(const Valor& v) {
     if (const auto* texto = std::get_if<std::string>(&v)) {
         double n = 0;
-        if (!NumeroDeTexto(*texto, n))
-            Fallo("se compara el texto \"" + *texto + "\" con un número");
-        return n;
+        return NumeroDeTexto(*texto, n) ? std::optional(n) : std::nullopt;
     }
     return NumeroDe(v);
 }
 
-// Order of two values that are not Null.
-int Comparar(const Valor& a, const Valor& b) {
+std::optional<Fecha> Dia(const Valor& v) {
+    const auto* texto = std::get_if<std::string>(&v);
+    return texto ? FechaDeTexto(*texto) : std::get<Fecha>(v);
+}
+
+template <typename T>
+std::optional<int> Orden(const std::optional<T>& a, const std::optional<T>& b) {
+    if (!a || !b)
+        return std::nullopt;
+    return *a < *b ? -1 : (*b < *a ? 1 : 0);
+}
+
+// Order of two values that are not Null; nothing when they cannot be compared.
+std::optional<int> Comparar(const Valor& a, const Valor& b) {
     const bool textoA = std::holds_alternative<std::string>(a);
     const bool textoB = std::holds_alternative<std::string>(b);
     if (textoA && textoB)
         return CompararEspañol(std::get<std::string>(a), std::get<std::string>(b));
-    if (std::holds_alternative<Fecha>(a) != std::holds_alternative<Fecha>(b) && (textoA || textoB)) {
-        const auto fechaA = textoA ? FechaDeTexto(std::get<std::string>(a)) : std::get<Fecha>(a);
-        const auto fechaB = textoB ? FechaDeTexto(std::get<std::string>(b)) : std::get<Fecha>(b);
-        if (!fechaA || !fechaB)
-            Fallo("se compara una fecha con el texto \"" + std::get<std::string>(textoA ? a : b) + "\"");
-        return *fechaA < *fechaB ? -1 : (*fechaB < *fechaA ? 1 : 0);
-    }
-    const double x = Numero(a);
-    const double y = Numero(b);
-    return x < y ? -1 : (y < x ? 1 : 0);
+    if (std::holds_alternative<Fecha>(a) != std::holds_alternative<Fecha>(b) && (textoA || textoB))
+        return Orden(Dia(a), Dia(b));
+    return Orden(Numero(a), Numero(b));
 }
 
 bool ConTexto(const Valor& v) {
@@ -53,42 +56,47 @@ bool ConTexto(const Valor& v) {
 
 } // namespace
 
-bool Formula::Cumple(const Campos& campos) const {
-    return m_nodos.empty() || Cumple(static_cast<int>(m_nodos.size()) - 1, campos);
+bool Formula::Cumple(const Campos& campos, std::span<const Valor> parametros) const {
+    return m_nodos.empty() || Cumple(static_cast<int>(m_nodos.size()) - 1, campos, parametros);
 }
 
-bool Formula::Cumple(int nodo, const Campos& campos) const {
+bool Formula::Cumple(int nodo, const Campos& campos, std::span<const Valor> parametros) const {
     const Nodo& n = m_nodos[static_cast<std::size_t>(nodo)];
     switch (n.op) {
     case Op::Y:
-        return Cumple(n.a, campos) && Cumple(n.b, campos);
+        return Cumple(n.a, campos, parametros) && Cumple(n.b, campos, parametros);
     case Op::O:
-        return Cumple(n.a, campos) || Cumple(n.b, campos);
+        return Cumple(n.a, campos, parametros) || Cumple(n.b, campos, parametros);
     case Op::No:
-        return !Cumple(n.a, campos);
+        return !Cumple(n.a, campos, parametros);
     default:
         break;
     }
-    const Valor& a = n.izquierda.esCampo ? campos(n.izquierda.campo) : n.izquierda.literal;
+    const auto valor = [&](const Operando& o) -> const Valor& {
+        return o.esCampo          ? campos(o.campo)
+               : o.parametro >= 0 ? parametros[static_cast<std::size_t>(o.parametro)]
+                                  : o.literal;
+    };
+    const Valor& a = valor(n.izquierda);
     if (n.op == Op::ConTexto)
         return ConTexto(a);
-    const Valor& b = n.derecha.esCampo ? campos(n.derecha.campo) : n.derecha.literal;
-    if (EsNulo(a) || EsNulo(b))
+    const Valor& b = valor(n.derecha);
+    const auto orden = EsNulo(a) || EsNulo(b) ? std::nullopt : Comparar(a, b);
+    if (!orden)
         return false;
-    const int orden = Comparar(a, b);
     switch (n.op) {
     case Op::Igual:
-        return orden == 0;
+        return *orden == 0;
     case Op::Distinto:
-        return orden != 0;
+        return *orden != 0;
     case Op::Menor:
-        return orden < 0;
+        return *orden < 0;
     case Op::MenorIgual:
-        return orden <= 0;
+        return *orden <= 0;
     case Op::Mayor:
-        return orden > 0;
+        return *orden > 0;
     default:
-        return orden >= 0;
+        return *orden >= 0;
     }
 }
 
@@ -106,10 +114,10 @@ std::vector<RefCampo> Formula::CamposUsados() const {
 // Recursive descent over: o := y {or y}; y := no {and no}; no := not no | "(" o ")" | comparison.
 class LectorFormula {
 public:
-    LectorFormula(std::string_view texto, const Nombres& nombres, bool campoSolo)
+    LectorFormula(std::string_view texto, const Nombres& nombres, bool deDiseño)
         : m_texto(texto)
         , m_nombres(nombres)
-        , m_campoSolo(campoSolo) {}
+        , m_deDiseño(deDiseño) {}
 
     Formula Leer() {
         if (m_texto.size() > LargoMaximo)
@@ -200,7 +208,7 @@ private:
                 return Poner(std::move(nodo));
             }
         }
-        if (!m_campoSolo || !nodo.izquierda.esCampo) {
+        if (!m_deDiseño || (!nodo.izquierda.esCampo && nodo.izquierda.parametro < 0)) {
             if (m_pos < m_texto.size())
                 Sobra();
             Fallo("falta la comparación");
@@ -219,8 +227,13 @@ private:
             const std::size_t fin = m_texto.find('}', m_pos);
             if (fin == std::string_view::npos)
                 Fallo("falta la llave que cierra un campo");
-            operando.esCampo = true;
-            operando.campo = m_nombres.campo(m_texto.substr(m_pos + 1, fin - m_pos - 1));
+            const std::string_view dentro = m_texto.substr(m_pos + 1, fin - m_pos - 1);
+            if (m_deDiseño && dentro.starts_with('?')) {
+                operando.parametro = m_nombres.parametro(dentro.substr(1));
+            } else {
+                operando.esCampo = true;
+                operando.campo = m_nombres.campo(dentro);
+            }
             m_pos = fin + 1;
         } else if (c == '\'' || c == '"') {
             const std::size_t fin = m_texto.find(c, m_pos + 1);
@@ -244,13 +257,13 @@ private:
 
     std::string_view m_texto;
     const Nombres& m_nombres;
-    bool m_campoSolo;
+    bool m_deDiseño;
     std::size_t m_pos = 0;
     Formula m_formula;
 };
 
-Formula LeerFormula(std::string_view texto, const Nombres& nombres, bool campoSolo) {
-    return LectorFormula(texto, nombres, campoSolo).Leer();
+Formula LeerFormula(std::string_view texto, const Nombres& nombres, bool deDiseño) {
+    return LectorFormula(texto, nombres, deDiseño).Leer();
 }
 
 } // namespace pastorix

@@ -3,6 +3,7 @@
 #include "store/Valor.h"
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +17,7 @@ struct RefCampo {
     friend bool operator==(const RefCampo&, const RefCampo&) = default;
 };
 
-// A condition over fields, texts and numbers: "{X_Temp.C5} <= '2026'", "{T_Sementales.Id_Ganadero}=12",
+// A condition over fields, parameters, texts and numbers: "{X_Temp.C5} <= '2026'", "{T_Sementales.Id_Ganadero}=12",
 // "({X.N1} > 2 or {X.N1} = 0) and not {X.C1}". Serves the selection of a report and the visibility of its parts.
 class Formula {
 public:
@@ -24,6 +25,7 @@ public:
     struct Operando {
         bool esCampo = false;
         RefCampo campo;
+        int parametro = -1;
         Valor literal;
     };
     struct Nodo {
@@ -37,15 +39,15 @@ public:
     using Campos = std::function<const Valor&(RefCampo)>;
 
     bool Vacia() const { return m_nodos.empty(); }
-    // True when the row passes. An empty formula passes everything; a comparison with Null never passes. Texts compare as the
-    // databases do, without regard to case. Throws ErrorInforme(Formula) when a text is compared with a number it cannot be.
-    bool Cumple(const Campos& campos) const;
+    // True when the row passes. An empty formula passes everything; a comparison with Null never passes, nor one of a text with a number
+    // or a date that it cannot be. Texts compare as the databases do, without regard to case.
+    bool Cumple(const Campos& campos, std::span<const Valor> parametros = {}) const;
     // The fields it names.
     std::vector<RefCampo> CamposUsados() const;
 
 private:
     friend class LectorFormula;
-    bool Cumple(int nodo, const Campos& campos) const;
+    bool Cumple(int nodo, const Campos& campos, std::span<const Valor> parametros) const;
     std::vector<Nodo> m_nodos; // the last one is the root
 };
 
@@ -55,8 +57,8 @@ struct Nombres {
     std::function<int(std::string_view)> parametro;  // "AñoRef"
 };
 
-// Reads a formula. Throws ErrorInforme(Formula) with the position of the fault; a bare field ("has text") is a condition only
-// where the caller allows it, since no selection of records is written that way.
-Formula LeerFormula(std::string_view texto, const Nombres& nombres, bool campoSolo);
+// Reads a formula. Throws ErrorInforme(Formula) with the position of the fault. Conditions of a layout may hold parameters "{?AñoRef}" and
+// bare fields ("has text"); no selection of records is written that way.
+Formula LeerFormula(std::string_view texto, const Nombres& nombres, bool deDiseño);
 
 } // namespace pastorix

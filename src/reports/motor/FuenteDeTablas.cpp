@@ -20,7 +20,7 @@ void TablasEnMemoria::Poner(TablaDatos tabla) {
     m_tablas.push_back(std::move(tabla));
 }
 
-TablaDatos TablasEnMemoria::Leer(std::string_view nombre) const {
+TablaDatos TablasEnMemoria::Leer(std::string_view nombre, std::string_view) const {
     for (const TablaDatos& tabla : m_tablas) {
         if (IgualSinCaso(tabla.nombre, nombre))
             return tabla;

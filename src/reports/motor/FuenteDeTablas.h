@@ -22,15 +22,16 @@ struct TablaDatos {
 class FuenteDeTablas {
 public:
     virtual ~FuenteDeTablas() = default;
-    // The whole table. Throws ErrorInforme(DatosDesconocidos) when there is none of that name.
-    virtual TablaDatos Leer(std::string_view nombre) const = 0;
+    // The whole table; or, where a statement is given, its rows under that name. Throws ErrorInforme(DatosDesconocidos) when there is no
+    // such table, or the statement names what is not there.
+    virtual TablaDatos Leer(std::string_view nombre, std::string_view consulta = {}) const = 0;
 };
 
-// Tables held in memory: tests, demonstrations, fuzzing.
+// Tables held in memory: tests, demonstrations, fuzzing. It runs no statements: their rows are put in under their name.
 class TablasEnMemoria : public FuenteDeTablas {
 public:
     void Poner(TablaDatos tabla);
-    TablaDatos Leer(std::string_view nombre) const override;
+    TablaDatos Leer(std::string_view nombre, std::string_view consulta = {}) const override;
 
 private:
     std::vector<TablaDatos> m_tablas;

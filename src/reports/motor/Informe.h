@@ -20,6 +20,8 @@ struct HojaDatos {
 struct InformeTerminado {
     QString titulo;          // of the window, as the form gave it
     QString nombrePropuesto; // for files, without ending
+    QString encabezado;      // above exported sheets: report, farmer and year
+    QString aviso;           // to be told once, in the foot of the preview
     bool maximizada = false;
     Paginas paginas;
     std::vector<HojaDatos> hojas;
@@ -30,6 +32,7 @@ struct PeticionInforme {
     QString titulo;
     std::string formulaSeleccion;
     std::map<std::string, std::string> parametros; // name -> value
+    double ganadero = 0;                           // of a report on one farmer
 };
 
 // Runs a report: layout and tables become pages. Needs a QApplication, and no display. Throws ErrorInforme; an error of the source

@@ -13,7 +13,10 @@ public:
     explicit LectorDeTablas(Conexion& conexion)
         : m_conexion(conexion) {}
 
-    TablaDatos Leer(std::string_view nombre) const override;
+    TablaDatos Leer(std::string_view nombre, std::string_view consulta = {}) const override;
+
+protected:
+    Conexion& Base() const { return m_conexion; }
 
 private:
     Conexion& m_conexion;

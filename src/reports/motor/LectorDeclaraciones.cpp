@@ -4,6 +4,7 @@
 #include "store/Textos.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace pastorix {
 
@@ -56,11 +57,15 @@ void LeerTabla(Lectura& l, Argumentos& a) {
     TablaUsada tabla;
     tabla.linea = a.Linea();
     tabla.nombre = Identificador(a, "el nombre de la tabla");
-    tabla.alias = a.Bandera("como") ? Identificador(a, "el otro nombre de la tabla") : tabla.nombre;
-    tabla.hoja = a.Opcion("hoja").value_or(tabla.alias);
-    a.Terminar();
-    if (l.d.BuscarTabla(tabla.alias) >= 0)
-        a.Fallo("la tabla \"" + tabla.alias + "\" ya está declarada");
+    tabla.hoja = a.Opcion("hoja").value_or(tabla.nombre);
+    if (const auto consulta = a.Opcion("consulta")) {
+        if (!IgualSinCaso(std::string_view(*consulta).substr(0, 7), "SELECT "))
+            a.Fallo("una consulta empieza por SELECT");
+        tabla.consulta = *consulta;
+    }
+    tabla.calculada = a.Bandera("calculada");
+    if (l.d.BuscarTabla(tabla.nombre) >= 0)
+        a.Fallo("la tabla \"" + tabla.nombre + "\" ya está declarada");
     if (l.d.tablas.size() >= TablasMaximas)
         a.Fallo("el informe usa demasiadas tablas");
     l.d.tablas.push_back(std::move(tabla));
@@ -86,47 +91,11 @@ void LeerTabla(Lectura& l, Argumentos& a) {
             c.Fallo("la tabla tiene demasiadas columnas");
         columnas.push_back(std::move(columna));
     });
-}
-
-// union T_Direcciones con T_Ganaderos por=Id_GV:Id_Ganadero,Id_Direccion:Id_Direccion
-void LeerUnion(Lectura& l, Argumentos& a) {
-    const int tabla = l.Tabla(a, a.Nombre("la tabla que se une"));
-    if (!a.Bandera("con"))
-        a.Fallo("una unión se escribe: union Tabla con OtraTabla por=Columna:ColumnaDeLaOtra");
-    const int base = l.Tabla(a, a.Nombre("la tabla a la que se une"));
-    TablaUsada& unida = l.d.tablas[static_cast<std::size_t>(tabla)];
-    if (unida.base >= 0)
-        a.Fallo("la tabla \"" + unida.alias + "\" ya está unida a otra");
-    if (l.d.Raiz(base) == tabla)
-        a.Fallo("la tabla \"" + unida.alias + "\" se uniría consigo misma");
-    const auto pares = a.Opcion("por");
+    Ambito anteriores;
+    anteriores.abiertas.resize(static_cast<std::size_t>(indice));
+    std::iota(anteriores.abiertas.begin(), anteriores.abiertas.end(), 0);
+    l.d.tablas.back().lazos = l.Lazos(a, indice, anteriores);
     a.Terminar();
-    for (const std::string& par : Separar(pares.value_or(""), ',')) {
-        const std::vector<std::string> lados = Separar(par, ':');
-        if (lados.size() != 2)
-            a.Fallo("en por= falta qué columna se iguala a cuál: Columna:ColumnaDeLaOtra");
-        unida.union_.push_back(
-            {{tabla, l.Columna(a, tabla, lados[0])}, {base, l.Columna(a, base, lados[1])}});
-    }
-    unida.base = base;
-}
-
-void LeerOrden(Lectura& l, Argumentos& a) {
-    const int tabla = l.Tabla(a, a.Nombre("la tabla que se ordena"));
-    if (l.d.tablas[static_cast<std::size_t>(tabla)].base >= 0)
-        a.Fallo("una tabla unida a otra se ordena con ella");
-    auto& orden = l.d.tablas[static_cast<std::size_t>(tabla)].orden;
-    while (a.QuedaNombre()) {
-        std::string nombre = a.Nombre("la columna");
-        const bool descendente = nombre.starts_with('-');
-        const RefCampo campo = l.Campo(a, tabla, nombre.substr(descendente ? 1 : 0));
-        if (l.d.Raiz(campo.tabla) != tabla)
-            a.Fallo("la tabla de \"" + nombre + "\" no está unida a la que se ordena");
-        orden.push_back({campo, descendente});
-    }
-    a.Terminar();
-    if (orden.empty())
-        a.Fallo("falta la columna por la que se ordena");
 }
 
 void LeerParametro(Lectura& l, Argumentos& a) {
@@ -179,6 +148,11 @@ bool LeerDeclaracion(Lectura& l, Argumentos& a) {
     } else if (orden == "titulo") {
         l.d.titulo = a.Texto("el título");
         a.Terminar();
+    } else if (orden == "encabezado") {
+        Ambito pagina;
+        pagina.pagina = true;
+        l.d.encabezado = l.Texto(a, a.Texto("el encabezado de las hojas"), pagina);
+        a.Terminar();
     } else if (orden == "letra") {
         LeerLetra(l, a);
     } else if (orden == "color") {
@@ -189,10 +163,6 @@ bool LeerDeclaracion(Lectura& l, Argumentos& a) {
         LeerParametro(l, a);
     } else if (orden == "tabla") {
         LeerTabla(l, a);
-    } else if (orden == "union") {
-        LeerUnion(l, a);
-    } else if (orden == "orden") {
-        LeerOrden(l, a);
     } else {
         return false;
     }

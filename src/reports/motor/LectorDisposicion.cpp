@@ -4,7 +4,9 @@
 #include "reports/motor/Lectura.h"
 #include "store/Textos.h"
 
-#include <QFile>
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace pastorix {
 
@@ -12,7 +14,7 @@ namespace {
 
 constexpr std::size_t GruposMaximos = 8;
 constexpr std::size_t ColumnasLadoALado = 12;
-constexpr qint64 FicheroMaximo = 1'000'001; // one more than the reader of lines accepts
+constexpr std::string_view PrimeraPalabra = "pastorix-informe";
 
 void LeerNodos(Lectura& l, Argumentos& apertura, double ancho, const Ambito& ambito,
                std::vector<Nodo>& nodos) {
@@ -32,19 +34,18 @@ void PonerBanda(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito,
 void LeerGrupo(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, Seccion& seccion) {
     Grupo grupo;
     for (const std::string& nombre : Separar(a.Nombre("la columna del grupo"), ',')) {
-        const RefCampo campo = l.Campo(a, seccion.tabla, nombre);
-        if (l.d.Raiz(campo.tabla) != l.d.Raiz(seccion.tabla))
-            a.Fallo("el grupo es de otra tabla que la sección");
-        grupo.columnas.push_back(campo);
+        grupo.columnas.push_back({seccion.tabla, l.Columna(a, seccion.tabla, nombre)});
     }
     grupo.paginaNueva = a.Bandera("pagina-nueva");
     grupo.juntos = a.Bandera("juntos");
+    if (const auto indice = a.Opcion("indice"))
+        grupo.indice = l.Texto(a, *indice, ambito);
     a.Terminar();
     if (seccion.grupos.size() >= GruposMaximos || !seccion.cuerpo.empty())
         a.Fallo("los grupos van antes que el detalle, y no pueden ser más de " +
                 std::to_string(GruposMaximos));
     Ambito conTotales = ambito;
-    conTotales.agregados = l.d.Raiz(seccion.tabla);
+    conTotales.agregados = seccion.tabla;
     l.Bloque(a, [&](Argumentos& b) {
         if (b.Orden() == "cabecera")
             PonerBanda(l, b, ancho, conTotales, grupo.cabecera);
@@ -59,16 +60,16 @@ void LeerGrupo(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, Se
 void LeerSeccion(Lectura& l, Argumentos& a, double ancho, const Ambito& fuera, std::vector<Nodo>& nodos) {
     auto seccion = std::make_unique<Seccion>();
     seccion->tabla = l.Tabla(a, a.Nombre("la tabla de la sección"));
-    if (l.d.tablas[static_cast<std::size_t>(seccion->tabla)].base >= 0)
-        a.Fallo("una tabla unida a otra se recorre con ella");
     seccion->lazos = l.Lazos(a, seccion->tabla, fuera);
     Ambito ambito = fuera;
-    ambito.abiertas.push_back(l.d.Raiz(seccion->tabla));
+    ambito.abiertas.push_back(seccion->tabla);
     ambito.agregados = Ambito::NingunAgregado;
     Ambito conTotales = ambito;
-    conTotales.agregados = l.d.Raiz(seccion->tabla);
+    conTotales.agregados = seccion->tabla;
     seccion->donde = l.Condicion(a, "donde", ambito);
     seccion->paginaNueva = a.Bandera("pagina-nueva");
+    if (const auto indice = a.Opcion("indice"))
+        seccion->indice = l.Texto(a, *indice, ambito);
     a.Terminar();
     l.Bloque(a, [&](Argumentos& b) {
         const std::string& orden = b.Orden();
@@ -114,27 +115,49 @@ void LeerColumnas(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito,
     });
 }
 
-void LeerRaiz(Lectura& l) {
+void LeerPrimera(Argumentos& a) {
+    if (a.Orden() != PrimeraPalabra || a.Nombre("la versión") != "1")
+        a.Fallo("el fichero no es un informe: debe empezar por \"pastorix-informe 1\"");
+    a.Terminar();
+}
+
+// incluye "comun.rpt": its looks, as if they stood here.
+void LeerIncluido(Lectura& l, Argumentos& a, const Incluibles& incluibles) {
+    const std::string nombre = a.Texto("el nombre del fichero que se incluye");
+    a.Terminar();
+    const bool llano = !nombre.empty() && nombre.find_first_of("/\\:") == std::string::npos;
+    const auto texto = incluibles && llano ? incluibles(nombre) : std::nullopt;
+    if (!texto)
+        a.Fallo("no hay ningún diseño \"" + nombre + "\" que incluir");
+    bool primera = true;
+    l.Incluir(*texto, nombre, [&](Argumentos& b) {
+        static constexpr std::array<std::string_view, 4> aspectos{"pagina", "letra", "color", "estilo"};
+        if (std::exchange(primera, false))
+            LeerPrimera(b);
+        else if (std::find(aspectos.begin(), aspectos.end(), b.Orden()) == aspectos.end() ||
+                 !LeerDeclaracion(l, b))
+            b.Fallo("en un fichero que se incluye sólo hay página, letra, colores y estilos");
+    });
+}
+
+void LeerRaiz(Lectura& l, const Incluibles& incluibles) {
     bool primera = true;
     Ambito pagina;
     pagina.pagina = true;
     Ambito cuerpo;
     cuerpo.agregados = Ambito::CualquierAgregado;
     l.Todo([&](Argumentos& a) {
-        if (primera) {
-            if (a.Orden() != "pastorix-informe" || a.Nombre("la versión") != "1")
-                a.Fallo("el fichero no es un informe: debe empezar por \"pastorix-informe 1\"");
-            a.Terminar();
-            primera = false;
-            return;
-        }
+        if (std::exchange(primera, false))
+            return LeerPrimera(a);
         const std::string& orden = a.Orden();
         const bool dePagina = orden == "cabecera-pagina" || orden == "pie-pagina";
         if (LeerNodo(l, a, l.d.AnchoUtil(), cuerpo, l.d.cuerpo))
             return;
         if (!l.d.cuerpo.empty())
             a.Fallo("\"" + orden + "\" no se conoce, o debe ir antes que las bandas y secciones");
-        if (dePagina) {
+        if (orden == "incluye") {
+            LeerIncluido(l, a, incluibles);
+        } else if (dePagina) {
             PonerBanda(l, a, l.d.AnchoUtil(), pagina,
                        orden == "pie-pagina" ? l.d.piePagina : l.d.cabeceraPagina);
             if (l.d.AltoUtil() < 20)
@@ -157,6 +180,9 @@ bool LeerNodo(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, std
     } else if (orden == "seccion") {
         LeerSeccion(l, a, ancho, ambito, nodos);
         return true;
+    } else if (orden == "filas") {
+        LeerFilas(l, a, ancho, ambito, nodos);
+        return true;
     } else if (orden == "bloque") {
         nodo.tipo = Nodo::Tipo::Bloque;
         nodo.si = l.Condicion(a, "si", ambito);
@@ -174,23 +200,29 @@ bool LeerNodo(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, std
     return true;
 }
 
-Disposicion LeerDisposicion(std::string_view texto, const std::string& fichero) {
+Disposicion LeerDisposicion(std::string_view texto, const std::string& fichero,
+                            const Incluibles& incluibles) {
     Lectura lectura(texto, fichero);
-    LeerRaiz(lectura);
+    LeerRaiz(lectura, incluibles);
     for (const TablaUsada& tabla : lectura.d.tablas) {
         if (tabla.columnas.empty())
-            FalloEnLinea(fichero, tabla.linea, "la tabla \"" + tabla.alias + "\" no tiene columnas");
+            FalloEnLinea(fichero, tabla.linea, "la tabla \"" + tabla.nombre + "\" no tiene columnas");
     }
     return std::move(lectura.d);
 }
 
-Disposicion LeerDisposicionDeFichero(const std::string& fichero) {
-    QFile entrada(QString::fromStdString(fichero));
-    if (!entrada.open(QIODevice::ReadOnly))
-        throw ErrorInforme(CodigoInforme::FicheroAusente, "No se encuentra o no se puede leer el informe " +
-                                                              fichero + " (" +
-                                                              entrada.errorString().toStdString() + ")");
-    return LeerDisposicion(entrada.read(FicheroMaximo).toStdString(), fichero);
+bool EmpiezaComoDisposicion(std::string_view texto) {
+    if (texto.starts_with("\xEF\xBB\xBF"))
+        texto.remove_prefix(3);
+    while (!texto.empty()) {
+        const std::size_t principio = std::min(texto.find_first_not_of(" \t"), texto.size());
+        std::string_view linea = texto.substr(principio);
+        linea = linea.substr(0, linea.find_first_of("\r\n"));
+        if (!linea.empty() && linea.front() != '#')
+            return IgualSinCaso(linea.substr(0, linea.find_first_of(" \t")), PrimeraPalabra);
+        texto.remove_prefix(std::min(principio + linea.size() + 1, texto.size()));
+    }
+    return false;
 }
 
 } // namespace pastorix

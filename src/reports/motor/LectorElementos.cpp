@@ -80,6 +80,7 @@ bool LeerElemento(Lectura& l, Argumentos& a, double ancho, Banda& banda, const A
     if (orden == "texto") {
         LeerLugar(a, e);
         e.plantilla = l.Texto(a, a.Texto("el texto"), ambito);
+        e.figura = l.Texto(a, a.Opcion("figura").value_or(""), ambito);
         l.LeerAspecto(a, e.aspecto);
     } else if (orden == "linea") {
         LeerLinea(l, a, e);
@@ -123,90 +124,6 @@ Banda LeerBanda(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito) {
             b.Fallo("\"" + b.Orden() + "\" no es nada que pueda estar en una banda");
     });
     return banda;
-}
-
-// rejilla ALTO_CABECERA ALTO_DETALLE separacion=1.5 estilo=dato estilo-cabecera=cab regla=verde alterno=fondo
-//   col ANCHO "Título" "{X_Temp.C3}" alinear=derecha
-// fin
-void LeerRejilla(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, Seccion& seccion) {
-    Banda cabecera;
-    Nodo detalle;
-    cabecera.alto = a.Numero("el alto de la cabecera", 0, 100);
-    detalle.banda.alto = a.Numero("el alto del detalle", 1, 100);
-    double x = a.OpcionNumero("x", 0, Lejos).value_or(0);
-    const double separacion = a.OpcionNumero("separacion", 0, 20).value_or(1.5);
-    const auto regla = a.Opcion("regla");
-    const auto reglaDetalle = a.Opcion("regla-detalle");
-    if (const auto alterno = a.Opcion("alterno"))
-        detalle.banda.alterno = l.LeerColor(a, *alterno);
-    if (const auto fondo = a.Opcion("fondo-cabecera"))
-        cabecera.fondo = l.LeerColor(a, *fondo);
-    Aspecto dato = l.letraBase;
-    Aspecto titulo = l.letraBase;
-    titulo.negrita = true;
-    if (const auto estilo = a.Opcion("estilo-cabecera")) {
-        const auto it = l.estilos.find(Minusculas(*estilo));
-        if (it == l.estilos.end())
-            a.Fallo("el estilo \"" + *estilo + "\" no está declarado");
-        titulo = it->second;
-    }
-    l.LeerAspecto(a, dato);
-    a.Terminar();
-    if (seccion.cabecera)
-        a.Fallo("la sección ya tiene una cabecera");
-    Ambito arriba = ambito;
-    arriba.agregados = l.d.Raiz(seccion.tabla);
-
-    const double inicio = x;
-    double fin = x;
-    l.Bloque(a, [&](Argumentos& c) {
-        if (c.Orden() != "col")
-            c.Fallo("dentro de una rejilla sólo hay líneas \"col\"");
-        Elemento e;
-        e.aspecto = dato;
-        e.x = x;
-        e.ancho = c.Numero("el ancho de la columna", 1, Lejos);
-        e.alto = detalle.banda.alto;
-        const std::string rotulo = c.Texto("el título de la columna");
-        e.plantilla = l.Texto(c, c.Texto("el texto de la columna"), ambito);
-        l.LeerAspecto(c, e.aspecto);
-        e.si = l.Condicion(c, "si", ambito);
-        c.Terminar();
-        if (e.x + e.ancho > ancho + Holgura)
-            c.Fallo("la columna se sale por la derecha: hay " + TextoNumero(ancho) + " mm");
-        l.ContarElemento(c);
-        Elemento t;
-        t.aspecto = titulo;
-        t.aspecto.alineacion = e.aspecto.alineacion;
-        t.aspecto.vertical = Vertical::Abajo;
-        t.x = e.x;
-        t.ancho = e.ancho;
-        t.alto = cabecera.alto - (regla ? 0.8 : 0);
-        t.plantilla = l.Texto(c, rotulo, arriba);
-        cabecera.elementos.push_back(std::move(t));
-        fin = e.x + e.ancho;
-        x = fin + separacion;
-        detalle.banda.elementos.push_back(std::move(e));
-    });
-    const auto trazar = [&](const std::optional<std::string>& color, Banda& banda, double grosor) {
-        if (!color)
-            return;
-        Elemento raya;
-        raya.tipo = Elemento::Tipo::Linea;
-        raya.x = inicio;
-        raya.ancho = fin - inicio;
-        raya.y = banda.alto;
-        raya.estirar = true;
-        raya.aspecto.color = l.LeerColor(a, *color);
-        raya.aspecto.grosor = grosor;
-        banda.elementos.push_back(std::move(raya));
-    };
-    trazar(regla, cabecera, 0.35);
-    trazar(reglaDetalle, detalle.banda, 0.1);
-    if (detalle.banda.elementos.empty() || cabecera.alto + detalle.banda.alto > l.d.AltoUtil())
-        a.Fallo("la rejilla no tiene columnas o no cabe en una página");
-    seccion.cabecera = std::move(cabecera);
-    seccion.cuerpo.push_back(std::move(detalle));
 }
 
 } // namespace pastorix

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace pastorix {
 
@@ -69,6 +70,17 @@ void Lectura::Todo(const std::function<void(Argumentos&)>& linea) {
     }
 }
 
+void Lectura::Incluir(std::string_view texto, const std::string& fichero,
+                      const std::function<void(Argumentos&)>& linea) {
+    auto lineas = std::exchange(m_lineas, CortarLineas(texto, fichero));
+    const std::size_t pos = std::exchange(m_pos, 0);
+    std::string suyo = std::exchange(d.fichero, fichero);
+    Todo(linea);
+    m_lineas = std::move(lineas);
+    m_pos = pos;
+    d.fichero = std::move(suyo);
+}
+
 Color Lectura::LeerColor(const Argumentos& a, const std::string& texto) const {
     if (texto.size() == 7 && texto[0] == '#' &&
         texto.find_first_not_of("0123456789abcdefABCDEF", 1) == std::string::npos)
@@ -113,12 +125,14 @@ void Lectura::LeerAspecto(Argumentos& a, Aspecto& aspecto) const {
     aspecto.grosor = a.OpcionNumero("grosor", 0.02, 5).value_or(aspecto.grosor);
     aspecto.relleno = a.OpcionNumero("relleno", 0, 50).value_or(aspecto.relleno);
     aspecto.radio = a.OpcionNumero("radio", 0, 50).value_or(aspecto.radio);
+    if (const auto vacio = a.Opcion("vacio"))
+        aspecto.vacio = *vacio;
 }
 
-int Lectura::Tabla(const Argumentos& a, const std::string& alias) const {
-    const int tabla = d.BuscarTabla(alias);
+int Lectura::Tabla(const Argumentos& a, const std::string& nombre) const {
+    const int tabla = d.BuscarTabla(nombre);
     if (tabla < 0)
-        a.Fallo("la tabla \"" + alias + "\" no está declarada");
+        a.Fallo("la tabla \"" + nombre + "\" no está declarada");
     return tabla;
 }
 
@@ -126,16 +140,16 @@ int Lectura::Columna(const Argumentos& a, int tabla, const std::string& nombre) 
     const int columna = d.BuscarColumna(tabla, nombre);
     if (columna < 0)
         a.Fallo("la columna \"" + nombre + "\" no está declarada en la tabla \"" +
-                d.tablas[static_cast<std::size_t>(tabla)].alias + "\"");
+                d.tablas[static_cast<std::size_t>(tabla)].nombre + "\"");
     return columna;
 }
 
-RefCampo Lectura::Campo(const Argumentos& a, int tabla, const std::string& nombre) const {
+RefCampo Lectura::Campo(const Argumentos& a, const std::string& nombre) const {
     const std::size_t punto = nombre.find('.');
     if (punto == std::string::npos)
-        return {tabla, Columna(a, tabla, nombre)};
-    const int otra = Tabla(a, nombre.substr(0, punto));
-    return {otra, Columna(a, otra, nombre.substr(punto + 1))};
+        a.Fallo("\"" + nombre + "\" no está escrito como Tabla.Columna");
+    const int tabla = Tabla(a, nombre.substr(0, punto));
+    return {tabla, Columna(a, tabla, nombre.substr(punto + 1))};
 }
 
 std::vector<Lazo> Lectura::Lazos(Argumentos& a, int tabla, const Ambito& ambito) const {
@@ -145,11 +159,11 @@ std::vector<Lazo> Lectura::Lazos(Argumentos& a, int tabla, const Ambito& ambito)
         return lazos;
     for (const std::string& par : Separar(*opcion, ',')) {
         const std::vector<std::string> lados = Separar(par, ':');
-        if (lados.size() != 2 || lados[1].find('.') == std::string::npos)
+        if (lados.size() != 2)
             a.Fallo("un lazo se escribe atada=Columna:Tabla.Columna");
-        const Lazo lazo{{tabla, Columna(a, tabla, lados[0])}, Campo(a, tabla, lados[1])};
-        const int raiz = d.Raiz(lazo.exterior.tabla);
-        if (std::find(ambito.abiertas.begin(), ambito.abiertas.end(), raiz) == ambito.abiertas.end())
+        const Lazo lazo{{tabla, Columna(a, tabla, lados[0])}, Campo(a, lados[1])};
+        if (std::find(ambito.abiertas.begin(), ambito.abiertas.end(), lazo.exterior.tabla) ==
+            ambito.abiertas.end())
             a.Fallo("la tabla de \"" + lados[1] + "\" no tiene aquí ninguna fila a la que atarse");
         lazos.push_back(lazo);
     }
@@ -158,7 +172,10 @@ std::vector<Lazo> Lectura::Lazos(Argumentos& a, int tabla, const Ambito& ambito)
 
 Plantilla Lectura::Texto(const Argumentos& a, const std::string& texto, const Ambito& ambito) const {
     try {
-        return LeerPlantilla(texto, d, ambito);
+        Plantilla plantilla = LeerPlantilla(texto, d, ambito);
+        for (Pieza& pieza : plantilla)
+            pieza.linea = a.Linea();
+        return plantilla;
     } catch (const ErrorInforme& e) {
         a.Fallo(e.what());
     }

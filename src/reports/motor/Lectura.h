@@ -19,14 +19,17 @@ public:
     void Bloque(const Argumentos& apertura, const std::function<void(Argumentos&)>& linea);
     // The lines up to the end of the file.
     void Todo(const std::function<void(Argumentos&)>& linea);
+    // The lines of another text, which errors tell by its own name; then it goes on where it was.
+    void Incluir(std::string_view texto, const std::string& fichero,
+                 const std::function<void(Argumentos&)>& linea);
 
     Color LeerColor(const Argumentos& a, const std::string& texto) const;
     // Options of appearance on top of what the aspect holds: estilo=, tamaño=, negrita, color=, fondo=, alinear=, borde= ...
     void LeerAspecto(Argumentos& a, Aspecto& aspecto) const;
-    int Tabla(const Argumentos& a, const std::string& alias) const;
+    int Tabla(const Argumentos& a, const std::string& nombre) const;
     int Columna(const Argumentos& a, int tabla, const std::string& nombre) const;
-    // "Columna" of the table or "Tabla.Columna" of its joined set.
-    RefCampo Campo(const Argumentos& a, int tabla, const std::string& nombre) const;
+    // "Tabla.Columna".
+    RefCampo Campo(const Argumentos& a, const std::string& nombre) const;
     // atada=Interior:Tabla.Exterior,...; empty when the option is not there.
     std::vector<Lazo> Lazos(Argumentos& a, int tabla, const Ambito& ambito) const;
     Plantilla Texto(const Argumentos& a, const std::string& texto, const Ambito& ambito) const;
@@ -45,7 +48,7 @@ private:
     int m_elementos = 0;
 };
 
-// pagina, letra, color, estilo, parametro, tabla, union. False when the line is none of them.
+// pagina, letra, color, estilo, parametro, tabla. False when the line is none of them.
 bool LeerDeclaracion(Lectura& l, Argumentos& a);
 
 // texto, linea, caja, grafico within a band of that width and height. False when the line is none of them.
@@ -54,10 +57,13 @@ bool LeerElemento(Lectura& l, Argumentos& a, double ancho, Banda& banda, const A
 // The options and elements of a band whose order word has been taken.
 Banda LeerBanda(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito);
 
-// What flows: banda, seccion, bloque, columnas, salto. False when the line is none of them.
+// What flows: banda, filas, seccion, bloque, columnas, salto. False when the line is none of them.
 bool LeerNodo(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, std::vector<Nodo>& nodos);
 
 // Columns of a list: heading and detail from one line each.
 void LeerRejilla(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, Seccion& seccion);
+
+// Label, figures and rule from one line per row.
+void LeerFilas(Lectura& l, Argumentos& a, double ancho, const Ambito& ambito, std::vector<Nodo>& nodos);
 
 } // namespace pastorix

@@ -94,6 +94,8 @@ QStringList Medidor::Partir(int letra, const QString& texto, double ancho) const
                 qsizetype cabe = 1;
                 while (cabe + 1 < palabra.size() && Ancho(letra, palabra.left(cabe + 1)) <= ancho)
                     ++cabe;
+                if (const auto guion = palabra.left(cabe).lastIndexOf(QLatin1Char('-')); guion > 0)
+                    cabe = guion + 1; // "Golondrina-Aculonado" has a better place
                 lineas << palabra.left(cabe);
                 palabra.remove(0, cabe);
             }

@@ -6,13 +6,17 @@
 #include <QCache>
 #include <QPainter>
 #include <QPixmap>
+#include <QResizeEvent>
 #include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace pastorix {
 
 namespace {
 
-constexpr int Ancho = 104; // pixels of a small page
+constexpr int AnchoPropuesto = 104; // pixels of a small page
+constexpr int AnchoMaximo = 320;
 constexpr int Orla = 8;
 constexpr int DibujosGuardados = 200;
 
@@ -39,8 +43,14 @@ public:
         , m_paginas(paginas)
         , m_dibujos(DibujosGuardados) {}
 
+    void PonerAncho(int ancho) {
+        if (ancho != m_ancho)
+            m_dibujos.clear();
+        m_ancho = ancho;
+    }
+
     QSize sizeHint(const QStyleOptionViewItem& opcion, const QModelIndex&) const override {
-        return {Ancho + 2 * Orla, Alto() + 2 * Orla + opcion.fontMetrics.height()};
+        return {m_ancho + 2 * Orla, Alto() + 2 * Orla + opcion.fontMetrics.height()};
     }
 
     void paint(QPainter* pintor, const QStyleOptionViewItem& opcion,
@@ -48,8 +58,8 @@ public:
         const bool elegida = opcion.state & QStyle::State_Selected;
         if (elegida)
             pintor->fillRect(opcion.rect, opcion.palette.brush(QPalette::Highlight));
-        const QRect hoja(opcion.rect.left() + (opcion.rect.width() - Ancho) / 2, opcion.rect.top() + Orla,
-                         Ancho, Alto());
+        const QRect hoja(opcion.rect.left() + (opcion.rect.width() - m_ancho) / 2, opcion.rect.top() + Orla,
+                         m_ancho, Alto());
         pintor->drawPixmap(hoja.topLeft(), Dibujo(indice.row(), pintor->device()->devicePixelRatioF()));
         pintor->setPen(opcion.palette.color(QPalette::Mid));
         pintor->drawRect(hoja.adjusted(-1, -1, 0, 0));
@@ -60,24 +70,24 @@ public:
     }
 
 private:
-    int Alto() const { return qRound(Ancho * m_paginas.tamaño.height() / m_paginas.tamaño.width()); }
+    int Alto() const { return qRound(m_ancho * m_paginas.tamaño.height() / m_paginas.tamaño.width()); }
 
-    const QPixmap& Dibujo(int pagina, double densidad) const {
-        QPixmap* dibujo = m_dibujos.object(pagina);
-        if (!dibujo || dibujo->devicePixelRatioF() != densidad) {
-            dibujo = new QPixmap((QSizeF(Ancho, Alto()) * densidad).toSize());
-            dibujo->setDevicePixelRatio(densidad);
-            dibujo->fill(Qt::white);
-            QPainter pintor(dibujo);
-            DibujarPagina(pintor, m_paginas, static_cast<std::size_t>(pagina),
-                          Ancho / m_paginas.tamaño.width());
-            pintor.end();
-            m_dibujos.insert(pagina, dibujo);
-        }
-        return *dibujo;
+    QPixmap Dibujo(int pagina, double densidad) const {
+        if (const QPixmap* hecho = m_dibujos.object(pagina); hecho && hecho->devicePixelRatioF() == densidad)
+            return *hecho;
+        QPixmap dibujo((QSizeF(m_ancho, Alto()) * densidad).toSize());
+        dibujo.setDevicePixelRatio(densidad);
+        dibujo.fill(Qt::white);
+        QPainter pintor(&dibujo);
+        DibujarPagina(pintor, m_paginas, static_cast<std::size_t>(pagina),
+                      m_ancho / m_paginas.tamaño.width());
+        pintor.end();
+        m_dibujos.insert(pagina, new QPixmap(dibujo)); // which may let it go at once
+        return dibujo;
     }
 
     const Paginas& m_paginas;
+    int m_ancho = AnchoPropuesto;
     mutable QCache<int, QPixmap> m_dibujos;
 };
 
@@ -88,12 +98,24 @@ Miniaturas::Miniaturas(const Paginas& paginas, QWidget* padre)
     setObjectName(QStringLiteral("Miniaturas"));
     setAccessibleName(QStringLiteral("Páginas del informe"));
     setModel(new ModeloDePaginas(static_cast<int>(paginas.paginas.size()), this));
-    setItemDelegate(new DibujanteDeMiniaturas(paginas, this));
+    auto* dibujante = new DibujanteDeMiniaturas(paginas, this);
+    setItemDelegate(dibujante);
+    m_alCambiarDeAncho = [this, dibujante](int ancho) {
+        dibujante->PonerAncho(std::clamp(ancho - 2 * Orla, AnchoPropuesto / 2, AnchoMaximo));
+        scheduleDelayedItemsLayout();
+    };
     setUniformItemSizes(true);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setMinimumWidth(Ancho + 2 * Orla + 24);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or pages and bar would change each other's width
+    setMinimumWidth(AnchoPropuesto + 2 * Orla + 24);
     Marcar(0);
+}
+
+void Miniaturas::resizeEvent(QResizeEvent* evento) {
+    QListView::resizeEvent(evento);
+    if (evento->size().width() != evento->oldSize().width())
+        m_alCambiarDeAncho(viewport()->width());
 }
 
 void Miniaturas::Marcar(int pagina) {

@@ -34,6 +34,7 @@ struct TextoColocado {
     double ancho = 0; // as measured
     int letra = 0;
     Color color = 0;
+    int figura = -1; // position of its key in Paginas::figuras, if it can be asked where it comes from
 };
 
 // A rectangle or a line (a rectangle without height or width): filled, framed on some sides, or both.
@@ -75,9 +76,17 @@ struct Pagina {
 };
 
 struct Paginas {
+    // Where a group begins, for the index beside the pages.
+    struct Entrada {
+        QString texto;
+        int nivel = 0;  // 0 is outermost
+        int pagina = 0; // from 0
+    };
     QSizeF tamaño{210, 297};
     std::vector<Letra> letras;
     std::vector<Pagina> paginas;
+    std::vector<Entrada> indice;
+    QStringList figuras;
 };
 
 } // namespace pastorix

@@ -108,8 +108,22 @@ void Paginador::ColocarFlujo(Flujo& flujo, Cursor& cursor) {
         const bool alPrincipio = cursor.y <= Holgura;
         if ((tira.saltoAntes || !Cabe(AltoJunto(flujo, i, rango), cursor)) && !alPrincipio)
             PaginaNueva(tira, cursor);
+        for (const Marca& marca : tira.marcas) {
+            if (!marca.texto.isEmpty())
+                m_indice.push_back({marca.texto, marca.nivel, static_cast<int>(cursor.pagina)});
+            if (marca.conPaginas && cursor.pagina > m_comienzos.back())
+                m_comienzos.push_back(cursor.pagina);
+        }
         ColocarTira(tira, cursor);
     }
+}
+
+NumeroDePagina Paginador::NumeroDe(std::size_t pagina) const {
+    const auto siguiente = std::upper_bound(m_comienzos.begin(), m_comienzos.end(), pagina);
+    const std::size_t primera = *std::prev(siguiente);
+    const std::size_t fin = siguiente == m_comienzos.end() ? m_paginas.size() : *siguiente;
+    return {static_cast<int>(pagina) + 1, static_cast<int>(m_paginas.size()),
+            static_cast<int>(pagina - primera) + 1, static_cast<int>(fin - primera)};
 }
 
 void Paginador::PaginaNueva(const Tira& tira, Cursor& cursor) {

@@ -14,6 +14,8 @@ public:
     void Colocar(Flujo flujo);
 
     std::vector<Pagina>& Hojas() { return m_paginas; }
+    std::vector<Paginas::Entrada>& Indice() { return m_indice; }
+    NumeroDePagina NumeroDe(std::size_t pagina) const;
     // Row that a page begins with, null for an empty one.
     const Contexto* ContextoDe(std::size_t pagina) const { return m_contextos[pagina]; }
 
@@ -35,6 +37,8 @@ private:
     double m_arriba;
     std::vector<Pagina> m_paginas{1};
     std::vector<const Contexto*> m_contextos{nullptr};
+    std::vector<Paginas::Entrada> m_indice;
+    std::vector<std::size_t> m_comienzos{0}; // pages with which the numbering of a group begins
 };
 
 } // namespace pastorix

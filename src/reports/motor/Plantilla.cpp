@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace pastorix {
 
@@ -16,10 +17,9 @@ namespace {
 
 // Refuses a field that would have no row to come from, which would print blank.
 void ExigirAbierta(const Disposicion& d, const Ambito& ambito, RefCampo campo) {
-    const int raiz = d.Raiz(campo.tabla);
     if (!ambito.pagina &&
-        std::find(ambito.abiertas.begin(), ambito.abiertas.end(), raiz) == ambito.abiertas.end())
-        Fallo("la tabla \"" + d.tablas[static_cast<std::size_t>(campo.tabla)].alias +
+        std::find(ambito.abiertas.begin(), ambito.abiertas.end(), campo.tabla) == ambito.abiertas.end())
+        Fallo("la tabla \"" + d.tablas[static_cast<std::size_t>(campo.tabla)].nombre +
               "\" no tiene aquí ninguna fila: el texto debe estar dentro de una sección de esa tabla");
 }
 
@@ -27,8 +27,7 @@ Pieza LeerAgregado(Pieza::Tipo tipo, std::string_view nombre, const Disposicion&
     Pieza pieza;
     pieza.tipo = tipo;
     pieza.campo = d.NombresDeclarados().campo(nombre);
-    const int raiz = d.Raiz(pieza.campo.tabla);
-    if (ambito.agregados != Ambito::CualquierAgregado && ambito.agregados != raiz)
+    if (ambito.agregados != Ambito::CualquierAgregado && ambito.agregados != pieza.campo.tabla)
         Fallo("un total sólo puede estar en la cabecera o en el pie de una sección o de un grupo de su "
               "tabla, o fuera "
               "de toda sección");
@@ -43,15 +42,19 @@ Pieza LeerCampo(std::string_view dentro, const Disposicion& d, const Ambito& amb
         return pieza;
     }
     using Tipo = Pieza::Tipo;
-    static constexpr std::array<std::pair<std::string_view, Tipo>, 4> especiales{
+    static constexpr std::array<std::pair<std::string_view, Tipo>, 7> especiales{
         {{"Página", Tipo::Pagina},
          {"Páginas", Tipo::Paginas},
+         {"PáginaGrupo", Tipo::PaginaGrupo},
+         {"PáginasGrupo", Tipo::PaginasGrupo},
          {"Fecha", Tipo::FechaImpresion},
-         {"Título", Tipo::Titulo}}};
+         {"Título", Tipo::Titulo},
+         {"Ganadero", Tipo::Ganadero}}};
     for (const auto& [nombre, tipo] : especiales) {
         if (!IgualSinCaso(dentro, nombre))
             continue;
-        if ((tipo == Tipo::Pagina || tipo == Tipo::Paginas) && !ambito.pagina)
+        const bool dePagina = tipo != Tipo::FechaImpresion && tipo != Tipo::Titulo && tipo != Tipo::Ganadero;
+        if (dePagina && !ambito.pagina)
             Fallo("el número de página sólo puede estar en la cabecera o en el pie de página");
         pieza.tipo = tipo;
         return pieza;
@@ -75,8 +78,10 @@ Pieza LeerCampo(std::string_view dentro, const Disposicion& d, const Ambito& amb
 ClaseDeMascara ClaseDe(std::string_view mascara) {
     if (mascara.empty())
         return ClaseDeMascara::Ninguna;
+    if (IgualSinCaso(mascara, "limpio"))
+        return ClaseDeMascara::Limpio;
     if (mascara.size() <= 40) {
-        if (mascara.find('0') != std::string_view::npos &&
+        if (mascara.find_first_of("0#") != std::string_view::npos &&
             mascara.find_first_not_of("0#.,") == std::string_view::npos)
             return ClaseDeMascara::Numero;
         if (mascara.find_first_not_of("dmyhns/:- .") == std::string_view::npos)
@@ -88,18 +93,33 @@ ClaseDeMascara ClaseDe(std::string_view mascara) {
 Plantilla LeerPlantilla(std::string_view texto, const Disposicion& disposicion, const Ambito& ambito) {
     Plantilla plantilla;
     std::string literal;
+    int tramos = 0;
+    bool enTramo = false;
+    const auto poner = [&](Pieza pieza) {
+        pieza.tramo = enTramo ? tramos : -1;
+        plantilla.push_back(std::move(pieza));
+    };
     const auto cerrarLiteral = [&] {
         if (!literal.empty()) {
-            plantilla.emplace_back();
-            plantilla.back().texto = std::move(literal);
+            Pieza pieza;
+            pieza.texto = std::exchange(literal, {});
+            poner(std::move(pieza));
         }
-        literal.clear();
     };
     for (std::size_t i = 0; i < texto.size(); ++i) {
         const char c = texto[i];
-        if ((c == '{' || c == '}') && i + 1 < texto.size() && texto[i + 1] == c) {
+        if (std::string_view("{}[]").find(c) != std::string_view::npos && i + 1 < texto.size() &&
+            texto[i + 1] == c) {
             literal += c;
             ++i;
+            continue;
+        }
+        if (c == '[' || c == ']') {
+            if (enTramo == (c == '['))
+                Fallo("los corchetes van por pares y no unos dentro de otros");
+            cerrarLiteral();
+            enTramo = !enTramo;
+            tramos += enTramo ? 0 : 1;
             continue;
         }
         if (c == '}')
@@ -120,9 +140,11 @@ Plantilla LeerPlantilla(std::string_view texto, const Disposicion& disposicion, 
             if (ClaseDe(pieza.mascara) == ClaseDeMascara::Ninguna)
                 Fallo("detrás de los dos puntos falta el formato");
         }
-        plantilla.push_back(std::move(pieza));
+        poner(std::move(pieza));
         i = fin;
     }
+    if (enTramo)
+        Fallo("falta el corchete que cierra");
     cerrarLiteral();
     return plantilla;
 }

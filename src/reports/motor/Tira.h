@@ -11,6 +11,13 @@ namespace pastorix {
 struct Flujo;
 struct Repetida;
 
+// The beginning of a group, borne by its first strip.
+struct Marca {
+    QString texto;           // entry of the index; none when empty
+    int nivel = 0;           // how many groups are around it
+    bool conPaginas = false; // its pages are numbered by themselves
+};
+
 // A filled band on its way to a page: its primitives are placed from the left margin and from its own top.
 struct Tira {
     double alto = 0;
@@ -18,6 +25,7 @@ struct Tira {
     std::vector<Flujo> columnas; // in place of primitives: flows side by side
     const Contexto* contexto = nullptr;
     const Repetida* cabeceras = nullptr; // headings to print again when a page begins with this strip
+    std::vector<Marca> marcas;
     bool conSiguiente = false;
     bool saltoAntes = false;
 };
@@ -31,6 +39,7 @@ struct Flujo {
     std::vector<Tira> tiras;
     std::vector<Rango> juntos; // by beginning; of those with the same beginning the longest first
     bool saltoPendiente = false;
+    std::vector<Marca> marcasPendientes; // of what begins with the next strip
 
     double Alto() const;
 };

@@ -1,30 +1,35 @@
 #pragma once
 
 #include "reports/motor/Informe.h"
+#include "reports/motor/PanelDeCifra.h"
 
 #include <QMainWindow>
 
 #include <functional>
 
 class QComboBox;
+class QDockWidget;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
 
 namespace pastorix {
 
+class IndiceDePaginas;
 class Miniaturas;
 class VistaPaginas;
 
-// The preview of a finished report: pages, thumbnails, search, zoom, print and export. Owns the report; closes itself away.
+// The preview of a finished report: pages, thumbnails, index, search, zoom, print and export. Owns the report; closes itself away.
 // It is a window of its own that no form above blocks, and that stays when the form that ran the report closes.
 class VentanaInforme : public QMainWindow {
     Q_OBJECT
 public:
-    explicit VentanaInforme(InformeTerminado informe, QWidget* padre = nullptr);
+    explicit VentanaInforme(InformeTerminado informe, PreguntasDeCifra preguntas = {},
+                            QWidget* padre = nullptr);
 
     // Opens a preview, maximised if the report says so. The window deletes itself when closed.
-    static VentanaInforme* Abrir(InformeTerminado informe, bool comoIcono = false);
+    static VentanaInforme* Abrir(InformeTerminado informe, PreguntasDeCifra preguntas = {},
+                                 bool comoIcono = false);
 
     const InformeTerminado& Informe() const { return m_informe; }
 
@@ -34,8 +39,13 @@ private:
 
     void CrearOrdenes();
     void CrearBarra();
-    void CrearMiniaturas();
+    void CrearPaneles();
+    void CopiarTabla();
+    void PreguntarCifras();
+    void ExplicarCifra(int figura, const QString& impreso);
     QAction* Orden(const char* nombre) const;
+    QAction* OrdenDePanel(const char* panel, const char* nombre, const char* texto, int tecla,
+                          const char* icono);
     void IrAPagina(int pagina);
     void MostrarPagina(int pagina);
     void MostrarZoom();
@@ -47,8 +57,11 @@ private:
                  const std::function<void(const QString&)>& escribir);
 
     InformeTerminado m_informe;
+    PreguntasDeCifra m_preguntas;
     VistaPaginas* m_vista = nullptr;
     Miniaturas* m_miniaturas = nullptr;
+    IndiceDePaginas* m_indice = nullptr;
+    PanelDeCifra* m_cifra = nullptr;
     QSpinBox* m_pagina = nullptr;
     QComboBox* m_zoom = nullptr;
     QLineEdit* m_busca = nullptr;

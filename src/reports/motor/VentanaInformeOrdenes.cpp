@@ -60,6 +60,7 @@ void VentanaInforme::CrearOrdenes() {
                      QStringLiteral("Carpeta (*)"),
                      [this](const QString& carpeta) { pastorix::GuardarCsv(m_informe, carpeta); });
          }},
+        {nullptr, "CopiarTabla", "C&opiar tabla", "Ctrl+C", nullptr, [this] { CopiarTabla(); }},
         {nullptr, "Cerrar", "&Cerrar", "Esc", nullptr, [this] { close(); }},
         {"&Ver", "Acercar", "&Acercar", "Ctrl++", "acercar", [zoom] { zoom(1.25); }},
         {nullptr, "Alejar", "A&lejar", "Ctrl+-", "alejar", [zoom] { zoom(0.8); }},
@@ -85,12 +86,13 @@ void VentanaInforme::CrearOrdenes() {
              m_busca->setFocus();
              m_busca->selectAll();
          }},
+        {nullptr, "Preguntar", "&De dónde sale una cifra", "F2", nullptr, [this] { PreguntarCifras(); }},
         {nullptr, "BuscarSiguiente", "Buscar si&guiente", "F3", nullptr, [this] { Buscar(false); }},
         {nullptr, "BuscarAnterior", "Buscar an&terior", "Shift+F3", nullptr, [this] { Buscar(true); }},
     };
     QMenu* menu = nullptr;
     for (const Fila& fila : filas) {
-        if (fila.menu)
+        if (!menu || fila.menu)
             menu = menuBar()->addMenu(QString::fromUtf8(fila.menu));
         if (qstrcmp(fila.nombre, "Cerrar") == 0 || qstrcmp(fila.nombre, "IrA") == 0)
             menu->addSeparator();
@@ -104,16 +106,33 @@ void VentanaInforme::CrearOrdenes() {
         connect(accion, &QAction::triggered, this, fila.hacer);
         menu->addAction(accion);
         if (qstrcmp(fila.nombre, "PaginaEntera") == 0) {
-            QAction* panel = findChild<QDockWidget*>()->toggleViewAction();
-            panel->setObjectName(QStringLiteral("VerMiniaturas"));
-            panel->setText(QStringLiteral("&Miniaturas"));
-            panel->setIcon(IconoDeInforme("miniaturas"));
-            panel->setShortcut(QKeySequence(Qt::Key_F4));
-            panel->setToolTip(QStringLiteral("Miniaturas (F4)"));
             menu->addSeparator();
-            menu->addAction(panel);
+            menu->addAction(
+                OrdenDePanel("PanelMiniaturas", "VerMiniaturas", "&Miniaturas", Qt::Key_F4, "miniaturas"));
+            menu->addAction(OrdenDePanel("PanelIndice", "VerIndice", "Ín&dice", Qt::Key_F6, nullptr));
         }
     }
+}
+
+// Brings a panel to the front and goes into it; hides it when it is there.
+QAction* VentanaInforme::OrdenDePanel(const char* panel, const char* nombre, const char* texto, int tecla,
+                                      const char* icono) {
+    auto* suyo = findChild<QDockWidget*>(QString::fromUtf8(panel));
+    auto* orden = new QAction(IconoDeInforme(icono), QString::fromUtf8(texto), this);
+    orden->setObjectName(QString::fromUtf8(nombre));
+    orden->setCheckable(true);
+    orden->setShortcut(QKeySequence(tecla));
+    orden->setToolTip(QStringLiteral("%1 (%2)").arg(QString::fromUtf8(texto).remove(QLatin1Char('&')),
+                                                    orden->shortcut().toString(QKeySequence::NativeText)));
+    connect(suyo, &QDockWidget::visibilityChanged, orden, &QAction::setChecked);
+    connect(orden, &QAction::triggered, this, [this, suyo] {
+        const bool delante = suyo->isVisible() && !suyo->widget()->visibleRegion().isEmpty();
+        suyo->setVisible(!delante);
+        if (!delante)
+            suyo->raise();
+        (delante ? static_cast<QWidget*>(m_vista) : suyo->widget())->setFocus();
+    });
+    return orden;
 }
 
 QAction* VentanaInforme::Orden(const char* nombre) const {

@@ -3,6 +3,7 @@
 #include "reports/motor/Dibujante.h"
 #include "reports/motor/Medidor.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -39,6 +40,7 @@ VistaPaginas::VistaPaginas(const Paginas& paginas, QWidget* padre)
     setVerticalScrollBarPolicy(
         Qt::ScrollBarAlwaysOn); // or the width, and with it the zoom, would change with it
     viewport()->setCursor(Qt::OpenHandCursor);
+    viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setBackgroundRole(QPalette::Mid);
     viewport()->setBackgroundRole(QPalette::Mid);
@@ -175,12 +177,10 @@ void VistaPaginas::DibujarUna(QPainter& pintor, int pagina) {
         }
         pintor.drawPixmap(lugar.topLeft(), *dibujada);
     }
-    if (m_hallazgo.pagina == pagina) {
-        const QRectF mm = LugarDelHallazgo();
-        pintor.setPen(QPen(QColor(200, 120, 0), 1.5));
-        pintor.setBrush(QColor(255, 200, 0, 70));
-        pintor.drawRect(QRectF(lugar.topLeft() + mm.topLeft() * Escala(), mm.size() * Escala()));
-    }
+    if (m_hallazgo.pagina == pagina)
+        Resaltar(pintor, m_hallazgo, QColor(200, 120, 0));
+    if (m_cifra.pagina == pagina)
+        Resaltar(pintor, m_cifra, QColor(30, 110, 190));
 }
 
 void VistaPaginas::paintEvent(QPaintEvent*) {
@@ -211,12 +211,28 @@ void VistaPaginas::scrollContentsBy(int, int) {
     PonerActual();
 }
 
-QRectF VistaPaginas::LugarDelHallazgo() const {
-    const auto& trozo =
-        m_paginas.paginas[static_cast<std::size_t>(m_hallazgo.pagina)].trozos[m_hallazgo.trozo];
-    const auto& texto = std::get<TextoColocado>(trozo);
+const TextoColocado& VistaPaginas::Texto(const Hallazgo& donde) const {
+    return std::get<TextoColocado>(
+        m_paginas.paginas[static_cast<std::size_t>(donde.pagina)].trozos[donde.trozo]);
+}
+
+QRectF VistaPaginas::LugarEnPagina(const Hallazgo& donde) const {
+    const TextoColocado& texto = Texto(donde);
     const double alto = m_paginas.letras[static_cast<std::size_t>(texto.letra)].tamaño * MmPorPulgada / 72;
     return {texto.base.x() - 0.6, texto.base.y() - alto, texto.ancho + 1.2, alto * 1.35};
+}
+
+QRectF VistaPaginas::LugarEnVentana(const Hallazgo& donde) const {
+    const QRectF mm = LugarEnPagina(donde);
+    return {LugarDe(donde.pagina).topLeft() + mm.topLeft() * Escala(), mm.size() * Escala()};
+}
+
+void VistaPaginas::Resaltar(QPainter& pintor, const Hallazgo& donde, const QColor& color) const {
+    QColor fondo = color.lighter(140);
+    fondo.setAlpha(70);
+    pintor.setPen(QPen(color, 1.5));
+    pintor.setBrush(fondo);
+    pintor.drawRect(LugarEnVentana(donde));
 }
 
 bool VistaPaginas::Buscar(const QString& texto, bool atras) {
@@ -252,13 +268,12 @@ bool VistaPaginas::Buscar(const QString& texto, bool atras) {
                                  : std::upper_bound(hallazgos.begin(), hallazgos.end(), desde, antes);
         m_hallazgo = it == hallazgos.end() ? hallazgos.front() : *it;
     }
-    MostrarHallazgo();
+    Mostrar(m_hallazgo);
     return true;
 }
 
-void VistaPaginas::MostrarHallazgo() {
-    const QRectF mm = LugarDelHallazgo();
-    const QRectF lugar(LugarDe(m_hallazgo.pagina).topLeft() + mm.topLeft() * Escala(), mm.size() * Escala());
+void VistaPaginas::Mostrar(const Hallazgo& donde) {
+    const QRectF lugar = LugarEnVentana(donde);
     if (lugar.top() < 0 || lugar.bottom() > viewport()->height())
         verticalScrollBar()->setValue(verticalScrollBar()->value() + static_cast<int>(lugar.center().y()) -
                                       viewport()->height() / 2);
@@ -270,6 +285,23 @@ void VistaPaginas::MostrarHallazgo() {
 void VistaPaginas::keyPressEvent(QKeyEvent* evento) {
     const bool ctrl = evento->modifiers() & Qt::ControlModifier;
     QScrollBar* barra = verticalScrollBar();
+    if (m_cifra.pagina >= 0 && !ctrl) {
+        switch (evento->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+            return MoverCifra(evento->key());
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return Elegir(m_cifra);
+        case Qt::Key_Escape:
+            m_cifra = {};
+            return viewport()->update();
+        default:
+            break;
+        }
+    }
     switch (evento->key()) {
     case Qt::Key_PageDown:
     case Qt::Key_Space:
@@ -301,23 +333,30 @@ void VistaPaginas::wheelEvent(QWheelEvent* evento) {
 
 void VistaPaginas::mousePressEvent(QMouseEvent* evento) {
     m_arrastrando = evento->button() == Qt::LeftButton;
-    m_arrastre = evento->pos();
-    if (m_arrastrando)
+    m_arrastre = m_pulsado = evento->pos();
+    if (m_arrastrando && CifraEn(evento->pos()).pagina < 0)
         viewport()->setCursor(Qt::ClosedHandCursor);
 }
 
 void VistaPaginas::mouseMoveEvent(QMouseEvent* evento) {
-    if (!m_arrastrando)
+    if (!m_arrastrando) {
+        viewport()->setCursor(CifraEn(evento->pos()).pagina >= 0 ? Qt::PointingHandCursor
+                                                                 : Qt::OpenHandCursor);
         return;
+    }
     const QPoint paso = evento->pos() - m_arrastre;
     m_arrastre = evento->pos();
     verticalScrollBar()->setValue(verticalScrollBar()->value() - paso.y());
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() - paso.x());
 }
 
-void VistaPaginas::mouseReleaseEvent(QMouseEvent*) {
+void VistaPaginas::mouseReleaseEvent(QMouseEvent* evento) {
+    const bool pulsacion =
+        m_arrastrando && (evento->pos() - m_pulsado).manhattanLength() < QApplication::startDragDistance();
     m_arrastrando = false;
     viewport()->setCursor(Qt::OpenHandCursor);
+    if (const Hallazgo cifra = CifraEn(evento->pos()); pulsacion && cifra.pagina >= 0)
+        Elegir(cifra);
 }
 
 } // namespace pastorix

@@ -30,11 +30,18 @@ public:
     // page has it. An empty text takes the mark away.
     bool Buscar(const QString& texto, bool atras = false);
 
+    // Begins to go from figure to figure with the arrows: Enter asks the marked one, Escape ends it. False when no page has figures that can be
+    // asked.
+    bool PreguntarCifras();
+
 Q_SIGNALS:
     void PaginaCambiada(int pagina);
     void ZoomCambiado(double zoom);
+    // A figure was asked: position of its key in the pages, and its text.
+    void CifraElegida(int figura, const QString& impreso);
 
 protected:
+    bool event(QEvent* evento) override;
     void paintEvent(QPaintEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
     void scrollContentsBy(int dx, int dy) override;
@@ -57,8 +64,14 @@ private:
     void PonerActual();
     void PonerActual(int pagina);
     void DibujarUna(QPainter& pintor, int pagina);
-    QRectF LugarDelHallazgo() const; // mm on its page
-    void MostrarHallazgo();
+    const TextoColocado& Texto(const Hallazgo& donde) const;
+    QRectF LugarEnPagina(const Hallazgo& donde) const; // mm on its page
+    QRectF LugarEnVentana(const Hallazgo& donde) const;
+    void Resaltar(QPainter& pintor, const Hallazgo& donde, const QColor& color) const;
+    void Mostrar(const Hallazgo& donde);
+    void MoverCifra(int tecla);
+    Hallazgo CifraEn(const QPoint& punto) const;
+    void Elegir(const Hallazgo& cifra);
 
     const Paginas& m_paginas;
     double m_zoom = 1;
@@ -67,7 +80,9 @@ private:
     QCache<int, QPixmap> m_dibujadas;
     double m_escalaDibujada = 0;
     Hallazgo m_hallazgo;
+    Hallazgo m_cifra; // marked while figures are asked by keyboard
     QPoint m_arrastre;
+    QPoint m_pulsado;
     bool m_arrastrando = false;
 };
 

@@ -26,7 +26,7 @@ constexpr CausaDeDemora kCausas[] = {
     {21, "DemoraServIPR", "DemoraServIPR", 0},
     {22, ".", "Otra_Causa", 24},
     {23, "Neospora", "Neospirosis", 25},
-    {24, "Libre", nullptr, 26},
+    {kCausaLibre, "Libre", nullptr, 26},
     {25, "DemoraServ", "DemoraServ", 0},
 };
 

@@ -13,6 +13,8 @@ struct CausaDeDemora {
     int acompañante;     // index of that field; 0 none
 };
 
+inline constexpr int kCausaLibre = 24; // the free slot, without a column
+
 // All of them, by index (5 to 25).
 std::span<const CausaDeDemora> CausasDeDemora();
 const CausaDeDemora* CausaDe(int indice); // nullptr when there is none

@@ -109,7 +109,10 @@ std::vector<std::string> ActualizarCebo(Conexion& c, const TerneroDeParto& t, bo
     if (rs.Eof())
         return cambian;
     const auto poner = [&](const char* columna, const char* nombre, const Valor& valor) {
-        if (IgualSinCaso(rs[columna].Texto(), TextoDe(valor)) && rs[columna].Nulo() == EsNulo(valor))
+        const auto leido = rs[columna].Leer();
+        const bool fechas = std::holds_alternative<Fecha>(leido) && std::holds_alternative<Fecha>(valor);
+        if (fechas ? leido == valor // of two centuries they read alike
+                   : IgualSinCaso(TextoDe(leido), TextoDe(valor)) && EsNulo(leido) == EsNulo(valor))
             return;
         cambian.emplace_back(nombre);
         rs[columna] = valor;

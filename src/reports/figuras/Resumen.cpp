@@ -1,0 +1,134 @@
+#include "frame/calendario/Formatos.h"
+#include "reports/figuras/DesteteYCebo.h"
+#include "reports/figuras/Figuras.h"
+#include "reports/figuras/GanaderoDeInforme.h"
+#include "reports/indices/IndicesTec.h"
+#include "store/Literales.h"
+#include "store/TablaDeTrabajo.h"
+
+#include <algorithm>
+
+namespace pastorix {
+
+namespace {
+
+// Days of the year's calvings from the first day of its window to the last, whatever their reference year; twins are one calving. The conditions
+// on what is grouped by choose the rows before they are grouped, which is the same and far less work.
+std::vector<Fecha> PartosPorFechas(Conexion& c, double g, Fecha desde, Fecha hasta) {
+    std::vector<Fecha> dias;
+    Recordset rs(c,
+                 "SELECT T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto FROM "
+                 "T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE "
+                 "T_Vacas.Id_Ganadero = " +
+                     NumeroSql(g) + " AND T_Partos.N_Parto>=1 AND T_Partos.Fecha_Parto Between " +
+                     FechaSql2(desde) + " And " + FechaSql2(hasta) +
+                     " GROUP BY T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto",
+                 Cursor::Estatico, Bloqueo::SoloLectura);
+    for (; !rs.Eof(); rs.Siguiente())
+        dias.push_back(rs["Fecha_Parto"].FechaValor().value_or(desde));
+    return dias;
+}
+
+// Dead up to weaning, by the entries that tell it.
+double TernerosMuertosResumen(Conexion& c, double g, double y) {
+    Recordset rs(c, "SELECT Count(T_Ganaderos.Id_Ganadero) as N" + PartosDeGanaderoYAño(g, y) +
+                        " AND (Muere = 'Perinatal' OR Muere = 'Antes30d' OR Muere = 'AntesD' OR Muere = "
+                        "'NaceM')");
+    return rs.Eof() ? 0 : rs[0].Numero();
+}
+
+double MediaIEPc(Conexion& c, double g, double y) {
+    Recordset rs(c, "SELECT Avg(IEPc) AS Media , Count(IEPc) As N" + CubricionesDeGanaderoYAño(g, y) +
+                        " AND T_Cubriciones.N_Parto >= 1 AND T_Cubriciones.IEPc >0");
+    return rs.Eof() ? 0 : Round(rs["Media"].Numero());
+}
+
+double PorcentajePerdida(Conexion& c, double g, double y, double partos) {
+    return partos == 0 ? 0 : Round((PerdidaPreñezTardia(c, g, y) + TernerosMuertos(c, g, y)) / partos * 100);
+}
+
+// Without calvings in the year's window the shares of its first and last months are Null; the percentages of the year's calvings are 0.
+void EscribirAño(Conexion& c, Recordset& f, double g, int año, const std::function<void(int)>& avanzar) {
+    const double y = año;
+    const auto inicio = FechaDeArgumento(InicioDeAño(y));
+    const auto fin = FechaDeArgumento(FinDeAño(y));
+    const auto dosCifras = FinDeAño(y).substr(6);
+    f["C3"] = TextoNumero(y);
+    f["C4"] = TextoNumero(VacasMediasPartos(c, g, y));
+    avanzar(5);
+    const double partos = PartosDelAño(c, g, y);
+    f["C5"] = TextoNumero(partos);
+    if (const auto ventana = PartosPorFechas(c, g, inicio, fin); !ventana.empty()) {
+        const auto parte = [&](Fecha desde, Fecha hasta) {
+            const auto n = std::count_if(ventana.begin(), ventana.end(),
+                                         [&](Fecha dia) { return desde <= dia && dia <= hasta; });
+            return TextoNumero(Round(static_cast<double>(n) * 100 / static_cast<double>(ventana.size())));
+        };
+        f["C6"] = parte(inicio, FechaDeArgumento("1/2/" + dosCifras).UltimoDelMes());
+        f["C15"] = parte(FechaDeArgumento("01/09/" + dosCifras), fin);
+    }
+    avanzar(25);
+    f["C7"] = TextoNumero(TernerosMuertosResumen(c, g, y));
+    f["C8"] = PorcentajeNacidosIA(c, g, y);
+    f["C9"] = EdadMediaDestete(c, g, y, ">");
+    f["C10"] = GananciaMediaDestete(c, g, y, ">");
+    avanzar(65);
+    f["C11"] = partos == 0
+                   ? "0"
+                   : TextoNumero(Round((TernerosCebados(c, g, y) - MuertesCebo(c, g, y)) / partos * 100));
+    avanzar(78);
+    f["C12"] = PorcentajeAbortos(c, g, y);
+    avanzar(95);
+    f["C13"] = TextoNumero(MediaIEPc(c, g, y));
+    f["C14"] = TextoNumero(PorcentajePerdida(c, g, y, partos));
+    avanzar(100);
+}
+
+std::string SentenciaAños(double ganadero, const std::vector<int>& años) {
+    std::string sql = "SELECT T_Vacas.Id_Ganadero, T_Cubriciones.Año_Ref FROM T_Vacas LEFT JOIN "
+                      "T_Cubriciones ON T_Vacas.Id_Vaca = T_Cubriciones.Id_Vaca GROUP BY "
+                      "T_Vacas.Id_Ganadero, T_Cubriciones.Año_Ref HAVING (((T_Vacas.Id_Ganadero)=" +
+                      NumeroSql(ganadero) + ") AND ((T_Cubriciones.Año_Ref) Is Not Null)";
+    for (std::size_t i = 0; i < años.size(); ++i)
+        sql += (i == 0 ? " AND ((T_Cubriciones.Año_Ref) = " : " OR (T_Cubriciones.Año_Ref) = ") +
+               NumeroSql(años[i]);
+    return sql + (años.empty() ? ")" : "))") + " ORDER BY Año_Ref";
+}
+
+std::vector<int> LeerAños(Conexion& c, const std::string& sentencia) {
+    std::vector<int> años;
+    for (Recordset rs(c, sentencia, Cursor::Estatico, Bloqueo::SoloLectura); !rs.Eof(); rs.Siguiente())
+        años.push_back(static_cast<int>(rs["Año_Ref"].Entero()));
+    return años;
+}
+
+} // namespace
+
+std::vector<int> AñosConCubriciones(Conexion& c, double ganadero) {
+    return LeerAños(c, SentenciaAños(ganadero, {}));
+}
+
+bool LlenarResumen(Conexion& c, double ganadero, const std::vector<int>& años,
+                   const AvanceDeInforme& avance) {
+    EnGrupo(c, [&] {
+        VaciarTabla(c, "X_Temp");
+        TablaDeTrabajo tabla(c, "X_Temp");
+        for (const auto& g : LeerGanaderos(c, {ganadero})) {
+            const auto delGanadero = LeerAños(c, SentenciaAños(ganadero, años));
+            for (std::size_t i = 0; i < delGanadero.size(); ++i) {
+                auto& f = tabla.Fila();
+                f["C1"] = g.NombreYLugar();
+                f["C2"] = g.TextoTelefonos(Telefonos::MovilNoNulo);
+                EscribirAño(c, f, g.id, delGanadero[i], [&](int porcentaje) {
+                    if (avance)
+                        avance(static_cast<int>(i) * 100 + porcentaje,
+                               static_cast<int>(delGanadero.size()) * 100);
+                });
+            }
+        }
+        tabla.Cerrar();
+    });
+    return true;
+}
+
+} // namespace pastorix
