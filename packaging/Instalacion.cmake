@@ -12,6 +12,8 @@ endif()
 install(TARGETS ${programas} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${ejemplo_de_instalacion} DESTINATION ${CMAKE_INSTALL_DATADIR}/pastorix/ejemplo)
 install(FILES ${PASTORIX_MANUAL} DESTINATION ${CMAKE_INSTALL_DATADIR}/pastorix)
+install(FILES ${CMAKE_BINARY_DIR}/manual/manual.html DESTINATION ${CMAKE_INSTALL_DATADIR}/pastorix/ayuda)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/manual/imagenes DESTINATION ${CMAKE_INSTALL_DATADIR}/pastorix/ayuda)
 
 configure_file(${escritorio}/${aplicacion}.metainfo.xml.in ${CMAKE_BINARY_DIR}/${aplicacion}.metainfo.xml @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/${aplicacion}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

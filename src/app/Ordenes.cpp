@@ -6,6 +6,7 @@
 #include "exchange/PasoGanaderos.h"
 #include "exchange/ServidorDS.h"
 #include "exchange/TorosComunes.h"
+#include "frame/Atajos.h"
 #include "frame/Mensajes.h"
 #include "frame/Principal.h"
 #include "frame/calendario/Reloj.h"
@@ -25,7 +26,6 @@
 #include "reproduction/PanelAvisos.h"
 
 #include <QDialog>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <functional>
@@ -89,17 +89,16 @@ QDialog* FichaDeHecho(Principal& principal, Sesion& sesion, const Hecho& hecho) 
 void PonerHoy(Principal& principal, Sesion& sesion) {
     if (!sesion.diario)
         sesion.diario = std::make_unique<Diario>(sesion.conexion, Ahora);
-    QObject::connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_H), &principal), &QShortcut::activated,
-                     &principal, [&] {
-                         Abrir(principal, [&] {
-                             auto* hoy = new VentanaHoy(sesion, &principal);
-                             hoy->alAbrir = [&](const Hecho& hecho) {
-                                 if (hecho.ficha != FichaDe::Ninguna)
-                                     Abrir(principal, [&] { return FichaDeHecho(principal, sesion, hecho); });
-                             };
-                             return hoy;
-                         });
-                     });
+    PonerAtajo(principal, Qt::CTRL | Qt::Key_H, QStringLiteral("Lo hecho en esta sesión, y deshacerlo"), [&] {
+        Abrir(principal, [&] {
+            auto* hoy = new VentanaHoy(sesion, &principal);
+            hoy->alAbrir = [&](const Hecho& hecho) {
+                if (hecho.ficha != FichaDe::Ninguna)
+                    Abrir(principal, [&] { return FichaDeHecho(principal, sesion, hecho); });
+            };
+            return hoy;
+        });
+    });
 }
 
 // The exchange has one pair of forms for the centre and one for the stations; who has not entered has none.
@@ -143,8 +142,8 @@ void PonerAvisos(Principal& principal, Sesion& sesion) {
     auto* sitio = new QVBoxLayout(fondo);
     sitio->setContentsMargins(24, 24, 24, 24);
     sitio->addWidget(avisos);
-    QObject::connect(new QShortcut(Qt::Key_F9, &principal), &QShortcut::activated, avisos,
-                     [avisos] { avisos->Cerrar(!avisos->Cerrado()); });
+    PonerAtajo(principal, Qt::Key_F9, QStringLiteral("Mostrar u ocultar los avisos"),
+               [avisos] { avisos->Cerrar(!avisos->Cerrado()); });
     QObject::connect(&principal, &Principal::Activada, avisos, &PanelAvisos::Refrescar);
 }
 
@@ -173,9 +172,8 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     formulario("Mnu_Vacas", [&] { return new Vacas(sesion, OrdenesDeCiclos(principal), &principal); });
     formulario("Mnu_Sementales", [&] { return new Sementales(sesion, &principal); });
     // No menu entry leads to the sheet of the reproductive period.
-    QObject::connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_I), &principal), &QShortcut::activated,
-                     &principal,
-                     [&] { Abrir(principal, [&] { return new FichaIPR(sesion, {}, &principal); }); });
+    PonerAtajo(principal, Qt::CTRL | Qt::Key_I, QStringLiteral("Ficha I.P.R."),
+               [&] { Abrir(principal, [&] { return new FichaIPR(sesion, {}, &principal); }); });
     for (const auto& e : CatalogoDeInformes())
         formulario(e.orden, [&, crear = e.crear] { return crear(sesion, informe, &principal); });
     VincularIntercambio(principal, sesion);

@@ -5,14 +5,19 @@
 #include "frame/AbrirSesion.h"
 #include "frame/Aplicacion.h"
 #include "frame/Arranque.h"
+#include "frame/Ayuda.h"
 #include "frame/Ciclo.h"
+#include "frame/LoConvertido.h"
+#include "frame/MirarFichero.h"
 #include "frame/Presentacion.h"
+#include "frame/PrimerInicio.h"
 #include "frame/Principal.h"
 #include "reports/TablasDeInformes.h"
 #include "reports/motor/ControlInforme.h"
 #include "store/LocaleNumerico.h"
 
 #include <QApplication>
+#include <QFile>
 
 #include <cstdio>
 #include <filesystem>
@@ -43,6 +48,8 @@ struct Programa {
         QObject::connect(principal.get(), &Principal::Salida, qApp, &QApplication::quit);
         entrada = std::make_unique<AbrirSesion>(sesion, *principal, entradaPrincipal);
         QObject::connect(entrada.get(), &AbrirSesion::Salida, qApp, &QApplication::quit);
+        QObject::connect(entrada.get(), &AbrirSesion::Abierta, principal.get(),
+                         [this] { MostrarLoConvertido(sesion, principal.get()); });
         entrada->show();
     }
 };
@@ -61,10 +68,11 @@ bool Responde(int argc, char** argv) {
             return true;
         }
         if (palabra == "--help" || palabra == "-h") {
-            std::printf("Uso: %s [--help] [--version]\n\n"
+            std::printf("Uso: %s [--help] [--version] [FICHERO]\n\n"
                         "Fichas, índices técnicos e informes de explotaciones de vacuno de carne.\n\n"
                         "  --help     escribe esta ayuda y termina\n"
-                        "  --version  escribe la versión y termina\n\n"
+                        "  --version  escribe la versión y termina\n"
+                        "  FICHERO    una base de datos o un paquete de Pastorix: dice lo que contiene\n\n"
                         "Los datos están en la carpeta que diga la variable PASTORIX_HOME; sin ella, en la "
                         "del programa si tiene las bases\n"
                         "de datos, y si no en la carpeta de datos del usuario.\n",
@@ -83,13 +91,21 @@ int CorrerPrograma(int argc, char** argv, bool entradaPrincipal) {
     QApplication aplicacion(argc, argv);
     FijarLocaleNumerico();
     PrepararAplicacion(aplicacion);
+    InstalarTeclaDeAyuda(aplicacion);
+    if (argc > 1 && !MirarFichero(QFile::decodeName(argv[1])))
+        return 0;
     Programa programa{entradaPrincipal};
     programa.sesion.rutas = Rutas::Buscar();
     {
         CicloTardio ciclo(nullptr, QStringLiteral("Convirtiendo la base de datos..."));
-        if (!Arrancar(programa.sesion, [&](int hecho, int total) { ciclo.Avance(hecho, total); }))
+        const auto pedirBases = [](const Rutas& rutas) {
+            return PrimerInicio(rutas, CarpetaCompartida()).exec() == QDialog::Accepted;
+        };
+        if (!Arrancar(
+                programa.sesion, [&](int hecho, int total) { ciclo.Avance(hecho, total); }, pedirBases))
             return 1;
     }
+    MostrarLoConvertido(programa.sesion, nullptr);
     programa.presentacion =
         std::make_unique<Presentacion>(programa.sesion, [&] { programa.MostrarEntrada(); });
     programa.presentacion->show();

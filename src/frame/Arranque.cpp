@@ -2,6 +2,7 @@
 
 #include "frame/AvisosDeBase.h"
 #include "frame/Cerrojo.h"
+#include "frame/Entrega.h"
 #include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "frame/Mudanza.h"
@@ -15,6 +16,8 @@
 namespace pastorix {
 
 namespace {
+
+using PedirBases = std::function<bool(const Rutas&)>;
 
 // A condition that has been told to the user and ends the program.
 struct FinAvisado {};
@@ -57,7 +60,7 @@ void AvisarDeLoInacabado(const Rutas& rutas) {
             .arg(restos.join(QStringLiteral(", "))));
 }
 
-void ColocarBases(const Rutas& rutas) {
+void ColocarBases(const Rutas& rutas, const PedirBases& pedirBases) {
     const QString& programa = rutas.Programa();
     QStringList ficheros;
     for (const QString& base : BasesEntregadas()) {
@@ -66,6 +69,9 @@ void ColocarBases(const Rutas& rutas) {
             Avisar(nullptr, TipoMensaje::Critico, QStringLiteral("Atención"),
                    QStringLiteral("No es posible continuar no se encuentra el fichero: ") +
                        QDir::toNativeSeparators(programa + QLatin1Char('/') + base));
+            const bool ninguna = BasesQueFaltan(programa) == BasesEntregadas();
+            if (ninguna && pedirBases && pedirBases(rutas))
+                return ColocarBases(rutas, {});
             throw FinAvisado{};
         }
         ficheros << fichero;
@@ -82,13 +88,13 @@ void ColocarInformes(const Rutas& rutas) {
     MudarACarpeta(programa, NombreInformes, ficheros);
 }
 
-void PrepararCarpetas(const Rutas& rutas) {
+void PrepararCarpetas(const Rutas& rutas, const PedirBases& pedirBases) {
     DeshacerMudanza(rutas.Programa(), NombreBases);
     DeshacerMudanza(rutas.Programa(), NombreInformes);
     if (rutas.Programa() == CarpetaDelUsuario())
         RellenarCarpeta(rutas, CarpetaCompartida());
     if (!QFileInfo(rutas.BaseDeDatos()).isDir())
-        ColocarBases(rutas);
+        ColocarBases(rutas, pedirBases);
     if (!QFileInfo(rutas.Informes()).isDir())
         ColocarInformes(rutas);
 }
@@ -126,7 +132,7 @@ void AbrirPrincipal(Sesion& sesion, const FuncionAvance& avance) {
 
 } // namespace
 
-bool Arrancar(Sesion& sesion, const FuncionAvance& avance) {
+bool Arrancar(Sesion& sesion, const FuncionAvance& avance, const PedirBases& pedirBases) {
     FijarAvisoDeErrorDeFecha([](long numero, const std::string& texto) {
         AvisarErrorInesperado(nullptr, numero, QString::fromStdString(texto));
     });
@@ -136,7 +142,7 @@ bool Arrancar(Sesion& sesion, const FuncionAvance& avance) {
             Limpiar(sesion.rutas);
             AvisarDeLoInacabado(sesion.rutas);
         }
-        PrepararCarpetas(sesion.rutas);
+        PrepararCarpetas(sesion.rutas, pedirBases);
         DeclararOrigenes(sesion);
         AbrirPrincipal(sesion, avance);
         AvisarColumnasAñadidas(sesion, nullptr);

@@ -10,7 +10,10 @@
 namespace pastorix {
 
 void AbrirManual(QWidget* padre, const Rutas& rutas) {
-    const QString manual = rutas.Manual();
+    AbrirManual(padre, rutas.Manual());
+}
+
+void AbrirManual(QWidget* padre, const QString& manual) {
     if (QFileInfo(manual).isFile() && QDesktopServices::openUrl(QUrl::fromLocalFile(manual)))
         return;
     Avisar(padre, TipoMensaje::Atencion, QStringLiteral("Atención"),

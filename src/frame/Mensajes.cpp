@@ -180,4 +180,11 @@ QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QStrin
     return selector.selectedFiles().constFirst();
 }
 
+QString ElegirCarpetaQueHay(QWidget* padre, const QString& titulo) {
+    const Mensaje mensaje{Mensaje::Clase::Carpeta, TipoMensaje::Pregunta, titulo, {}, {}, {}, {}, {}};
+    if (Respuesta respuesta; Responder(mensaje, respuesta))
+        return respuesta.fichero;
+    return QFileDialog::getExistingDirectory(padre, titulo);
+}
+
 } // namespace pastorix

@@ -18,7 +18,7 @@ enum class TipoMensaje { Critico = 16, Pregunta = 32, Atencion = 48, Informacion
 
 // One box or chooser on its way to the user. Titles and texts are as the sheets wrote them, line breaks included.
 struct Mensaje {
-    enum class Clase { Aviso, Pregunta, AntesDeDejar, FicheroGuardar };
+    enum class Clase { Aviso, Pregunta, AntesDeDejar, FicheroGuardar, Carpeta };
     Clase clase = Clase::Aviso;
     TipoMensaje tipo = TipoMensaje::Informacion;
     QString titulo;
@@ -34,7 +34,7 @@ enum class AntesDeDejar { Cancelar, Guardar, Descartar };
 
 struct Respuesta {
     bool si = false; // Pregunta
-    QString fichero; // FicheroGuardar; empty: cancelled
+    QString fichero; // FicheroGuardar, Carpeta; empty: cancelled
     AntesDeDejar antesDeDejar = AntesDeDejar::Cancelar;
 };
 
@@ -71,5 +71,8 @@ void Decir(QLabel& rotulo, const QString& texto);
 // Asks where to write a file, asking before an existing one is replaced; "" when cancelled.
 QString ElegirFicheroGuardar(QWidget* padre, const QString& titulo, const QString& propuesta,
                              const QString& filtro);
+
+// Asks for a folder that is there; "" when cancelled.
+QString ElegirCarpetaQueHay(QWidget* padre, const QString& titulo);
 
 } // namespace pastorix

@@ -57,6 +57,7 @@ constexpr EntradaDeMenu Menus[] = {
 
     {Menu,  "Mnu_Ayuda",           "Ay&uda",                               "", ""},
     {Orden, "Mnu_Manual",          "&Manual",                               "Mnu_Ayuda", ""},
+    {Orden, "Mnu_Atajos",          "A&tajos de teclado",                    "Mnu_Ayuda", ""},
     {Regla, "Sep",                 "",                                     "Mnu_Ayuda", ""},
     {Orden, "Mnu_Acercade",        "&Acerca de...",                        "Mnu_Ayuda", ""},
 

@@ -1,6 +1,7 @@
 #include "frame/Principal.h"
 
 #include "frame/Acerca.h"
+#include "frame/Atajos.h"
 #include "frame/ControlEquipos.h"
 #include "frame/FondoPrincipal.h"
 #include "frame/Iconos.h"
@@ -145,6 +146,7 @@ void Principal::PurgarHistorial() {
 void Principal::VincularPropias() {
     Vincular(QStringLiteral("Mnu_Salir"), [this] { close(); });
     Vincular(QStringLiteral("Mnu_Manual"), [this] { AbrirManual(this, m_sesion.rutas); });
+    Vincular(QStringLiteral("Mnu_Atajos"), [this] { ListaDeAtajos(*this).exec(); });
     Vincular(QStringLiteral("Mnu_Acercade"), [this] { Acerca(m_sesion, this).exec(); });
     Vincular(QStringLiteral("Mnu_ControlCli"), [this] { MostrarControlEquipos(m_sesion, this); });
 }

@@ -20,6 +20,7 @@ void Abrir(Sesion& sesion, const std::string& cadena, bool soloLectura, const Fu
     opciones.soloLectura = soloLectura;
     opciones.carpetaBackup = sesion.rutas.BackUp().toStdString();
     opciones.avance = avance;
+    opciones.alConvertir = [&](const HojaDeConversion& hoja) { sesion.convertidas.push_back(hoja); };
     sesion.conexion.Abrir(sesion.origenes, cadena, ClaveDeBases, opciones);
 }
 

@@ -2,6 +2,7 @@
 
 #include "frame/Rutas.h"
 #include "store/Conexion.h"
+#include "store/Conversion.h"
 #include "store/Diario.h"
 #include "store/Esquema.h"
 #include "store/OrigenesDeDatos.h"
@@ -14,6 +15,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace pastorix {
 
@@ -30,6 +32,8 @@ struct Sesion {
     OrigenesDeDatos origenes;
     Conexion conexion;              // open on OD_PRADALC: the database of the session
     std::unique_ptr<Diario> diario; // of what was changed there since it was opened; none where nobody asks
+
+    std::vector<HojaDeConversion> convertidas; // Access files read since their user was last told
 
     std::string ModoSesion;       // "", "VETERINARIO", "CENTRAL"
     std::string UsuarioSesion;    // login name; "" for an anonymous veterinarian; "CENTRAL"

@@ -1,5 +1,6 @@
 #include "reproduction/Cebo.h"
 
+#include "frame/Atajos.h"
 #include "frame/Mensajes.h"
 #include "frame/Ventanas.h"
 #include "frame/calendario/Reloj.h"
@@ -11,7 +12,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace pastorix {
@@ -126,7 +126,7 @@ void Cebo::Conectar() {
     alPulsar(BarraFicha::Cancelar, &Cebo::Cancelar);
     connect((*m_barra)[BarraFicha::Cerrar], &QPushButton::clicked, this, [this] { reject(); });
     (*m_barra)[BarraFicha::Guardar]->setToolTip(QStringLiteral("Ctrl+S"));
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this), &QShortcut::activated, this, [this] {
+    PonerAtajo(*this, Qt::CTRL | Qt::Key_S, QStringLiteral("Guardar"), [this] {
         if (Editando())
             Guardar();
     });

@@ -1,4 +1,5 @@
 // The mating record: its window.
+#include "frame/Atajos.h"
 #include "frame/Mensajes.h"
 #include "frame/Principal.h"
 #include "frame/Ventanas.h"
@@ -21,7 +22,6 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
-#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -121,11 +121,11 @@ void Cubriciones::Conectar() {
     m_fechasIPR->alElegir = [this](const QString& fecha, bool calcular) { ElegirFechaIPR(fecha, calcular); };
     connect(&m_hoja->Marca(kMarcaCompletos), &QCheckBox::clicked, this,
             [this] { RotularCompletos(m_hoja->Marca(kMarcaCompletos)); });
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
-            [this] { ObsControlRebaño(Base(), m_vaca.idVaca, this).exec(); });
+    PonerAtajo(*this, Qt::CTRL | Qt::Key_E, QStringLiteral("Observaciones para el control del rebaño"),
+               [this] { ObsControlRebaño(Base(), m_vaca.idVaca, this).exec(); });
     for (int i = 0; i < 2; ++i)
-        connect(new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)), this),
-                &QShortcut::activated, this, [this, i] { m_tira->Pasar(i); });
+        PonerAtajo(*this, Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i),
+                   QStringLiteral("Página %1").arg(i + 1), [this, i] { m_tira->Pasar(i); });
     try {
         m_encabezado->PonerVaca(Base(), m_vaca);
     } catch (const std::exception& e) {

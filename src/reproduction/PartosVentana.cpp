@@ -1,4 +1,5 @@
 // The calving: its window.
+#include "frame/Atajos.h"
 #include "frame/Mensajes.h"
 #include "frame/Principal.h"
 #include "frame/Ventanas.h"
@@ -15,7 +16,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -114,9 +114,9 @@ QLayout* Partos::CrearPie() {
     pie->addStretch();
     PonerBoton(*pie, {"B_Aceptar", "aceptar", "&Aceptar", "Ctrl+S", Qt::CTRL | Qt::Key_S},
                [this] { Aceptar(); });
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
-            [this] { ObsControlRebaño(Base(), m_vaca.idVaca, this).exec(); });
-    connect(new QShortcut(QKeySequence(Qt::Key_F9), this), &QShortcut::activated, this, [this] {
+    PonerAtajo(*this, Qt::CTRL | Qt::Key_E, QStringLiteral("Observaciones para el control del rebaño"),
+               [this] { ObsControlRebaño(Base(), m_vaca.idVaca, this).exec(); });
+    PonerAtajo(*this, Qt::Key_F9, QStringLiteral("Calcular de nuevo los datos del destete"), [this] {
         for (std::size_t i = 0; i < m_terneros.size() && i < m_filas.size(); ++i)
             m_terneros[i]->Calcular();
     });

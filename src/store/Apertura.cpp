@@ -159,6 +159,8 @@ private:
         try {
             const auto hoja = ConvertirEnSuSitio(m_ruta, m_clave, CarpetaBackup(), m_opciones.avance);
             m_datos.resultado = ResultadoApertura::Convertida;
+            if (m_opciones.alConvertir)
+                m_opciones.alConvertir(hoja);
             ExigirColumnas(hoja.columnasAusentes);
         } catch (const ErrorConversion& e) {
             Fallar(e.Resultado(), e.what());

@@ -39,6 +39,8 @@ enum class ResultadoApertura {
 
 using AvanceDeApertura = std::function<void(int hecho, int total)>;
 
+struct HojaDeConversion;
+
 struct OpcionesApertura {
     bool trabajo = true;      // convert and bring to canonical order if need be; false: open as it is
     bool soloLectura = false; // the rows stay as they are; scratch tables can be written all the same, aside
@@ -48,6 +50,7 @@ struct OpcionesApertura {
     bool guardarOriginal = true; // of a file that is brought to our form; false for what is a copy already
     std::string carpetaBackup;   // where that original is kept; empty: folder BackUp in the file's own folder
     AvanceDeApertura avance;     // told of the progress of a conversion
+    std::function<void(const HojaDeConversion&)> alConvertir; // an Access file was brought to our form
 };
 
 class Diario;

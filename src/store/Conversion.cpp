@@ -280,6 +280,7 @@ HojaDeConversion ConvertirEnSuSitio(const fs::path& fichero, std::string_view cl
     if (!carpetaBackup.empty()) {
         auto original = NombreDeBackup(fichero, carpetaBackup, "Access");
         CopiarFichero(fichero, original);
+        hoja.guardado = TextoDeRuta(original);
         EscribirTexto(original.replace_extension(".txt"), hoja.Texto());
         SincronizarCarpeta(carpetaBackup);
     }

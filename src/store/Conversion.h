@@ -37,6 +37,7 @@ struct HojaDeConversion {
     std::vector<Tabla> tablas;
     std::vector<std::string> curiosidades;
     std::vector<std::string> columnasAusentes; // "T_Vacas.Nombre": added without values
+    std::string guardado;                      // where the original is kept; empty: nowhere
     std::string Texto() const;
 };
 

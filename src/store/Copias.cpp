@@ -53,20 +53,12 @@ std::optional<Fecha> MomentoDelNombre(std::string_view raiz) {
     return Fecha::De(numero(5, 4), numero(3, 2), numero(1, 2), numero(10, 2), numero(12, 2), numero(14, 2));
 }
 
-bool EsAccess(const fs::path& fichero) {
-    std::array<char, 128> bytes{};
-    std::ifstream f(fichero, std::ios::binary);
-    f.read(bytes.data(), bytes.size());
-    return access::BaseAccess::LoParece(
-        {reinterpret_cast<const std::uint8_t*>(bytes.data()), static_cast<std::size_t>(f.gcount())});
-}
-
 // A copy in our form: itself, or what an Access file becomes in a folder that goes when it is done with.
 class EnNuestraForma {
 public:
     EnNuestraForma(const fs::path& copia, std::string_view clave)
         : m_fichero(copia) {
-        if (!EsAccess(copia))
+        if (!EsDeAccess(copia))
             return;
         m_carpeta.emplace();
         m_fichero = m_carpeta->En("copia.mdb");
@@ -84,6 +76,14 @@ private:
 };
 
 } // namespace
+
+bool EsDeAccess(const fs::path& fichero) {
+    std::array<char, 128> bytes{};
+    std::ifstream f(fichero, std::ios::binary);
+    f.read(bytes.data(), bytes.size());
+    return access::BaseAccess::LoParece(
+        {reinterpret_cast<const std::uint8_t*>(bytes.data()), static_cast<std::size_t>(f.gcount())});
+}
 
 ContenidoDeBase LeerContenido(Conexion& conexion) {
     const auto primero = [&](const char* consulta) {

@@ -33,6 +33,9 @@ std::vector<CopiaDeSeguridad> BuscarCopias(const std::filesystem::path& carpeta,
 // Looks through a copy, an Access file as well. Throws ErrorAlmacen when it is not sound, or no database of ours.
 ContenidoDeBase ExaminarCopia(const std::filesystem::path& copia, std::string_view clave);
 
+// Whether a file is an Access database, by its first bytes.
+bool EsDeAccess(const std::filesystem::path& fichero);
+
 struct CopiaSana {
     CopiaDeSeguridad copia;
     ContenidoDeBase contenido;

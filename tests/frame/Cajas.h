@@ -23,6 +23,7 @@ public:
                 ventana.exec();
             }
             pastorix::Respuesta respuesta;
+            respuesta.fichero = carpeta;
             const bool deTres = mensaje.clase == pastorix::Mensaje::Clase::AntesDeDejar;
             if (deTres || mensaje.clase == pastorix::Mensaje::Clase::Pregunta) {
                 if (m_respuestas.isEmpty())
@@ -50,6 +51,8 @@ public:
     qsizetype Cuantas() const { return m_vistas.size(); }
     // A real window comes and goes with every box, and takes the focus along as the user's would.
     bool conVentana = false;
+    // What a chooser of folders or files answers.
+    QString carpeta;
 
     // Yes to "do you want to lose this" and to leaving without saving (Descartar); no stays where it is.
     void Responder(bool si) { m_respuestas << si; }

@@ -56,8 +56,9 @@ public:
     QStringList Contenido(const char* subcarpeta = ".") const {
         return QDir(En(subcarpeta)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     }
-    void Crear(const char* nombre, pastorix::ClaseDeBase clase) const {
-        pastorix::CrearBase(En(nombre).toStdString(), clase, pastorix::ClaveDeBases);
+    void Crear(const char* nombre, pastorix::ClaseDeBase clase) const { Crear(En(nombre), clase); }
+    static void Crear(const QString& fichero, pastorix::ClaseDeBase clase) {
+        pastorix::CrearBase(fichero.toStdString(), clase, pastorix::ClaveDeBases);
     }
 
     // A second connection on one of the databases of a started program.

@@ -2,8 +2,12 @@
 
 #include "Cajas.h"
 #include "Instalacion.h"
+#include "frame/Entrega.h"
 #include "frame/ErrorInesperado.h"
+#include "frame/LoConvertido.h"
+#include "frame/MirarFichero.h"
 #include "frame/Mudanza.h"
+#include "frame/PrimerInicio.h"
 #include "frame/calendario/ErrorDeEjecucion.h"
 
 using namespace pastorix;
@@ -46,6 +50,58 @@ private Q_SLOTS:
                                           QDir::toNativeSeparators(i.Carpeta() + "/" + falta));
             QCOMPARE(i.Contenido(), antes);
         }
+    }
+
+    // Nothing at all: after the box the ways to go on, taken by their buttons.
+    void SinNingunaBaseSeEligeComoEmpezar() {
+        QTemporaryDir antigua; // where the former program lies, in letters of its own
+        const QString dentro = antigua.filePath(u"BASE DE DATOS"_s);
+        QVERIFY(QDir().mkpath(dentro));
+        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_DATOS "/minima.mdb"), dentro + u"/bd_pradalc.MDB"_s));
+        QVERIFY(QFile::copy(QStringLiteral(PASTORIX_DATOS "/minima.mdb"), dentro + u"/BD_PRADALP.mdb"_s));
+        for (const bool vacias : {true, false}) {
+            Instalacion i(false);
+            Cajas cajas;
+            cajas.carpeta = antigua.path();
+            const bool arrancado = Arrancar(i.sesion, {}, [&](const Rutas& rutas) {
+                PrimerInicio ventana(rutas, i.En("nada"));
+                const auto pulsar = [&](const char* boton) {
+                    ventana.findChild<QAbstractButton*>(QLatin1String(boton))->click();
+                };
+                pulsar("B_Ejemplo"); // there is none
+                if (vacias) {
+                    pulsar("B_Vacias");
+                } else {
+                    pulsar("B_Carpeta"); // lacks one: told, and nothing has been copied
+                    const bool nada = i.Contenido() == QStringList{u"pastorix.lock"_s};
+                    Instalacion::Crear(dentro + u"/toros.mdb"_s, ClaseDeBase::Toros);
+                    pulsar("B_Carpeta");
+                    return nada && ventana.result() == QDialog::Accepted;
+                }
+                return ventana.result() == QDialog::Accepted;
+            });
+            QVERIFY(arrancado);
+            const auto vistas = cajas.Vistas();
+            QCOMPARE(vistas.size(),
+                     vacias ? 1 : 4); // the box of the start, the chooser, what is lacking, the chooser again
+            QVERIFY(vistas[0].texto.startsWith(u"No es posible continuar"_s));
+            QCOMPARE(Contar(i.sesion.conexion, "T_Ganaderos"), vacias ? 2L : 3L);
+            QCOMPARE(i.sesion.convertidas.size(), vacias ? 0U : 1U);
+            if (vacias)
+                continue;
+            QVERIFY(vistas[2].texto.contains(u"falta: Toros.mdb"_s));
+            QVERIFY(QFile::exists(dentro + u"/bd_pradalc.MDB"_s)); // copied, never moved
+            const LoConvertido pagina(i.sesion.convertidas[0]);
+            const auto* tabla = pagina.findChild<QTableWidget*>();
+            const auto halladas = tabla->findItems(u"T_Vacas"_s, Qt::MatchExactly);
+            QCOMPARE(halladas.size(), 1);
+            QCOMPARE(tabla->item(halladas[0]->row(), 3)->text(), u"14"_s);
+        }
+        // One that cannot be put takes the others along.
+        Instalacion i(false);
+        Escribir(i.En("toros.MDB"));
+        QVERIFY_EXCEPTION_THROWN(EntregarCopias(antigua.path(), i.Carpeta()), ErrorAlmacen);
+        QCOMPARE(i.Contenido(), QStringList{u"toros.MDB"_s});
     }
 
     void CarpetaDeBasesVacia() {
@@ -94,6 +150,39 @@ private Q_SLOTS:
             QFile antes(origen), ahora(i.sesion.rutas.BasePrincipal());
             QVERIFY(antes.open(QIODevice::ReadOnly) && ahora.open(QIODevice::ReadOnly));
             QVERIFY(antes.readAll() == ahora.readAll());
+        }
+    }
+
+    void UnFicheroAbiertoDesdeElEscritorioSoloSeMira() {
+        Instalacion i;
+        const auto mirar = [](const QString& fichero, bool si) {
+            Cajas cajas;
+            cajas.Responder(si);
+            const auto bytes = [&] {
+                QFile f(fichero);
+                return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+            };
+            const auto antes = bytes();
+            const bool abrir = MirarFichero(fichero);
+            const auto vistas = cajas.Vistas();
+            return std::tuple{abrir, vistas.value(0).texto + vistas.value(0).causa, antes == bytes()};
+        };
+        const auto [abrirNuestra, nuestra, igual1] = mirar(i.En("BD_PradalC.mdb"), true);
+        QVERIFY(abrirNuestra && nuestra.contains(u"Vacas: 0\n"_s) && igual1);
+        const auto [abrirAccess, access, igual2] = mirar(QStringLiteral(PASTORIX_DATOS "/minima.mdb"), false);
+        QVERIFY(!abrirAccess && access.contains(u"Vacas: 14\n"_s) && igual2);
+        {
+            QFile f(i.En("BD_PradalP.mdb")); // the first pages only
+            QVERIFY(f.resize(20 * 4096));
+        }
+        for (const QString& mala :
+             {i.En("BD_PradalP.mdb"), i.En("no hay.mdb"), QStringLiteral(PASTORIX_DATOS "/recortada.mdb")}) {
+            Cajas cajas;
+            QVERIFY(!MirarFichero(mala));
+            const auto vistas = cajas.Vistas();
+            QCOMPARE(vistas.size(), 1);
+            QCOMPARE(vistas[0].clase, Mensaje::Clase::Aviso);
+            QVERIFY(!vistas[0].causa.isEmpty());
         }
     }
 

@@ -1,4 +1,5 @@
 #include "manual/Maqueta.h"
+#include "manual/Pantalla.h"
 
 #include "store/LocaleNumerico.h"
 
@@ -11,13 +12,17 @@
 
 namespace {
 
-// Reads the source, writes the PDF. Returns the exit status.
+// Reads the source, writes the PDF and, beside it, the page for the screen. Returns the exit status.
 int Hacer(const QString& fuente, const QString& pdf) {
     using namespace pastorix::manual;
     QFile fichero(fuente);
     if (!fichero.open(QIODevice::ReadOnly))
         throw ErrorFuente(fichero.errorString().toStdString());
     auto documento = LeerFuente(QString::fromUtf8(fichero.readAll()));
+    QFile pantalla(QString(pdf).replace(QStringLiteral(".pdf"), QStringLiteral(".html")));
+    if (!pantalla.open(QIODevice::WriteOnly) || pantalla.write(PaginaHtml(documento).toUtf8()) < 0 ||
+        !pantalla.flush())
+        throw ErrorFuente(pantalla.fileName().toStdString() + ": " + pantalla.errorString().toStdString());
     QFile salida(pdf);
     if (!salida.open(QIODevice::WriteOnly))
         throw ErrorFuente(pdf.toStdString() + ": " + salida.errorString().toStdString());

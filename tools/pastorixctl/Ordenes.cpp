@@ -1,5 +1,6 @@
 #include "pastorixctl/Ordenes.h"
 
+#include "frame/Entrega.h"
 #include "frame/Rutas.h"
 #include "reports/motor/DisposicionesIncluidas.h"
 #include "reports/motor/Escritura.h"
@@ -46,34 +47,6 @@ void CopiarManual(const QDir& destino) {
                       Ruta(destino.filePath(manual).toStdString()));
 }
 
-void Poner(Conexion& c, const char* tabla, std::initializer_list<std::pair<const char*, Valor>> fila) {
-    Recordset rs(c, std::string("SELECT * FROM ") + tabla);
-    rs.AddNew();
-    for (const auto& [campo, valor] : fila)
-        rs[campo] = valor;
-    rs.Update();
-}
-
-// The people a fresh database cannot do without: the reserved veterinarian, the owner of the common pool of bulls, and the one of
-// bulls that stand on no farm. No central user: nobody can enter as one until the office sets it.
-void Sembrar(const QString& fichero) {
-    Conexion c;
-    c.AbrirFichero(fichero.toStdString(), kClave);
-    EnGrupo(c, [&] {
-        Poner(c, "T_Veterinarios", {{"Id_Veterinario", 1.0}, {"NombreVet", "VALNOR"}, {"Usuario", "VALNOR"}});
-        Poner(c, "T_Ganaderos",
-              {{"Id_Ganadero", 1.0},
-               {"Nombre", "Centro de Inseminación"},
-               {"Apodo", "Toros IA"},
-               {"TorosComun", "Sí"}});
-        Poner(c, "T_Ganaderos",
-              {{"Id_Ganadero", 900.0},
-               {"Nombre", "Otros Toros"},
-               {"Apodo", "Otros Toros"},
-               {"TorosComun", "No"}});
-    });
-}
-
 } // namespace
 
 QString CarpetaDeEntrega() {
@@ -85,23 +58,7 @@ int Crear(const QStringList& argumentos) {
     Cuantos(argumentos, 1);
     const auto carpeta = CarpetaNueva(argumentos[0]);
     CopiarManual(carpeta);
-    const auto principal = carpeta.filePath(QStringLiteral("BD_PradalC.mdb"));
-    const auto personal = carpeta.filePath(QStringLiteral("BD_PradalP.mdb"));
-    const auto toros = carpeta.filePath(QStringLiteral("Toros.mdb"));
-    CrearBase(Ruta(principal.toStdString()), ClaseDeBase::Principal, kClave);
-    CrearBase(Ruta(personal.toStdString()), ClaseDeBase::Principal, kClave);
-    CrearBase(Ruta(toros.toStdString()), ClaseDeBase::Toros, kClave);
-    Sembrar(principal);
-    Sembrar(personal);
-    {
-        Conexion c;
-        c.AbrirFichero(toros.toStdString(), kClave);
-        Poner(c, "T_Ganaderos",
-              {{"Id_Ganadero", 1.0},
-               {"Nombre", "Centro de Inseminación"},
-               {"Apodo", "Toros IA"},
-               {"TorosComun", "Sí"}});
-    }
+    EntregarVacias(carpeta.absolutePath());
     std::cout << "Instalación nueva en " << carpeta.absolutePath().toStdString() << "\n";
     return 0;
 }
@@ -132,15 +89,13 @@ int ClaveCentral(const QStringList& argumentos) {
 
 int Ejemplo(const QStringList& argumentos) {
     Cuantos(argumentos, 1);
-    const QDir origen(CarpetaDeEntrega() + QStringLiteral("/ejemplo"));
-    for (const auto& base : BasesEntregadas())
-        if (!origen.exists(base))
-            throw ErrorDeOrden("No se encuentra el fichero del ejemplo: " +
-                               origen.filePath(base).toStdString());
+    const auto origen = CarpetaDeEntrega() + QStringLiteral("/ejemplo");
+    if (const auto faltan = BasesQueFaltan(origen); !faltan.isEmpty())
+        throw ErrorDeOrden("No se encuentra el fichero del ejemplo: " +
+                           QDir(origen).filePath(faltan.first()).toStdString());
     const auto carpeta = CarpetaNueva(argumentos[0]);
     CopiarManual(carpeta);
-    for (const auto& base : BasesEntregadas())
-        CopiarFichero(Ruta(origen.filePath(base).toStdString()), Ruta(carpeta.filePath(base).toStdString()));
+    EntregarCopias(origen, carpeta.absolutePath());
     std::cout << "Instalación de ejemplo en " << carpeta.absolutePath().toStdString() << "\n";
     return 0;
 }

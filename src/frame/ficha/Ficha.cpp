@@ -1,6 +1,7 @@
 // The record sheet: its window, its modes, and a record on its way to the screen. What changes the database stands in FichaEscritura.cpp.
 #include "frame/ficha/Ficha.h"
 
+#include "frame/Atajos.h"
 #include "frame/Mensajes.h"
 #include "frame/Ultimos.h"
 #include "frame/Ventanas.h"
@@ -12,7 +13,6 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -47,10 +47,9 @@ void Ficha::ConectarBarra() {
     connect((*m_barra)[BarraFicha::Cerrar], &QPushButton::clicked, this, &QDialog::close);
     (*m_barra)[BarraFicha::Cerrar]->setFocusPolicy(Qt::StrongFocus);
     (*m_barra)[BarraFicha::Guardar]->setToolTip(QStringLiteral("Ctrl+S"));
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_S), this), &QShortcut::activated, this,
-            [this] { GuardarLoCercano(); });
-    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Left), this), &QShortcut::activated, this,
-            [this] { VolverAlAnterior(); });
+    PonerAtajo(*this, Qt::CTRL | Qt::Key_S, QStringLiteral("Guardar"), [this] { GuardarLoCercano(); });
+    PonerAtajo(*this, Qt::ALT | Qt::Key_Left, QStringLiteral("Volver al registro anterior"),
+               [this] { VolverAlAnterior(); });
 }
 
 void Ficha::ConectarHoja() {

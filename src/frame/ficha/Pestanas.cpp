@@ -1,6 +1,7 @@
 #include "frame/ficha/Pestanas.h"
 
-#include <QShortcut>
+#include "frame/Atajos.h"
+
 #include <QTabWidget>
 
 namespace pastorix {
@@ -18,16 +19,17 @@ void EntrarEn(QWidget& pagina) {
 void ConectarPestañas(QTabWidget& pestañas) {
     for (int i = 0; i < pestañas.count(); ++i) {
         const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
-        QObject::connect(
-            new QShortcut(tecla, pestañas.window()), &QShortcut::activated, &pestañas, [&pestañas, i] {
-                if (!pestañas.isTabEnabled(i))
-                    return;
-                const auto* foco = pestañas.window()->focusWidget();
-                const bool dentro = (foco && pestañas.isAncestorOf(foco)) || i == pestañas.currentIndex();
-                pestañas.setCurrentIndex(i);
-                if (dentro)
-                    EntrarEn(*pestañas.currentWidget());
-            });
+        PonerAtajo(*pestañas.window(), tecla, QStringLiteral("Pestaña ") + pestañas.tabText(i).trimmed(),
+                   [&pestañas, i] {
+                       if (!pestañas.isTabEnabled(i))
+                           return;
+                       const auto* foco = pestañas.window()->focusWidget();
+                       const bool dentro =
+                           (foco && pestañas.isAncestorOf(foco)) || i == pestañas.currentIndex();
+                       pestañas.setCurrentIndex(i);
+                       if (dentro)
+                           EntrarEn(*pestañas.currentWidget());
+                   });
         pestañas.setTabToolTip(i, QStringLiteral("Ctrl+%1").arg(i + 1));
     }
 }

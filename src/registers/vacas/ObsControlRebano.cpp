@@ -1,5 +1,6 @@
 #include "registers/vacas/ObsControlRebano.h"
 
+#include "frame/Atajos.h"
 #include "frame/Mensajes.h"
 #include "frame/Ventanas.h"
 #include "frame/ficha/CampoMemo.h"
@@ -10,7 +11,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace pastorix {
@@ -48,8 +48,7 @@ ObsControlRebaño::ObsControlRebaño(Conexion& c, double idVaca, QWidget* padre)
     cancelar->setAutoDefault(false);
     connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
     // Enter is a line break in the note.
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return), this), &QShortcut::activated, this,
-            [this] { Aceptar(); });
+    PonerAtajo(*this, Qt::CTRL | Qt::Key_Return, QStringLiteral("Aceptar"), [this] { Aceptar(); });
     aceptar->setToolTip(QStringLiteral("Ctrl+Intro"));
     abajo->addWidget(aceptar);
     abajo->addWidget(cancelar);

@@ -1,4 +1,5 @@
 // The cow's sheet: its layout, and what its controls are bound to.
+#include "frame/Atajos.h"
 #include "frame/ficha/Aspecto.h"
 #include "frame/ficha/Pestanas.h"
 #include "registers/EncabezadoGanadero.h"
@@ -16,7 +17,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -130,11 +130,12 @@ void Vacas::ConectarCiclos(const OrdenesDeVaca& ordenes) {
 }
 
 void Vacas::ConectarTeclas() {
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_E), this), &QShortcut::activated, this,
-            [this] { AbrirObservaciones(); });
-    for (const auto& [pagina, tecla, texto] : {std::tuple{m_cubriciones, Qt::Key_F5, "%1; F5 abre la última"},
-                                               {m_partos, Qt::Key_F8, "%1; F8 abre el último"}}) {
-        connect(new QShortcut(tecla, this), &QShortcut::activated, pagina, &PaginaCiclos::AbrirUltimo);
+    PonerAtajo(*this, Qt::CTRL | Qt::Key_E, QStringLiteral("Observaciones para el control del rebaño"),
+               [this] { AbrirObservaciones(); });
+    for (const auto& [pagina, tecla, texto, que] :
+         {std::tuple{m_cubriciones, Qt::Key_F5, "%1; F5 abre la última", "Abrir su última cubrición"},
+          {m_partos, Qt::Key_F8, "%1; F8 abre el último", "Abrir su último parto"}}) {
+        PonerAtajo(*this, tecla, QString::fromUtf8(que), [pagina = pagina] { pagina->AbrirUltimo(); });
         const int i = m_tab->indexOf(pagina);
         m_tab->setTabToolTip(i, QString::fromUtf8(texto).arg(m_tab->tabToolTip(i)));
     }
