@@ -45,6 +45,8 @@ ElegirCarpeta::ElegirCarpeta(QWidget* padre)
     , m_carpeta(QDir::homePath()) {
     m_unidades->setObjectName(QStringLiteral("Drive1"));
     m_lista->setObjectName(QStringLiteral("Dir1"));
+    m_unidades->setAccessibleName(QStringLiteral("Unidad"));
+    m_lista->setAccessibleName(QStringLiteral("Carpeta"));
     m_lista->setUniformItemSizes(true);
     auto* rotuloUnidad = new QLabel(QStringLiteral("&Unidad:"), this);
     rotuloUnidad->setBuddy(m_unidades);

@@ -33,6 +33,7 @@ PasoGanaderos::PasoGanaderos(Sesion& sesion, const QString& titulo, QWidget* pad
     setWindowTitle(titulo);
     setWindowModality(Qt::WindowModal);
     m_lista->setObjectName(QStringLiteral("lstGanadero"));
+    m_lista->setAccessibleName(QStringLiteral("Ganaderos de baja"));
     m_lista->setUniformItemSizes(true);
     auto* rotulo = new QLabel(QStringLiteral("&Ganadero/s   (Sólo se listan los de baja)"), this);
     rotulo->setBuddy(m_lista);

@@ -98,6 +98,9 @@ QLayout* PanelAvisos::CrearCabecera() {
     auto* cabecera = new QHBoxLayout;
     cabecera->addWidget(titulo);
     cabecera->addWidget(m_resumen, 1);
+    auto* rotulo = new QLabel(QStringLiteral("&De"), this);
+    rotulo->setBuddy(m_ganadero);
+    cabecera->addWidget(rotulo);
     cabecera->addWidget(m_ganadero);
     cabecera->addWidget(cerrar);
     return cabecera;

@@ -95,6 +95,10 @@ QWidget* LineasEditables::CrearEntrada(std::size_t columna) {
         if (alTeclear)
             alTeclear();
     };
+    // Two lists of one page may have columns of one name.
+    auto* control = entrada.Control();
+    control->setAccessibleName(
+        QStringLiteral("%1 (%2)").arg(control->accessibleName(), QString::fromUtf8(m_definicion.nombre)));
     if (entrada.Combo()) {
         connect(entrada.Combo(), &QComboBox::activated, this, tecleado);
         if (entrada.Combo()->isEditable())
@@ -112,7 +116,7 @@ QLayout* LineasEditables::CrearMandos() {
         auto* b = new QToolButton(this);
         b->setIcon(Icono(icono));
         b->setToolTip(texto);
-        b->setAccessibleName(texto);
+        b->setAccessibleName(QStringLiteral("%1: %2").arg(texto, QString::fromUtf8(m_definicion.nombre)));
         b->setAutoRaise(true);
         b->setVisible(visible);
         connect(b, &QToolButton::clicked, this, [this, orden] { (this->*orden)(); });

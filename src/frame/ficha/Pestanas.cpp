@@ -17,6 +17,7 @@ void EntrarEn(QWidget& pagina) {
 } // namespace
 
 void ConectarPestañas(QTabWidget& pestañas) {
+    pestañas.setAccessibleName(QStringLiteral("Pestañas"));
     for (int i = 0; i < pestañas.count(); ++i) {
         const QKeySequence tecla(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
         PonerAtajo(*pestañas.window(), tecla, QStringLiteral("Pestaña ") + pestañas.tabText(i).trimmed(),

@@ -43,6 +43,7 @@ void PaginaMateria::CrearNota() {
                               std::function<void()> orden) {
         auto* b = new QPushButton(Icono(icono), texto, this);
         b->setObjectName(QString::fromUtf8(nombre));
+        b->setAccessibleName(QStringLiteral("%1: %2").arg(texto, QString::fromUtf8(m_hoja.nombre)));
         b->setAutoDefault(false); // Enter belongs to the fields
         connect(b, &QPushButton::clicked, this, std::move(orden));
         return b;

@@ -91,6 +91,8 @@ QWidget* Sementales::CrearObservaciones(QWidget* padre) {
           {"B_CancelarPato", "Cancelar", &Sementales::CancelarPato}}) {
         auto* boton = new QPushButton(QString::fromUtf8(texto), caja);
         boton->setObjectName(QString::fromUtf8(nombre));
+        boton->setAccessibleName(boton->text().section(QLatin1Char(' '), 0, 0) +
+                                 QStringLiteral(" observaciones"));
         boton->setAutoDefault(false);
         connect(boton, &QPushButton::clicked, this, orden);
         botones->addWidget(boton);

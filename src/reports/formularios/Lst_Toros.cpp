@@ -13,6 +13,7 @@ Lst_Toros::Lst_Toros(Sesion& sesion, ControlInforme& control, QWidget* padre)
     ElegirCon(*m_ganadero, false);
     m_ganadero->setToolTip(QStringLiteral("Supr: todos los ganaderos"));
     m_modelo->setObjectName(QStringLiteral("Combo2"));
+    m_modelo->setAccessibleName(QStringLiteral("Modelo del informe"));
     m_modelo->addItems({QStringLiteral("Índices Genéticos"), QStringLiteral("Altas y Bajas")});
     PonerCampo(Campos(), QStringLiteral("Seleccionar &Ganadero"), 0, m_ganadero);
     PonerCampo(Campos(), QStringLiteral("&Modelo del Infome:"), 1, m_modelo);

@@ -180,6 +180,10 @@ void VentanaInforme::CrearBarra() {
     m_zoom = new QComboBox(barra);
     m_zoom->setObjectName(QStringLiteral("Zoom"));
     m_zoom->setAccessibleName(QStringLiteral("Tamaño de la página en la pantalla"));
+    auto* rotulo = new QLabel(m_zoom->accessibleName(),
+                              barra); // for screen readers, to whom a list tells its value only
+    rotulo->setBuddy(m_zoom);
+    rotulo->hide();
     m_zoom->setEditable(true);
     m_zoom->setInsertPolicy(QComboBox::NoInsert);
     m_zoom->setSizeAdjustPolicy(QComboBox::AdjustToContents);
