@@ -170,6 +170,48 @@ private Q_SLOTS:
         QVERIFY(vets.contains(QStringLiteral("31|Nuria Ñáñez|Allande")));
     }
 
+    // However many rows there are, a cow's note stands on her page, and totals never stand without a row above them.
+    void NadaSolo_data() {
+        QTest::addColumn<QString>("fichero");
+        for (const char* fichero : {"ControlRebano.rpt", "COM_PRO.rpt", "COM_REP.rpt", "enfermedades.rpt"})
+            QTest::newRow(fichero) << QString::fromLatin1(fichero);
+    }
+    void NadaSolo() {
+        QFETCH(QString, fichero);
+        const Disposicion layout = Layout(fichero.toUtf8().constData());
+        PeticionInforme peticion;
+        for (const auto& parametro : layout.parametros)
+            peticion.parametros.emplace(parametro.nombre, "2026");
+        std::vector<ejemplo::Fila> filas;
+        for (int n = 1; n <= 45; ++n) {
+            TablasEnMemoria fuente;
+            for (const TablaUsada& tabla : layout.tablas) {
+                std::vector<std::string> columnas;
+                for (const auto& columna : tabla.columnas)
+                    columnas.push_back(columna.nombre);
+                if (tabla.nombre != "X_Temp") {
+                    fuente.Poner(ejemplo::Tabla(tabla.nombre, columnas));
+                    continue;
+                }
+                filas.emplace_back();
+                for (const auto& columna : columnas)
+                    filas.back().emplace_back(columna == "C4"   ? Valor("Vaca" + std::to_string(n))
+                                              : columna == "C5" ? Valor(std::string("2024"))
+                                              : columna == "M1" ? Valor("Nota de " + std::to_string(n))
+                                                                : Valor());
+                fuente.Poner(ejemplo::Tabla("X_Temp", columnas, filas));
+            }
+            for (const Pagina& pagina : GenerarInforme(layout, fuente, peticion).paginas.paginas) {
+                const QString leida = Leida(pagina);
+                const QString nota =
+                    leida.section(QStringLiteral("Nota de "), 1).section(QLatin1Char('|'), 0, 0);
+                QVERIFY2(leida.contains(QStringLiteral("|Vaca") + nota) &&
+                             leida.contains(QStringLiteral("|2024|")),
+                         qUtf8Printable(leida));
+            }
+        }
+    }
+
     // Pages are really drawn, plots included, and in vectors: a page of pixels would be a hundred times as large.
     void Pdf() {
         QTemporaryDir carpeta;
