@@ -212,6 +212,34 @@ private Q_SLOTS:
         }
     }
 
+    // The figure stands above its bar, whatever the bar leaves of the plot.
+    void RotulosDeBarras() {
+        DatosGrafico datos;
+        datos.categorias << QStringLiteral("2026");
+        datos.letra = {QStringLiteral("DejaVu Sans"), 5.4};
+        datos.valores = true;
+        datos.color = 0xFF0000;
+        for (const double valor : {1.0, 5.0, 6.0, 23.0, 24.0, 99.0, 100.0, 417.0, 1499.0}) {
+            datos.series = {{QStringLiteral("Muertos"), datos.color, {valor}}};
+            QImage imagen(524, 112, QImage::Format_RGB32);
+            imagen.fill(Qt::white);
+            {
+                QPainter pintor(&imagen);
+                pintor.scale(4, 4);
+                DibujarGrafico(pintor, {0, 0, 131, 28}, datos);
+            }
+            int lineas =
+                0; // of the figure: they have little ink, those of the bar are full of it, and the axes write at the sides
+            for (int y = 0; y < 90; ++y) {
+                int tinta = 0;
+                for (int x = 130; x < 400; ++x)
+                    tinta += qRed(imagen.pixel(x, y)) > qGreen(imagen.pixel(x, y)) + 60;
+                lineas += tinta > 0 && tinta < 60;
+            }
+            QVERIFY2(lineas >= 4, QByteArray::number(valor));
+        }
+    }
+
     // Pages are really drawn, plots included, and in vectors: a page of pixels would be a hundred times as large.
     void Pdf() {
         QTemporaryDir carpeta;
