@@ -1,4 +1,5 @@
 #include "frame/calendario/Formatos.h"
+#include "reports/figuras/CifrasTecnicas.h"
 #include "reports/figuras/DesteteYCebo.h"
 #include "reports/figuras/Figuras.h"
 #include "reports/figuras/GanaderoDeInforme.h"
@@ -9,21 +10,6 @@
 namespace pastorix {
 
 namespace {
-
-// Calvings of the days, of whatever reference year; twins are one. The conditions on what is grouped by choose the rows before they are grouped,
-// which is the same and far less work.
-double PartosPorFechas(Conexion& c, double g, Fecha desde, Fecha hasta) {
-    return static_cast<double>(
-        Recordset(c,
-                  "SELECT T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto FROM "
-                  "T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE "
-                  "T_Vacas.Id_Ganadero = " +
-                      NumeroSql(g) + " AND T_Partos.N_Parto>=1 AND T_Partos.Fecha_Parto Between " +
-                      FechaSql2(desde) + " And " + FechaSql2(hasta) +
-                      " GROUP BY T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto",
-                  Cursor::Estatico, Bloqueo::SoloLectura)
-            .Contar());
-}
 
 // Dead up to weaning, by the entries that tell it.
 double TernerosMuertosResumen(Conexion& c, double g, double y) {
@@ -47,20 +33,17 @@ double PorcentajePerdida(Conexion& c, double g, double y, double partos) {
 // Null. The percentages of the year's calvings are 0 then.
 void EscribirAño(Conexion& c, Recordset& f, double g, int año, const std::function<void(int)>& avanzar) {
     const double y = año;
-    const auto inicio = FechaDeArgumento(InicioDeAño(y));
-    const auto fin = FechaDeArgumento(FinDeAño(y));
-    const auto dosCifras = FinDeAño(y).substr(6);
     f["C3"] = TextoNumero(y);
     f["C4"] = TextoNumero(VacasMediasPartos(c, g, y));
     avanzar(5);
     const double partos = PartosDelAño(c, g, y);
     f["C5"] = TextoNumero(partos);
     if (const double ventana = PartosEnPeriodo(c, g, InicioDeAño(y), FinDeAño(y), ">=1", y); ventana > 0) {
-        const auto parte = [&](Fecha desde, Fecha hasta) {
-            return TextoNumero(Round(PartosPorFechas(c, g, desde, hasta) * 100 / ventana));
+        const auto parte = [&](const Animales& suyos) {
+            return TextoNumero(Round(static_cast<double>(suyos.size()) * 100 / ventana));
         };
-        f["C6"] = parte(inicio, FechaDeArgumento("1/2/" + dosCifras).UltimoDelMes());
-        f["C15"] = parte(FechaDeArgumento("01/09/" + dosCifras), fin);
+        f["C6"] = parte(PrimerosPartos(c, g, y));
+        f["C15"] = parte(UltimosPartos(c, g, y));
     }
     avanzar(25);
     f["C7"] = TextoNumero(TernerosMuertosResumen(c, g, y));
