@@ -55,8 +55,8 @@ private Q_SLOTS:
     void Muestras_data() {
         QTest::addColumn<QString>("fichero");
         QTest::addColumn<int>("preguntas");
-        QTest::newRow("main") << QStringLiteral("BD_PradalC.mdb") << 2000;
-        QTest::newRow("personal") << QStringLiteral("BD_PradalP.mdb") << 700;
+        QTest::newRow("main") << QStringLiteral("BD_PradalC.mdb") << 5500;
+        QTest::newRow("personal") << QStringLiteral("BD_PradalP.mdb") << 2800;
     }
     // Every figure that can be asked, of every farmer in five years: what is worked out of the listed animals alone is what is printed, and
     // each of them has a cow.

@@ -41,8 +41,9 @@ Respuesta ExplicarCularidad(const Pregunta& p) {
     for (const char* clase : kClasesDeVaca)
         Anexar(p.Detalle(0) == clase ? e.contados : e.fuera, VacasDeCularidad(p.c, p.g, p.y, clase));
     e.titulo = "Cularidad de las vacas: " + p.Detalle(0);
-    e.como = "Vacas de esa clase, por cada 100 de las tres clases. Cuentan las que tienen registros de cubrición "
-             "hasta el año y no se habían ido antes de él.";
+    e.como =
+        "Vacas de esa clase, por cada 100 de las tres clases. Cuentan las que tienen registros de cubrición "
+        "hasta el año y no se habían ido antes de él.";
     e.fechas = "Sin baja hasta el 30/11/" + TextoNumero(p.y - 1) + ".";
     e.rotuloDato = "Clase";
     e.porqueFuera = "Las de las otras dos clases, que están en el divisor:";
@@ -65,7 +66,8 @@ Respuesta ExplicarCularidadAlDestete(const Pregunta& p) {
     e.titulo = "Cularidad al destete: " + clase;
     e.como = std::string(porcentaje ? "Terneros de esa clase, por cada 100 de las tres clases."
                                     : "Terneros de esa clase.") +
-             " Cuentan los vivos al destete, con 120 días o más y más de 500 g diarios, y valen igual con la clase "
+             " Cuentan los vivos al destete, con 120 días o más y más de 500 g diarios, y valen igual con la "
+             "clase "
              "conocida por genotipo (G-).";
     e.fechas = p.Año();
     e.rotuloFecha = "Parto";
@@ -86,7 +88,8 @@ Respuesta ExplicarEpoca(const Pregunta& p) {
     const Periodo periodo{MesDelAño(p.y, primero).desde, MesDelAño(p.y, primero + 2).hasta};
     const Periodo todo{InicioDeAño(p.y), FinDeAño(p.y)};
     Explicacion e;
-    e.titulo = std::string("Partos de ") + (criterio == "=1" ? "novillas" : "vacas") + " por época: " + *epoca;
+    e.titulo =
+        std::string("Partos de ") + (criterio == "=1" ? "novillas" : "vacas") + " por época: " + *epoca;
     e.como = "Esos partos, por cada 100 del año, de vacas y novillas juntas; los gemelos son un parto.";
     e.fechas = "De " + periodo.desde + " a " + periodo.hasta + ".";
     e.rotuloFecha = "Parto";
@@ -117,7 +120,9 @@ Respuesta ExplicarInseminacion(const Pregunta& p) {
 
 Respuesta ExplicarCebo(const Pregunta& p) {
     const std::string que = p.Detalle(0);
-    if (!Esta(std::array{"Machos propios", "Hembras propias", "Comprados", "Muertes", "Total", "PorPartos", "PorVivos", "Resumen"}, que))
+    if (!Esta(std::array{"Machos propios", "Hembras propias", "Comprados", "Muertes", "Total", "PorPartos",
+                         "PorVivos", "Resumen"},
+              que))
         return std::nullopt;
     const auto lista = [&](const char* sexo, const char* origen) {
         return AnimalesCebados(p.c, p.g, p.y, sexo, origen);
@@ -154,11 +159,13 @@ Respuesta ExplicarCebo(const Pregunta& p) {
         return e;
     const bool vivos = que == "PorVivos";
     const double entre = vivos ? TernerosVivos(p.c, p.g, p.y) : PartosDelAño(p.c, p.g, p.y);
-    e.como += std::string(" Por cada 100 ") + (vivos ? "terneros vivos" : "partos") + " del año (" + TextoNumero(entre) + ").";
+    e.como += std::string(" Por cada 100 ") + (vivos ? "terneros vivos" : "partos") + " del año (" +
+              TextoNumero(entre) + ").";
     if (entre == 0)
         e.valor = 0;
     else
-        e.valor = que == "Resumen" ? Round(e.valor / entre * 100) : Val(FormatoNumero(e.valor / entre * 100, "##0"));
+        e.valor = que == "Resumen" ? Round(e.valor / entre * 100)
+                                   : Val(FormatoNumero(e.valor / entre * 100, "##0"));
     return e;
 }
 
@@ -169,7 +176,8 @@ Respuesta ExplicarReparto(const Pregunta& p) {
     Explicacion e;
     e.titulo = "Partos del año: " + p.Detalle(0);
     e.como = "Partos de esos meses, por cada 100 partos del año de referencia; los gemelos son un parto.";
-    e.fechas = std::string(primeros ? "Del 1 de diciembre al final de febrero" : "Del 1 de septiembre al 30 de noviembre") +
+    e.fechas = std::string(primeros ? "Del 1 de diciembre al final de febrero"
+                                    : "Del 1 de septiembre al 30 de noviembre") +
                " del año de referencia " + TextoNumero(p.y) + ".";
     e.rotuloFecha = "Parto";
     e.rotuloDato = "N.º";
@@ -186,13 +194,15 @@ Respuesta ExplicarVacasMedias(const Pregunta& p) {
     e.fechas = "De " + InicioDeAño(p.y) + " a " + FinDeAño(p.y) + ".";
     e.rotuloDato = "Cuenta por";
     if (p.Detalle(0) == "Presentes") {
-        e.como = "Una por cada vaca parida que estuvo todo el año; las que llegaron o se fueron en él, por los días que "
+        e.como = "Una por cada vaca parida que estuvo todo el año; las que llegaron o se fueron en él, por "
+                 "los días que "
                  "estuvieron, entre 365. La suma se redondea.";
         e.contados = VacasParaMediaPresentes(p.c, p.g, p.y);
         e.valor = Val(FormatoNumero(Suma(e.contados), "######0"));
         return e;
     }
-    e.como = "Una por cada vaca que parió en el año o que, parida antes, estuvo todo él; las que se fueron, por los "
+    e.como = "Una por cada vaca que parió en el año o que, parida antes, estuvo todo él; las que se fueron, "
+             "por los "
              "días desde que empezó, entre 365, sumadas y redondeadas.";
     e.rotuloFecha = "Último parto";
     e.contados = VacasParaMediaPorPartos(p.c, p.g, p.y);
@@ -239,8 +249,10 @@ Respuesta ExplicarInventario(const Pregunta& p) {
     const std::string que = p.Detalle(0);
     const bool fin = p.Detalle(1) == "FIN";
     const bool carga = que == "U.G.M.";
-    const auto fecha = fin ? FormatoFecha(FechaDeArgumento(FinDeAño(p.y)).MasDias(1), "dd/mm/yy") : InicioDeAño(p.y);
-    if (!carga && std::none_of(kClases.begin(), kClases.end(), [&](const Clase& c) { return que == c.texto; }))
+    const auto fecha =
+        fin ? FormatoFecha(FechaDeArgumento(FinDeAño(p.y)).MasDias(1), "dd/mm/yy") : InicioDeAño(p.y);
+    if (!carga &&
+        std::none_of(kClases.begin(), kClases.end(), [&](const Clase& c) { return que == c.texto; }))
         return std::nullopt;
     Explicacion e;
     double unidades = 0;
@@ -252,9 +264,11 @@ Respuesta ExplicarInventario(const Pregunta& p) {
         Anexar(e.contados, suyos);
     }
     e.titulo = "Inventario, " + que;
-    e.como = carga ? "Las cabezas de cada clase por lo que cuenta cada una, sumadas y redondeadas. Los terneros mamones no "
+    e.como = carga ? "Las cabezas de cada clase por lo que cuenta cada una, sumadas y redondeadas. Los "
+                     "terneros mamones no "
                      "cuentan."
-                   : "Animales presentes ese día. De recría y mamones se nombra la madre; del cebo, si es de la casa.";
+                   : "Animales presentes ese día. De recría y mamones se nombra la madre; del cebo, si es de "
+                     "la casa.";
     e.fechas = "A " + fecha + ".";
     e.rotuloFecha = "Parto o entrada";
     e.rotuloDato = "Animal";
