@@ -13,6 +13,8 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include <functional>
+
 using namespace pastorix;
 
 namespace {
@@ -25,6 +27,32 @@ InformeTerminado Hacer(const char* fichero, const FuenteDeTablas& fuente, const 
     PeticionInforme peticion;
     peticion.titulo = QString::fromUtf8(titulo);
     return GenerarInforme(Layout(fichero), fuente, peticion);
+}
+
+// So many rows of X_Temp, as `celda` gives them by column and row; the other tables of the layout without any.
+TablasEnMemoria ConFilas(const Disposicion& layout, int filas,
+                         const std::function<Valor(const std::string&, int)>& celda) {
+    TablasEnMemoria fuente;
+    for (const TablaUsada& tabla : layout.tablas) {
+        std::vector<std::string> columnas;
+        for (const auto& columna : tabla.columnas)
+            columnas.push_back(columna.nombre);
+        std::vector<ejemplo::Fila> todas;
+        for (int fila = 1; tabla.nombre == "X_Temp" && fila <= filas; ++fila) {
+            todas.emplace_back();
+            for (const auto& columna : columnas)
+                todas.back().push_back(celda(columna, fila));
+        }
+        fuente.Poner(ejemplo::Tabla(tabla.nombre, columnas, todas));
+    }
+    return fuente;
+}
+
+PeticionInforme ConParametros(const Disposicion& layout) {
+    PeticionInforme peticion;
+    for (const auto& parametro : layout.parametros)
+        peticion.parametros.emplace(parametro.nombre, "2026");
+    return peticion;
 }
 
 // The texts of a page in the order in which they are read: by lines from the top, in a line from the left.
@@ -142,6 +170,23 @@ private Q_SLOTS:
         QCOMPARE(Hacer("IndTecnicos.rpt", fuente, "").paginas.paginas.size(), std::size_t(2));
     }
 
+    // The head of a list names a farmer of a hundred characters whole.
+    void CabezaLarga() {
+        const std::string nombre =
+            "María de la Concepción de los Dolores Fernández-Villamil Álvarez de la Riva y "
+            "Menéndez - San Martín";
+        for (const char* fichero :
+             {"CEBO.rpt", "COM_PRO.rpt", "COM_REP.rpt", "ControlRebano.rpt", "DEMORA.rpt", "HTS_P.rpt",
+              "Hts_R.rpt", "ResumenIT.rpt", "enfermedades.rpt", "rTVacas.rpt", "rVacas.rpt"}) {
+            const Disposicion layout = Layout(fichero);
+            const auto fuente = ConFilas(layout, 1, [&](const std::string& columna, int) {
+                return columna == "C1" ? Valor(nombre) : Valor();
+            });
+            const auto informe = GenerarInforme(layout, fuente, ConParametros(layout));
+            QVERIFY2(Leida(informe.paginas.paginas.at(0)).contains(QString::fromStdString(nombre)), fichero);
+        }
+    }
+
     void SinFilas() {
         QCOMPARE(Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(0), "").paginas.paginas.size(),
                  std::size_t(1));
@@ -179,28 +224,14 @@ private Q_SLOTS:
     void NadaSolo() {
         QFETCH(QString, fichero);
         const Disposicion layout = Layout(fichero.toUtf8().constData());
-        PeticionInforme peticion;
-        for (const auto& parametro : layout.parametros)
-            peticion.parametros.emplace(parametro.nombre, "2026");
-        std::vector<ejemplo::Fila> filas;
+        const PeticionInforme peticion = ConParametros(layout);
         for (int n = 1; n <= 45; ++n) {
-            TablasEnMemoria fuente;
-            for (const TablaUsada& tabla : layout.tablas) {
-                std::vector<std::string> columnas;
-                for (const auto& columna : tabla.columnas)
-                    columnas.push_back(columna.nombre);
-                if (tabla.nombre != "X_Temp") {
-                    fuente.Poner(ejemplo::Tabla(tabla.nombre, columnas));
-                    continue;
-                }
-                filas.emplace_back();
-                for (const auto& columna : columnas)
-                    filas.back().emplace_back(columna == "C4"   ? Valor("Vaca" + std::to_string(n))
-                                              : columna == "C5" ? Valor(std::string("2024"))
-                                              : columna == "M1" ? Valor("Nota de " + std::to_string(n))
-                                                                : Valor());
-                fuente.Poner(ejemplo::Tabla("X_Temp", columnas, filas));
-            }
+            const auto fuente = ConFilas(layout, n, [](const std::string& columna, int fila) {
+                return columna == "C4"   ? Valor("Vaca" + std::to_string(fila))
+                       : columna == "C5" ? Valor(std::string("2024"))
+                       : columna == "M1" ? Valor("Nota de " + std::to_string(fila))
+                                         : Valor();
+            });
             for (const Pagina& pagina : GenerarInforme(layout, fuente, peticion).paginas.paginas) {
                 const QString leida = Leida(pagina);
                 const QString nota =
