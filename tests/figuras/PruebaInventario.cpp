@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(AñosConCubriciones(g.c, 57), std::vector<int>());
     }
 
-    // A line per year in ascending order, only of the years asked for; shares of the window's calvings, whatever their reference year.
+    // A line per year in ascending order, only of the years asked for. C6 and C15 count calvings of any reference year, out of the year's own.
     void Resumen() {
         Granja g;
         for (const int año : {2021, 2020, 2019})
@@ -95,7 +95,7 @@ private Q_SLOTS:
         Animal(g, 1, 2020, "Propio");
         QVERIFY(LlenarResumen(g.c, 12, {2021, 2020}));
         QCOMPARE(g.Texto("SELECT C3, C5, C6, C15, C7, C8, C9, C10, C11, C12, C13, C14 FROM X_Temp"),
-                 std::string("2020|4|33|33|2|0|150|900|25|0|400|62/2021|2|-|-|0|0|150|900|0|0|0|0"));
+                 std::string("2020|4|50|50|2|0|150|900|25|0|400|62/2021|2|-|-|0|0|150|900|0|0|0|0"));
     }
 
     // Without calvings shares are Null and percentages "0"; a year of which the abortions cannot be told stops with the rows before it.

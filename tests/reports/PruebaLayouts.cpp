@@ -13,6 +13,8 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include <functional>
+
 using namespace pastorix;
 
 namespace {
@@ -25,6 +27,32 @@ InformeTerminado Hacer(const char* fichero, const FuenteDeTablas& fuente, const 
     PeticionInforme peticion;
     peticion.titulo = QString::fromUtf8(titulo);
     return GenerarInforme(Layout(fichero), fuente, peticion);
+}
+
+// So many rows of X_Temp, as `celda` gives them by column and row; the other tables of the layout without any.
+TablasEnMemoria ConFilas(const Disposicion& layout, int filas,
+                         const std::function<Valor(const std::string&, int)>& celda) {
+    TablasEnMemoria fuente;
+    for (const TablaUsada& tabla : layout.tablas) {
+        std::vector<std::string> columnas;
+        for (const auto& columna : tabla.columnas)
+            columnas.push_back(columna.nombre);
+        std::vector<ejemplo::Fila> todas;
+        for (int fila = 1; tabla.nombre == "X_Temp" && fila <= filas; ++fila) {
+            todas.emplace_back();
+            for (const auto& columna : columnas)
+                todas.back().push_back(celda(columna, fila));
+        }
+        fuente.Poner(ejemplo::Tabla(tabla.nombre, columnas, todas));
+    }
+    return fuente;
+}
+
+PeticionInforme ConParametros(const Disposicion& layout) {
+    PeticionInforme peticion;
+    for (const auto& parametro : layout.parametros)
+        peticion.parametros.emplace(parametro.nombre, "2026");
+    return peticion;
 }
 
 // The texts of a page in the order in which they are read: by lines from the top, in a line from the left.
@@ -142,6 +170,23 @@ private Q_SLOTS:
         QCOMPARE(Hacer("IndTecnicos.rpt", fuente, "").paginas.paginas.size(), std::size_t(2));
     }
 
+    // The head of a list names a farmer of a hundred characters whole.
+    void CabezaLarga() {
+        const std::string nombre =
+            "María de la Concepción de los Dolores Fernández-Villamil Álvarez de la Riva y "
+            "Menéndez - San Martín";
+        for (const char* fichero :
+             {"CEBO.rpt", "COM_PRO.rpt", "COM_REP.rpt", "ControlRebano.rpt", "DEMORA.rpt", "HTS_P.rpt",
+              "Hts_R.rpt", "ResumenIT.rpt", "enfermedades.rpt", "rTVacas.rpt", "rVacas.rpt"}) {
+            const Disposicion layout = Layout(fichero);
+            const auto fuente = ConFilas(layout, 1, [&](const std::string& columna, int) {
+                return columna == "C1" ? Valor(nombre) : Valor();
+            });
+            const auto informe = GenerarInforme(layout, fuente, ConParametros(layout));
+            QVERIFY2(Leida(informe.paginas.paginas.at(0)).contains(QString::fromStdString(nombre)), fichero);
+        }
+    }
+
     void SinFilas() {
         QCOMPARE(Hacer("IndTecnicos.rpt", ejemplo::IndicesTecnicos(0), "").paginas.paginas.size(),
                  std::size_t(1));
@@ -168,6 +213,62 @@ private Q_SLOTS:
                                               "100|DNI 10345678A|33870 Tineo|609 000 111")),
                  qUtf8Printable(vets));
         QVERIFY(vets.contains(QStringLiteral("31|Nuria Ñáñez|Allande")));
+    }
+
+    // However many rows there are, a cow's note stands on her page, and totals never stand without a row above them.
+    void NadaSolo_data() {
+        QTest::addColumn<QString>("fichero");
+        for (const char* fichero : {"ControlRebano.rpt", "COM_PRO.rpt", "COM_REP.rpt", "enfermedades.rpt"})
+            QTest::newRow(fichero) << QString::fromLatin1(fichero);
+    }
+    void NadaSolo() {
+        QFETCH(QString, fichero);
+        const Disposicion layout = Layout(fichero.toUtf8().constData());
+        const PeticionInforme peticion = ConParametros(layout);
+        for (int n = 1; n <= 45; ++n) {
+            const auto fuente = ConFilas(layout, n, [](const std::string& columna, int fila) {
+                return columna == "C4"   ? Valor("Vaca" + std::to_string(fila))
+                       : columna == "C5" ? Valor(std::string("2024"))
+                       : columna == "M1" ? Valor("Nota de " + std::to_string(fila))
+                                         : Valor();
+            });
+            for (const Pagina& pagina : GenerarInforme(layout, fuente, peticion).paginas.paginas) {
+                const QString leida = Leida(pagina);
+                const QString nota =
+                    leida.section(QStringLiteral("Nota de "), 1).section(QLatin1Char('|'), 0, 0);
+                QVERIFY2(leida.contains(QStringLiteral("|Vaca") + nota) &&
+                             leida.contains(QStringLiteral("|2024|")),
+                         qUtf8Printable(leida));
+            }
+        }
+    }
+
+    // The figure stands above its bar, whatever the bar leaves of the plot.
+    void RotulosDeBarras() {
+        DatosGrafico datos;
+        datos.categorias << QStringLiteral("2026");
+        datos.letra = {QStringLiteral("DejaVu Sans"), 5.4};
+        datos.valores = true;
+        datos.color = 0xFF0000;
+        for (const double valor : {1.0, 5.0, 6.0, 23.0, 24.0, 99.0, 100.0, 417.0, 1499.0}) {
+            datos.series = {{QStringLiteral("Muertos"), datos.color, {valor}}};
+            QImage imagen(524, 112, QImage::Format_RGB32);
+            imagen.fill(Qt::white);
+            {
+                QPainter pintor(&imagen);
+                pintor.scale(4, 4);
+                DibujarGrafico(pintor, {0, 0, 131, 28}, datos);
+            }
+            int lineas =
+                0; // of the figure: they have little ink, those of the bar are full of it, and the axes write at the sides
+            for (int y = 0; y < 90; ++y) {
+                int tinta = 0;
+                for (int x = 130; x < 400; ++x)
+                    tinta += qRed(imagen.pixel(x, y)) > qGreen(imagen.pixel(x, y)) + 60;
+                lineas += tinta > 0 && tinta < 60;
+            }
+            QVERIFY2(lineas >= 4, QByteArray::number(valor));
+        }
     }
 
     // Pages are really drawn, plots included, and in vectors: a page of pixels would be a hundred times as large.

@@ -2,6 +2,8 @@
 
 #include "frame/calendario/Formatos.h"
 #include "reports/figuras/DesteteYCebo.h"
+#include "store/Literales.h"
+#include "store/Recordset.h"
 
 namespace pastorix {
 
@@ -12,6 +14,40 @@ Periodo MesDelAño(double añoRef, std::size_t mes) {
     const auto fin = FinDeAño(añoRef);
     const std::string desde = "1/" + std::to_string(mes) + "/" + fin.substr(fin.size() - 2);
     return {desde, FormatoFecha(FechaDeArgumento(desde).UltimoDelMes(), "dd/mm/yy")};
+}
+
+// The conditions on what is grouped by choose the rows before they are grouped, which is the same and far less work.
+Animales PartosPorFechas(Conexion& c, double g, Fecha desde, Fecha hasta) {
+    Animales partos;
+    for (Recordset rs(
+             c,
+             "SELECT Max(T_Vacas.Id_Vaca) AS Vaca, T_Vacas.Id_Ganadero, T_Partos.N_Parto, "
+             "T_Vacas.Crotal, T_Partos.Fecha_Parto FROM T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca "
+             "= T_Partos.Id_Vaca WHERE T_Vacas.Id_Ganadero = " +
+                 NumeroSql(g) + " AND T_Partos.N_Parto>=1 AND T_Partos.Fecha_Parto Between " +
+                 FechaSql2(desde) + " And " + FechaSql2(hasta) +
+                 " GROUP BY T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, "
+                 "T_Partos.Fecha_Parto",
+             Cursor::Estatico, Bloqueo::SoloLectura);
+         !rs.Eof(); rs.Siguiente())
+        partos.push_back({rs["Vaca"].Numero(),
+                          {},
+                          {},
+                          rs["Fecha_Parto"].Texto(),
+                          rs["N_Parto"].Texto(),
+                          rs["N_Parto"].Numero()});
+    return partos;
+}
+
+Animales PrimerosPartos(Conexion& c, double g, double y) {
+    const auto dosCifras = FinDeAño(y).substr(6);
+    return PartosPorFechas(c, g, FechaDeArgumento(InicioDeAño(y)),
+                           FechaDeArgumento("1/2/" + dosCifras).UltimoDelMes());
+}
+
+Animales UltimosPartos(Conexion& c, double g, double y) {
+    const auto fin = FinDeAño(y);
+    return PartosPorFechas(c, g, FechaDeArgumento("01/09/" + fin.substr(6)), FechaDeArgumento(fin));
 }
 
 Registros MuertosPor(double ganadero, double añoRef, const CondicionConNombre& causa) {

@@ -29,6 +29,14 @@ struct Periodo {
 };
 Periodo MesDelAño(double añoRef, std::size_t mes);
 
+// The four seasons of three months each, from December on.
+inline constexpr std::array<const char*, 4> kEpocasDelAño{"Dic-Feb", "Mar-May", "Jun-Ago", "Sep-Nov"};
+
+// Calvings of the first months, to the end of February, and of the last ones, from September on; of whatever reference year. Twins are one.
+Animales PartosPorFechas(Conexion& c, double ganadero, Fecha desde, Fecha hasta);
+Animales PrimerosPartos(Conexion& c, double ganadero, double añoRef);
+Animales UltimosPartos(Conexion& c, double ganadero, double añoRef);
+
 // Causes of death of calves up to weaning, each with its condition on T_Partos.
 struct CondicionConNombre {
     const char* texto;

@@ -13,10 +13,37 @@ std::int64_t Media(Conexion& c, double ganadero, double añoRef, std::string_vie
     return AEntero(ContarYPromediar(c, Destetados(ganadero, añoRef, criterio, columna)).media);
 }
 
+std::string DeCebo(double ganadero, double añoRef, const std::string& condicion) {
+    return " FROM T_Cebo WHERE Id_Ganadero = " + NumeroSql(ganadero) + " AND AñoRef = " + NumeroSql(añoRef) +
+           " AND " + condicion;
+}
+
+std::string DeSexoYOrigen(std::string_view sexo, std::string_view origen) {
+    return "Sexo = '" + std::string(sexo) + "' AND Origen = '" + std::string(origen) + "'";
+}
+
 double Cebados(Conexion& c, double ganadero, double añoRef, const std::string& condicion) {
-    Recordset rs(c, "SELECT Count(Id_Cebo) AS CuentaTerneros FROM T_Cebo WHERE Id_Ganadero = " +
-                        NumeroSql(ganadero) + " AND AñoRef = " + NumeroSql(añoRef) + " AND " + condicion);
+    Recordset rs(c, "SELECT Count(Id_Cebo) AS CuentaTerneros" + DeCebo(ganadero, añoRef, condicion));
     return rs.Eof() ? 0 : rs[0].Numero();
+}
+
+Animales ListarCebados(Conexion& c, double ganadero, double añoRef, const std::string& condicion) {
+    Animales animales;
+    for (Recordset rs(c,
+                      "SELECT Id_Vaca, Saneamiento, Sexo, Origen, FechaCebo" +
+                          DeCebo(ganadero, añoRef, condicion + " AND Not Id_Cebo is null"),
+                      Cursor::Estatico, Bloqueo::SoloLectura);
+         !rs.Eof(); rs.Siguiente()) {
+        const auto numero = rs["Saneamiento"].Texto();
+        animales.push_back(
+            {rs["Id_Vaca"].Numero(),
+             {},
+             {},
+             rs["FechaCebo"].Texto(),
+             rs["Sexo"].Texto() + ", " + rs["Origen"].Texto() + (numero.empty() ? "" : ", " + numero),
+             1});
+    }
+    return animales;
 }
 
 } // namespace
@@ -60,8 +87,16 @@ std::int64_t GananciaMediaDestete(Conexion& c, double ganadero, double añoRef, 
 
 double TernerosCebados(Conexion& c, double ganadero, double añoRef, std::string_view sexo,
                        std::string_view origen) {
-    return Cebados(c, ganadero, añoRef,
-                   "Sexo = '" + std::string(sexo) + "' AND Origen = '" + std::string(origen) + "'");
+    return Cebados(c, ganadero, añoRef, DeSexoYOrigen(sexo, origen));
+}
+
+Animales AnimalesCebados(Conexion& c, double ganadero, double añoRef, std::string_view sexo,
+                         std::string_view origen) {
+    return ListarCebados(c, ganadero, añoRef, DeSexoYOrigen(sexo, origen));
+}
+
+Animales AnimalesMuertosEnCebo(Conexion& c, double ganadero, double añoRef) {
+    return ListarCebados(c, ganadero, añoRef, "Not CausaMuerte is null");
 }
 
 double TernerosCebados(Conexion& c, double ganadero, double añoRef) {

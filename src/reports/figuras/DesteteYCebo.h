@@ -28,6 +28,10 @@ std::int64_t GananciaMediaDestete(Conexion& c, double ganadero, double añoRef, 
 // Animals of the year in fattening by sex ("Macho", "Hembra") and origin ("Propio", "Comprado PostD").
 double TernerosCebados(Conexion& c, double ganadero, double añoRef, std::string_view sexo,
                        std::string_view origen);
+// The same with where they stand, and those with a cause of death, whatever their origin: each with its mother, if the farm has her.
+Animales AnimalesCebados(Conexion& c, double ganadero, double añoRef, std::string_view sexo,
+                         std::string_view origen);
+Animales AnimalesMuertosEnCebo(Conexion& c, double ganadero, double añoRef);
 // Those of both sexes and both origins.
 double TernerosCebados(Conexion& c, double ganadero, double añoRef);
 

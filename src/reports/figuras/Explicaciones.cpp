@@ -3,42 +3,16 @@
 #include "frame/calendario/Formatos.h"
 #include "reports/figuras/CifrasTecnicas.h"
 #include "reports/figuras/DesteteYCebo.h"
+#include "reports/figuras/Preguntas.h"
 
 #include <algorithm>
 #include <map>
-#include <numeric>
 
 namespace pastorix {
 
 namespace {
 
 constexpr const char* kTodosLosPartos = "Los demás partos del año, que están en el divisor:";
-
-// A key taken apart, and what all explanations say in the same way.
-struct Pregunta {
-    Conexion& c;
-    double g = 0;
-    double y = 0;
-    std::vector<std::string> detalle;
-
-    std::string Detalle(std::size_t i) const { return i < detalle.size() ? detalle[i] : std::string(); }
-    std::string DelAño() const { return "de " + TextoNumero(y); }
-    std::string Año() const {
-        return "Registros del año de referencia " + TextoNumero(y) + " (" + InicioDeAño(y) + " - " +
-               FinDeAño(y) + ").";
-    }
-};
-
-using Respuesta = std::optional<Explicacion>;
-
-double Suma(const Animales& animales) {
-    return std::accumulate(animales.begin(), animales.end(), 0.0,
-                           [](double s, const AnimalContado& a) { return s + a.valor; });
-}
-
-double Cuantos(const Animales& animales) {
-    return static_cast<double>(animales.size());
-}
 
 template <typename T, std::size_t N>
 const T* Buscar(const std::array<T, N>& tabla, const std::string& texto) {
@@ -316,7 +290,15 @@ std::optional<Explicacion> ExplicarFigura(Conexion& c, std::string_view clave) {
         {"Intervalo", Intervalo},
         {"Destete", Destete},
         {"PartosDelAño", TodosLosPartos},
-        {"Abortos", Abortos}};
+        {"Abortos", Abortos},
+        {"Cularidad", ExplicarCularidad},
+        {"CularidadDestete", ExplicarCularidadAlDestete},
+        {"Epoca", ExplicarEpoca},
+        {"Inseminacion", ExplicarInseminacion},
+        {"Inventario", ExplicarInventario},
+        {"Cebo", ExplicarCebo},
+        {"Reparto", ExplicarReparto},
+        {"VacasMedias", ExplicarVacasMedias}};
     const auto clase = clases.find(partes[0]);
     auto e = clase == clases.end() ? std::nullopt : clase->second(p);
     if (e) {

@@ -97,15 +97,14 @@ public:
 
     // Both columns are percentages of all calvings, not of their own column.
     void Estaciones() {
-        constexpr std::array kPeriodos{"Dic-Feb", "Mar-May", "Jun-Ago", "Sep-Nov"};
         double total = 0;
         for (const auto& e : m_estaciones)
             total += e[0] + e[1];
         TablaDeTrabajo tabla(m_c, "X_TempGraph");
-        for (std::size_t i = 0; i < kPeriodos.size(); ++i) {
+        for (std::size_t i = 0; i < kEpocasDelAño.size(); ++i) {
             auto& f = tabla.Fila();
             f["Id_Ganadero"] = m_g;
-            f["Periodo"] = kPeriodos[i];
+            f["Periodo"] = kEpocasDelAño[i];
             f["N1"] = total > 0 ? Porcentaje(m_estaciones[i][0], total) : 0.0;
             f["N2"] = total > 0 ? Porcentaje(m_estaciones[i][1], total) : 0.0;
         }

@@ -1,4 +1,5 @@
 #include "frame/calendario/Formatos.h"
+#include "reports/figuras/CifrasTecnicas.h"
 #include "reports/figuras/DesteteYCebo.h"
 #include "reports/figuras/Figuras.h"
 #include "reports/figuras/GanaderoDeInforme.h"
@@ -6,28 +7,9 @@
 #include "store/Literales.h"
 #include "store/TablaDeTrabajo.h"
 
-#include <algorithm>
-
 namespace pastorix {
 
 namespace {
-
-// Days of the year's calvings from the first day of its window to the last, whatever their reference year; twins are one calving. The conditions
-// on what is grouped by choose the rows before they are grouped, which is the same and far less work.
-std::vector<Fecha> PartosPorFechas(Conexion& c, double g, Fecha desde, Fecha hasta) {
-    std::vector<Fecha> dias;
-    Recordset rs(c,
-                 "SELECT T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto FROM "
-                 "T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE "
-                 "T_Vacas.Id_Ganadero = " +
-                     NumeroSql(g) + " AND T_Partos.N_Parto>=1 AND T_Partos.Fecha_Parto Between " +
-                     FechaSql2(desde) + " And " + FechaSql2(hasta) +
-                     " GROUP BY T_Vacas.Id_Ganadero, T_Partos.N_Parto, T_Vacas.Crotal, T_Partos.Fecha_Parto",
-                 Cursor::Estatico, Bloqueo::SoloLectura);
-    for (; !rs.Eof(); rs.Siguiente())
-        dias.push_back(rs["Fecha_Parto"].FechaValor().value_or(desde));
-    return dias;
-}
 
 // Dead up to weaning, by the entries that tell it.
 double TernerosMuertosResumen(Conexion& c, double g, double y) {
@@ -47,25 +29,21 @@ double PorcentajePerdida(Conexion& c, double g, double y, double partos) {
     return partos == 0 ? 0 : Round((PerdidaPreñezTardia(c, g, y) + TernerosMuertos(c, g, y)) / partos * 100);
 }
 
-// Without calvings in the year's window the shares of its first and last months are Null; the percentages of the year's calvings are 0.
+// The shares of the first and last months are out of the year's own calvings, though they count those of any reference year; without any they are
+// Null. The percentages of the year's calvings are 0 then.
 void EscribirAño(Conexion& c, Recordset& f, double g, int año, const std::function<void(int)>& avanzar) {
     const double y = año;
-    const auto inicio = FechaDeArgumento(InicioDeAño(y));
-    const auto fin = FechaDeArgumento(FinDeAño(y));
-    const auto dosCifras = FinDeAño(y).substr(6);
     f["C3"] = TextoNumero(y);
     f["C4"] = TextoNumero(VacasMediasPartos(c, g, y));
     avanzar(5);
     const double partos = PartosDelAño(c, g, y);
     f["C5"] = TextoNumero(partos);
-    if (const auto ventana = PartosPorFechas(c, g, inicio, fin); !ventana.empty()) {
-        const auto parte = [&](Fecha desde, Fecha hasta) {
-            const auto n = std::count_if(ventana.begin(), ventana.end(),
-                                         [&](Fecha dia) { return desde <= dia && dia <= hasta; });
-            return TextoNumero(Round(static_cast<double>(n) * 100 / static_cast<double>(ventana.size())));
+    if (const double ventana = PartosEnPeriodo(c, g, InicioDeAño(y), FinDeAño(y), ">=1", y); ventana > 0) {
+        const auto parte = [&](const Animales& suyos) {
+            return TextoNumero(Round(static_cast<double>(suyos.size()) * 100 / ventana));
         };
-        f["C6"] = parte(inicio, FechaDeArgumento("1/2/" + dosCifras).UltimoDelMes());
-        f["C15"] = parte(FechaDeArgumento("01/09/" + dosCifras), fin);
+        f["C6"] = parte(PrimerosPartos(c, g, y));
+        f["C15"] = parte(UltimosPartos(c, g, y));
     }
     avanzar(25);
     f["C7"] = TextoNumero(TernerosMuertosResumen(c, g, y));

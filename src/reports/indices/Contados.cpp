@@ -62,7 +62,8 @@ void Nombrar(Conexion& c, double idGanadero, Animales& animales) {
          !rs.Eof(); rs.Siguiente())
         vacas[rs[0].Numero()] = {rs[1].Texto(), rs[2].Texto().empty() ? rs[3].Texto() : rs[2].Texto()};
     for (AnimalContado& animal : animales)
-        std::tie(animal.crotal, animal.nombre) = vacas[animal.vaca];
+        if (animal.vaca != 0)
+            std::tie(animal.crotal, animal.nombre) = vacas[animal.vaca];
 }
 
 } // namespace pastorix

@@ -12,7 +12,7 @@ namespace pastorix {
 
 // A cow, once for each of her records that counts.
 struct AnimalContado {
-    double vaca = 0;
+    double vaca = 0;    // 0: it has none, a bought calf
     std::string crotal; // this and the name by Nombrar
     std::string nombre;
     std::string fecha;
@@ -42,7 +42,7 @@ Animales Listar(Conexion& c, const Registros& registros, const std::string& fech
 // Those of the first list that are not in the second, a part of it that was listed in the same way.
 Animales Resto(const Animales& todos, const Animales& parte);
 
-// Fills ear tags and names of a farmer's cows.
+// Fills ear tags and names of a farmer's cows; animals without a cow stay as they are.
 void Nombrar(Conexion& c, double idGanadero, Animales& animales);
 
 // Where a printed figure comes from.
@@ -50,6 +50,8 @@ struct Explicacion {
     std::string titulo;
     std::string como;   // how it is worked out, in the farmer's words
     std::string fechas; // over which dates
+    std::string rotuloCrotal = "Crotal";
+    std::string rotuloNombre = "Nombre";
     std::string rotuloFecha;
     std::string rotuloDato;
     Animales contados;

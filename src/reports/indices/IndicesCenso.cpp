@@ -98,9 +98,9 @@ double BajasVacasEnPeriodo(Conexion& c, double idGanadero, std::string_view fech
         VacasDeBajaEnPeriodo(c, idGanadero, fechaInicio, fechaFin, añoRef, categoria).size());
 }
 
-double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad) {
+Animales VacasDeCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad) {
     const auto d = FechaSql2(FechaDeArgumento("30/11/" + NumeroSql(añoRef - 1)));
-    double n = 0;
+    Animales vacas;
     for (auto rs = Leer(c, "SELECT T_Vacas.Id_Vaca From T_Vacas WHERE (((T_Vacas.Id_Ganadero)=" +
                                NumeroSql(idGanadero) + ") AND ((T_Vacas.Cularidad)=" + TextoSql(cularidad) +
                                ") AND ((T_Vacas.FechaDesecho) Is Null Or (T_Vacas.FechaDesecho)>" + d + "))");
@@ -111,9 +111,13 @@ double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::st
             Leer(c, "SELECT N_Parto FROM T_Cubriciones WHERE Id_Vaca = " + NumeroSql(rs["Id_Vaca"].Numero()) +
                         " AND Año_Ref <=" + NumeroSql(añoRef));
         if (!filas.Eof())
-            ++n;
+            vacas.push_back({rs["Id_Vaca"].Numero(), {}, {}, {}, std::string(cularidad), 1});
     }
-    return n;
+    return vacas;
+}
+
+double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad) {
+    return static_cast<double>(VacasDeCularidad(c, idGanadero, añoRef, cularidad).size());
 }
 
 double CensoMedioAño(Conexion& c, std::string_view idGanadero, double añoRef) {

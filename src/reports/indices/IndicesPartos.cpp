@@ -62,30 +62,39 @@ double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaIni
         PartosContados(c, idGanadero, fechaInicio, fechaFin, criterioParto, añoRef).size());
 }
 
+Registros RegistrosNacidos(double idGanadero, double añoRef) {
+    return {kVacasPartos + DeGanaderoYAño(idGanadero, añoRef), "T_Partos.N_Parto"};
+}
+
+Registros RegistrosNacidosIA(double idGanadero, double añoRef) {
+    return {
+        " FROM (T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca) LEFT JOIN T_Sementales "
+        "ON T_Partos.Semental = T_Sementales.NombreC" +
+            DeGanaderoYAño(idGanadero, añoRef) + " AND T_Sementales.Id_Ganadero = 1",
+        "T_Vacas.Id_Vaca"};
+}
+
 std::int64_t PorcentajeNacidosIA(Conexion& c, double idGanadero, double añoRef) {
-    const double terneros = Cuenta(c, "SELECT Count(T_Partos.N_Parto) AS NumTer" + std::string(kVacasPartos) +
-                                          DeGanaderoYAño(idGanadero, añoRef));
-    const auto deIA = Leer(c, "SELECT T_Partos.N_Parto FROM (T_Vacas INNER JOIN T_Partos ON T_Vacas.Id_Vaca "
-                              "= T_Partos.Id_Vaca) LEFT "
-                              "JOIN T_Sementales ON T_Partos.Semental = T_Sementales.NombreC" +
-                                  DeGanaderoYAño(idGanadero, añoRef) + " AND T_Sementales.Id_Ganadero = 1");
+    const double terneros = Contar(c, RegistrosNacidos(idGanadero, añoRef));
     if (terneros < 1)
         return 0;
-    return AEntero(Round(static_cast<double>(deIA.Contar()) / terneros * 100.0));
+    return AEntero(Round(Contar(c, RegistrosNacidosIA(idGanadero, añoRef)) / terneros * 100.0));
+}
+
+Registros RegistrosDestetadosPorCularidad(double idGanadero, double añoRef, std::string_view cularidad) {
+    return {
+        " FROM (T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero = T_Vacas.Id_Ganadero) INNER JOIN "
+        "T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE (((T_Ganaderos.Id_Ganadero)=" +
+            NumeroSql(idGanadero) + ") AND ((T_Partos.Año_Ref)=" + NumeroSql(añoRef) +
+            ") AND ((T_Partos.Muere)='No') AND ((T_Partos.GDestete)>500) AND "
+            "((T_Partos.EdadDestete)>=120) AND ((T_Partos.Cularidad)=" +
+            TextoSql(cularidad) + "))",
+        "T_Vacas.Id_Vaca"};
 }
 
 std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoRef,
                                     std::string_view cularidad) {
-    return Leer(c, "SELECT T_Partos.Id_Parto FROM (T_Ganaderos INNER JOIN T_Vacas ON T_Ganaderos.Id_Ganadero "
-                   "= T_Vacas.Id_Ganadero) "
-                   "INNER JOIN T_Partos ON T_Vacas.Id_Vaca = T_Partos.Id_Vaca WHERE "
-                   "(((T_Ganaderos.Id_Ganadero)=" +
-                       NumeroSql(idGanadero) + ") AND ((T_Partos.Año_Ref)=" + NumeroSql(añoRef) +
-                       ") AND ((T_Partos.Muere)='No') AND ((T_Partos.GDestete)>500) AND "
-                       "((T_Partos.EdadDestete)>=120) AND "
-                       "((T_Partos.Cularidad)=" +
-                       TextoSql(cularidad) + "))")
-        .Contar();
+    return AEntero(Contar(c, RegistrosDestetadosPorCularidad(idGanadero, añoRef, cularidad)));
 }
 
 Animales CubricionesParaAbortos(Conexion& c, double idGanadero, double añoRef) {

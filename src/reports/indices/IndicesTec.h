@@ -41,6 +41,7 @@ Animales VacasDeBajaEnPeriodo(Conexion& c, double idGanadero, std::string_view f
                               std::string_view fechaFin, double añoRef, int categoria);
 // Cows of a muscling class with mating records up to the year that had not left by 30 November of the year before.
 double CensoPorCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad);
+Animales VacasDeCularidad(Conexion& c, double idGanadero, double añoRef, std::string_view cularidad);
 
 // Calvings in the period and reference year of the parities that the criterion (">1", "=1", ">=1") picks. Twins are one calving.
 double PartosEnPeriodo(Conexion& c, double idGanadero, std::string_view fechaInicio,
@@ -50,9 +51,13 @@ Animales PartosContados(Conexion& c, double idGanadero, std::string_view fechaIn
                         std::string_view fechaFin, std::string_view criterioParto, double añoRef);
 // Percentage of the year's calves whose sire is a bull of the common pool (of farmer 1), halves to even; 0 without calves.
 std::int64_t PorcentajeNacidosIA(Conexion& c, double idGanadero, double añoRef);
+// The year's calves with a parity, and those of them of such a bull.
+Registros RegistrosNacidos(double idGanadero, double añoRef);
+Registros RegistrosNacidosIA(double idGanadero, double añoRef);
 // Calves of a muscling class that were alive at weaning, at 120 days or older, with more than 500 g a day: the test of all weaning figures.
 std::int64_t DestetadosPorCularidad(Conexion& c, double idGanadero, double añoRef,
                                     std::string_view cularidad);
+Registros RegistrosDestetadosPorCularidad(double idGanadero, double añoRef, std::string_view cularidad);
 // Abortions per cent of the year's records and last year's open ones, as text "###0". ErrorDeEjecucion 11 when there is no record.
 std::string PorcentajeAbortos(Conexion& c, double idGanadero, double añoRef);
 // Those records, each with its year and 1 for an abortion.
@@ -72,8 +77,11 @@ double TernerosVivos(Conexion& c, double idGanadero, double añoRef);
 
 // Mean cows of the year by their last calving; those that left count by days, their sum rounded to a whole cow.
 double VacasMediasPartos(Conexion& c, double idGanadero, double añoRef);
+// Those cows, each with her last calving and what she adds: 1, or the part of a year of one that left.
+Animales VacasParaMediaPorPartos(Conexion& c, double idGanadero, double añoRef);
 // Mean parous cows of the year by days present, for those that came and those that left, rounded to whole cows.
 double VacasMediasPresentes(Conexion& c, double idGanadero, double añoRef);
+Animales VacasParaMediaPresentes(Conexion& c, double idGanadero, double añoRef);
 
 // Counts at a date, as texts. Momento is "INICIO" or "FIN" of the year.
 std::string SementalesAFecha(Conexion& c, double idGanadero, std::string_view fecha);
@@ -87,6 +95,16 @@ std::string CeboAFecha(Conexion& c, double idGanadero, std::string_view fecha, d
                        std::string_view momento);
 std::string TernerosMamonesAFecha(Conexion& c, double idGanadero, std::string_view fecha, double añoRef,
                                   std::string_view momento);
+
+// The animals of these counts, at a date that is no longer moved.
+Animales SementalesPresentes(Conexion& c, double idGanadero, std::string_view fecha);
+Animales HembrasPresentes(Conexion& c, double idGanadero, std::string_view fecha, int categoria,
+                          double añoRef);
+Animales RecriaPresente(Conexion& c, double idGanadero, std::string_view fecha, double añoRef,
+                        std::string_view momento);
+Animales CeboPresente(Conexion& c, double idGanadero, std::string_view fecha);
+Animales MamonesPresentes(Conexion& c, double idGanadero, std::string_view fecha, double añoRef,
+                          std::string_view momento);
 
 // Stocking load in livestock units at the start or the end of the year, "######0": bull 1.5, cow 1, heifer 0.8, replacement calf 0.4,
 // fattening animal 0.6. Any other Momento gives "0".

@@ -79,6 +79,8 @@ Bandas::Medido Bandas::Medir(const Elemento& e, const Contexto* contexto, const 
                 std::max(0.0, static_cast<double>(m.lineas.size()) * m.altoLinea + 2 * m.margen - e.alto);
         return m;
     }
+    if (e.aspecto.encoger > 0)
+        Encoger(m, texto, ancho);
     for (const QString& linea : texto.split(QLatin1Char('\n'))) {
         QString cabe = m_medidor.Recortar(m.letra, linea, ancho);
         // Half a number would be read as another number.
@@ -89,6 +91,17 @@ Bandas::Medido Bandas::Medir(const Elemento& e, const Contexto* contexto, const 
         m.lineas << cabe;
     }
     return m;
+}
+
+// A smaller letter for a line that does not fit, in tenths of a point, no smaller than its layout says.
+void Bandas::Encoger(Medido& m, const QString& linea, double ancho) {
+    Aspecto aspecto = m.elemento->aspecto;
+    const double largo = m_medidor.Ancho(m.letra, linea);
+    if (largo <= ancho || aspecto.tamaño <= aspecto.encoger)
+        return;
+    aspecto.tamaño = std::max(aspecto.encoger, std::floor(aspecto.tamaño * ancho / largo * 10) / 10);
+    m.letra = m_medidor.Indice(aspecto);
+    m.altoLinea = m_medidor.AltoLinea(m.letra);
 }
 
 int Bandas::AñadirFigura(const QString& clave) {

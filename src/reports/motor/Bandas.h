@@ -21,6 +21,7 @@ public:
 private:
     struct Medido;
     Medido Medir(const Elemento& elemento, const Contexto* contexto, const NumeroDePagina& n);
+    void Encoger(Medido& m, const QString& linea, double ancho);
     void PonerTexto(Tira& tira, const Medido& medido, double x, double crece) const;
     void PonerGrafico(Tira& tira, const Medido& medido, double x, const Contexto* contexto);
     int AñadirFigura(const QString& clave);

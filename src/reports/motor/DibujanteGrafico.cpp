@@ -1,5 +1,6 @@
 #include "reports/motor/Dibujante.h"
 
+#include <QFontMetricsF>
 #include <QGraphicsLayout>
 #include <QGraphicsScene>
 #include <QPainter>
@@ -42,6 +43,13 @@ double Mayor(const DatosGrafico& datos) {
     return mayor;
 }
 
+// Height, as a part of the plot's, that the figure on top of a bar takes; a bar that comes nearer to the edge would lose it.
+double ParteDelRotulo(const QFont& fuente, double alto) {
+    const QFontMetricsF medidas(fuente);
+    const double eje = 2 * medidas.height(); // what stands below the bars, roughly
+    return std::clamp(1.5 * medidas.height() / std::max(1.0, alto - eje), 0.0, 0.5);
+}
+
 // Whole steps of 1, 2 or 5 times a power of ten, four to six of them.
 void PonerEscala(QValueAxis& eje, double mayor) {
     double paso = std::pow(10, std::floor(std::log10(std::max(mayor, 1.0) / 4)));
@@ -57,7 +65,7 @@ void PonerEscala(QValueAxis& eje, double mayor) {
     eje.setLabelFormat(QStringLiteral("%.0f"));
 }
 
-QAbstractBarSeries* Barras(const DatosGrafico& datos) {
+QAbstractBarSeries* Barras(const DatosGrafico& datos, const QFont& fuente) {
     QAbstractBarSeries* barras = datos.apilado ? static_cast<QAbstractBarSeries*>(new QStackedBarSeries)
                                                : static_cast<QAbstractBarSeries*>(new QBarSeries);
     for (const DatosGrafico::Serie& serie : datos.series) {
@@ -67,6 +75,7 @@ QAbstractBarSeries* Barras(const DatosGrafico& datos) {
         conjunto->setColor(De(serie.color));
         conjunto->setBorderColor(De(serie.color).darker(150));
         conjunto->setLabelColor(De(datos.color));
+        conjunto->setLabelFont(fuente);
         barras->append(conjunto);
     }
     barras->setBarWidth(datos.apilado ? 0.62 : 0.78);
@@ -91,7 +100,7 @@ void DibujarGrafico(QPainter& pintor, const QRectF& lugar, const DatosGrafico& d
     grafico->setMargins(QMargins(0, 0, 0, 0));
     grafico->layout()->setContentsMargins(0, 0, 0, 0);
 
-    QAbstractBarSeries* barras = Barras(datos);
+    QAbstractBarSeries* barras = Barras(datos, fuente);
     if (datos.valores) {
         barras->setLabelsVisible(true);
         barras->setLabelsPosition(datos.apilado ? QAbstractBarSeries::LabelsCenter
@@ -102,7 +111,9 @@ void DibujarGrafico(QPainter& pintor, const QRectF& lugar, const DatosGrafico& d
     auto* categorias = new QBarCategoryAxis;
     categorias->append(datos.categorias);
     auto* valores = new QValueAxis;
-    PonerEscala(*valores, Mayor(datos));
+    const double libre =
+        datos.valores && !datos.apilado ? ParteDelRotulo(fuente, lugar.height() * UnidadesPorMm) : 0;
+    PonerEscala(*valores, Mayor(datos) / (1 - libre));
     for (QAbstractAxis* eje :
          {static_cast<QAbstractAxis*>(categorias), static_cast<QAbstractAxis*>(valores)}) {
         eje->setLabelsFont(fuente);

@@ -30,7 +30,8 @@ enum Lados : unsigned {
 
 // How a text or a box looks.
 struct Aspecto {
-    double tamaño = 9; // points
+    double tamaño = 9;  // points
+    double encoger = 0; // points down to which a line that does not fit shrinks; 0: not at all
     bool negrita = false;
     bool cursiva = false;
     Color color = 0x000000;

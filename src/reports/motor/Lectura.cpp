@@ -99,6 +99,7 @@ void Lectura::LeerAspecto(Argumentos& a, Aspecto& aspecto) const {
         aspecto = it->second;
     }
     aspecto.tamaño = a.OpcionNumero("tamaño", 3, 72).value_or(aspecto.tamaño);
+    aspecto.encoger = a.OpcionNumero("encoger", 3, 72).value_or(aspecto.encoger);
     aspecto.negrita = (aspecto.negrita || a.Bandera("negrita")) && !a.Bandera("normal");
     aspecto.cursiva = aspecto.cursiva || a.Bandera("cursiva");
     aspecto.ajustar = aspecto.ajustar || a.Bandera("ajustar");

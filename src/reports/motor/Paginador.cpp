@@ -78,9 +78,31 @@ bool Paginador::Cabe(double alto, const Cursor& cursor) const {
     return cursor.y + alto <= m_alto + Holgura;
 }
 
-// Height of what must stay with strip i: the longest run that begins here and fits a page, or the strip and those it goes with.
+// Height of all that hangs on strip i, by runs that stay together and by strips that go with the next one, to its end or beyond `hueco`.
+double Paginador::AltoEncadenado(const Flujo& flujo, std::size_t i, std::size_t rango, double hueco) {
+    double alto = flujo.tiras[i].alto;
+    std::size_t fin = i + 1;
+    const auto tomarHasta = [&](std::size_t hasta) {
+        for (; fin < hasta && alto <= hueco; ++fin)
+            alto += flujo.tiras[fin].alto;
+    };
+    for (std::size_t antes = i; antes < fin && alto <= hueco;) {
+        antes = fin;
+        for (; rango < flujo.juntos.size() && flujo.juntos[rango].inicio < fin; ++rango)
+            tomarHasta(flujo.juntos[rango].fin);
+        if (fin < flujo.tiras.size() && flujo.tiras[fin - 1].conSiguiente && !flujo.tiras[fin].saltoAntes)
+            tomarHasta(fin + 1);
+    }
+    return alto;
+}
+
+// Height of what must stay with strip i: all that hangs on it, or, if no page holds that, the longest run that begins here and fits a page.
 double Paginador::AltoJunto(const Flujo& flujo, std::size_t i, std::size_t& rango) const {
-    const double hueco = m_alto - AltoCabeceras(flujo.tiras[i].cabeceras);
+    const double hueco = m_alto - AltoCabeceras(flujo.tiras[i].cabeceras) + Holgura;
+    while (rango < flujo.juntos.size() && flujo.juntos[rango].inicio < i)
+        ++rango;
+    if (const double todo = AltoEncadenado(flujo, i, rango, hueco); todo <= hueco)
+        return todo;
     const auto altoHasta = [&](std::size_t fin) {
         double alto = 0;
         for (std::size_t k = i; k < fin && alto <= m_alto; ++k)
@@ -90,12 +112,10 @@ double Paginador::AltoJunto(const Flujo& flujo, std::size_t i, std::size_t& rang
     std::size_t fin = i + 1;
     while (fin < flujo.tiras.size() && flujo.tiras[fin - 1].conSiguiente && !flujo.tiras[fin].saltoAntes)
         ++fin;
-    double alto = altoHasta(fin) <= hueco + Holgura ? altoHasta(fin) : flujo.tiras[i].alto;
-    while (rango < flujo.juntos.size() && flujo.juntos[rango].inicio < i)
-        ++rango;
+    double alto = altoHasta(fin) <= hueco ? altoHasta(fin) : flujo.tiras[i].alto;
     for (std::size_t r = rango; r < flujo.juntos.size() && flujo.juntos[r].inicio == i; ++r) {
         const double suyo = altoHasta(flujo.juntos[r].fin);
-        if (suyo <= hueco + Holgura)
+        if (suyo <= hueco)
             alto = std::max(alto, suyo);
     }
     return alto;

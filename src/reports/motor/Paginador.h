@@ -30,6 +30,7 @@ private:
     void PonerTrozos(std::vector<Trozo>&& trozos, const Contexto* contexto, double alto, Cursor& cursor);
     void PaginaNueva(const Tira& tira, Cursor& cursor);
     bool Cabe(double alto, const Cursor& cursor) const;
+    static double AltoEncadenado(const Flujo& flujo, std::size_t i, std::size_t rango, double hueco);
     double AltoJunto(const Flujo& flujo, std::size_t i, std::size_t& rango) const;
 
     double m_alto;

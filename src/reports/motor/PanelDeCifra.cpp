@@ -58,7 +58,8 @@ QTreeWidgetItem* PanelDeCifra::Apartado(const QString& titulo, const Animales& a
     apartado->setFirstColumnSpanned(true);
     for (const AnimalContado& a : animales) {
         auto* fila = new QTreeWidgetItem(apartado, {De(a.crotal), De(a.nombre), De(a.fecha), De(a.dato)});
-        fila->setData(0, VacaDeFila, a.vaca);
+        if (a.vaca != 0)
+            fila->setData(0, VacaDeFila, a.vaca);
         fila->setData(
             0, Qt::AccessibleTextRole,
             QStringList{De(a.crotal), De(a.nombre), De(a.fecha), De(a.dato)}.join(QStringLiteral(", ")));
@@ -76,7 +77,7 @@ void PanelDeCifra::Mostrar(const Explicacion& e, const QString& impreso) {
     m_animales->clear();
     m_animales->setAccessibleName(De(e.titulo));
     m_animales->setHeaderLabels(
-        {QStringLiteral("Crotal"), QStringLiteral("Nombre"), De(e.rotuloFecha), De(e.rotuloDato)});
+        {De(e.rotuloCrotal), De(e.rotuloNombre), De(e.rotuloFecha), De(e.rotuloDato)});
     m_animales->setColumnHidden(2, e.rotuloFecha.empty());
     auto* contados = Apartado(QStringLiteral("Cuentan %1").arg(e.contados.size()), e.contados);
     contados->setExpanded(true);
