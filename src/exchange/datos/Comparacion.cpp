@@ -135,10 +135,10 @@ std::string Cuantos(std::size_t n, const char* uno, const char* varios) {
     return std::to_string(n) + " " + (n == 1 ? uno : varios);
 }
 
-std::optional<Fecha> UltimaDelHistorial(Conexion& c, const std::string& usuario) {
+// `donde` narrows the log down; "" for all of it.
+std::optional<Fecha> UltimaDelHistorial(Conexion& c, const std::string& donde = {}) {
     std::optional<Fecha> ultima;
-    Recordset rs(c, "SELECT Fecha FROM Historial WHERE Equipo = " + TextoSql(usuario), Cursor::Keyset,
-                 Bloqueo::SoloLectura);
+    Recordset rs(c, "SELECT Fecha FROM Historial" + donde, Cursor::Keyset, Bloqueo::SoloLectura);
     for (; !rs.Eof(); rs.Siguiente())
         if (const auto f = rs[0].FechaValor(); f && (!ultima || *f > *ultima))
             ultima = f;
@@ -146,8 +146,9 @@ std::optional<Fecha> UltimaDelHistorial(Conexion& c, const std::string& usuario)
 }
 
 void AvisarDeLaEdad(Conexion& central, Conexion& paquete, const std::string& usuario, Comparacion& c) {
-    const auto aqui = UltimaDelHistorial(central, usuario);
-    const auto alli = UltimaDelHistorial(paquete, usuario);
+    const auto deEl = " WHERE Equipo = " + TextoSql(usuario);
+    const auto aqui = UltimaDelHistorial(central, deEl);
+    const auto alli = UltimaDelHistorial(paquete, deEl);
     if (aqui && alli && *alli < *aqui)
         c.avisos.push_back(
             "El fichero es más antiguo que el que se importó la última vez: su última operación es del " +
@@ -282,16 +283,15 @@ Comparacion CompararReemplazo(Conexion& base, Conexion& paquete) {
         for (const auto& cambio : c.cambios)
             if (cambio.seVan + cambio.cambian > 0 && vistos.insert(cambio.nombre).second)
                 tablas.push_back(cambio.nombre);
-        std::string salida;
-        for (const auto& f : {UltimaDelHistorial(base, "VETERINARIO")})
-            if (f)
-                salida = FormatoFecha(*f, "dd/mm/yyyy hh:nn:ss");
+        const auto ultima = UltimaDelHistorial(base);
         c.avisos.push_back(
             "Lo anotado aquí que no está en el fichero se pierde: " +
             Cuantos(static_cast<std::size_t>(c.seVan), "registro desaparece", "registros desaparecen") +
             " y " + Cuantos(static_cast<std::size_t>(c.cambian), "cambia", "cambian") + " (" +
             Algunos(tablas) + ")" +
-            (salida.empty() ? "" : ". Última operación anotada en el historial: " + salida));
+            (ultima ? ". Última operación anotada en el historial: " +
+                          FormatoFecha(*ultima, "dd/mm/yyyy hh:nn:ss")
+                    : ""));
     }
     return c;
 }
