@@ -192,8 +192,9 @@ bool ImportarDC::Unir() {
             f.Aceptar();
         }))
         return false;
-    return m_respuestas || Preguntar(this, QStringLiteral("Importación de Datos"),
-                                     QStringLiteral("Confirma la Importación de Datos ?"));
+    return m_respuestas ||
+           Preguntar(this, QStringLiteral("Importación de Datos"),
+                     QStringLiteral("Confirma la Importación de Datos ?"), TipoMensaje::Pregunta, true);
 }
 
 // Before anything is written. A package without farmers is told where it always was.

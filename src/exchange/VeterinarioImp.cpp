@@ -1,5 +1,6 @@
 #include "exchange/VeterinarioImp.h"
 
+#include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "store/Ficheros.h"
 
@@ -18,8 +19,6 @@ namespace {
 QString De(const std::string& s) {
     return QString::fromStdString(s);
 }
-
-constexpr const char* kFallo = "Importación Fallida";
 
 } // namespace
 
@@ -85,7 +84,7 @@ void VeterinarioImp::Cargar() {
         }
     } catch (const ErrorAlmacen& e) {
         m_aceptar->setEnabled(false);
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarFallo(this, QStringLiteral("Importación Fallida"), e.Numero(), e);
     }
 }
 
@@ -124,7 +123,7 @@ bool VeterinarioImp::Aceptar() {
             return false;
         RenumerarVeterinario(m_paquete, m_nuevo.id, codigo, usuario);
     } catch (const ErrorAlmacen& e) {
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarErrorInesperado(this, e.Numero(), QString::fromUtf8(e.what()), DetalleDe(e));
         return false;
     }
     m_paquete.Cerrar();

@@ -1,5 +1,6 @@
 #include "exchange/VeterinarioImp1.h"
 
+#include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "frame/Tablas.h"
 #include "frame/Ventanas.h"
@@ -19,7 +20,6 @@ namespace pastorix {
 namespace {
 
 constexpr int kColumnaCentral = 4;
-constexpr const char* kFallo = "Importación Fallida";
 
 QString De(const std::string& s) {
     return QString::fromStdString(s);
@@ -93,7 +93,7 @@ void VeterinarioImp1::Cargar() {
         m_paquete = AbrirDeTrabajo(m_estado.PaqueteImportado);
         m_ganaderos = GanaderosPorCodificar(m_paquete);
     } catch (const ErrorAlmacen& e) {
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarErrorInesperado(this, e.Numero(), QString::fromUtf8(e.what()), DetalleDe(e));
     }
     m_rejilla->setRowCount(static_cast<int>(m_ganaderos.size()));
     for (int fila = 0; fila < m_rejilla->rowCount(); ++fila) {
@@ -144,7 +144,7 @@ bool VeterinarioImp1::Aceptar() {
         }
         RenumerarGanaderos(m_paquete, m_ganaderos);
     } catch (const ErrorAlmacen& e) {
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarErrorInesperado(this, e.Numero(), QString::fromUtf8(e.what()), DetalleDe(e));
         return false;
     }
     m_paquete.Cerrar();
