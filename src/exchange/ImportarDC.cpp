@@ -27,6 +27,7 @@ ImportarDC::ImportarDC(Sesion& sesion, QWidget* padre)
     m_usuarios->setObjectName(QStringLiteral("Cb_E"));
     m_usuarios->setEditable(true);
     m_usuarios->setInsertPolicy(QComboBox::NoInsert);
+    m_usuarios->setCompleter(nullptr); // what is typed is the name, though a longer one begins with it
     Recordset rs(sesion.conexion, "Select * FROM T_Veterinarios ORDER BY Usuario", Cursor::Keyset,
                  Bloqueo::SoloLectura);
     for (; !rs.Eof(); rs.Siguiente())

@@ -521,6 +521,19 @@ private Q_SLOTS:
         QVERIFY(cajas.Tomar()[1].endsWith(
             S("\r\n\r\nNo es posible Realizar la Compactación, salga del Programa y vuelva a intentarlo")));
         QVERIFY(!p.sesion.conexion.Abierta() && p.marco->Peligro().startsWith(S("SIN BASE DE DATOS")));
+        otro.Cerrar(); // whoever tries again has it back, and the sign goes
+        QVERIFY(CompactarEnSesion(p.sesion, p.marco.get()));
+        QVERIFY(p.marco->Peligro().isEmpty());
+        {
+            const prueba::DiscoLleno lleno(4096);
+            QVERIFY(!ExportarA(p, "svaldes"));
+        }
+        QVERIFY(p.marco->Peligro().startsWith(S("SIN BASE DE DATOS")));
+        QVERIFY(QFile::rename(p.sesion.rutas.BasePrincipal(), p.En("otra.mdb")));
+        cajas.Tomar();
+        QVERIFY(!CompactarEnSesion(p.sesion, p.marco.get())); // no file to be compacted
+        const auto caja = cajas.Tomar()[1];
+        QVERIFY(caja.startsWith(S("Atención...|")) && caja.endsWith(S("vuelva a intentarlo")));
     }
 
     void LasRutasYLosNombres() {
@@ -544,6 +557,12 @@ private Q_SLOTS:
         cajas.Responder(false);
         QVERIFY(!f.Aceptar() &&
                 cajas.Tomar()[0].contains(S("El fichero se llama svaldes y el veterinario es elopez")));
+        ImportarDC entrada(p.sesion, p.marco.get());
+        entrada.show();
+        auto* escrito = entrada.findChild<QComboBox*>(S("Cb_E"))->lineEdit();
+        escrito->selectAll();
+        QTest::keyClicks(escrito, S("elo")); // is nobody else, though a longer login begins so
+        QVERIFY2(entrada.Fichero().endsWith(S("elo.mdb")), qPrintable(entrada.Fichero()));
         QVERIFY(f.MarcarUsuario(S("a/b")) && !f.Aceptar());
         QVERIFY(cajas.Tomar()[0].contains(S("nombre de fichero")));
         QVERIFY(QFile::remove(p.sesion.rutas.BasePrincipal()));
