@@ -557,7 +557,11 @@ private Q_SLOTS:
         cajas.Responder(false);
         QVERIFY(!f.Aceptar() &&
                 cajas.Tomar()[0].contains(S("El fichero se llama svaldes y el veterinario es elopez")));
+        GuardarAjusteDeVentana(S("ImportarDC/carpeta"),
+                               {}); // never gone before: the folder of the last route
         ImportarDC entrada(p.sesion, p.marco.get());
+        QVERIFY2(entrada.Fichero().startsWith(QDir::toNativeSeparators(carpeta)),
+                 qPrintable(entrada.Fichero()));
         entrada.show();
         auto* escrito = entrada.findChild<QComboBox*>(S("Cb_E"))->lineEdit();
         escrito->selectAll();
