@@ -524,11 +524,15 @@ private Q_SLOTS:
         otro.Cerrar(); // whoever tries again has it back, and the sign goes
         QVERIFY(CompactarEnSesion(p.sesion, p.marco.get()));
         QVERIFY(p.marco->Peligro().isEmpty());
+        Exportar f(p.sesion, p.marco.get());
+        f.PonerCarpeta(p.lapiz.path());
+        QVERIFY(f.MarcarUsuario(S("svaldes")));
         {
             const prueba::DiscoLleno lleno(4096);
-            QVERIFY(!ExportarA(p, "svaldes"));
+            QVERIFY(!f.Aceptar());
         }
         QVERIFY(p.marco->Peligro().startsWith(S("SIN BASE DE DATOS")));
+        QVERIFY(f.Aceptar() && p.marco->Peligro().isEmpty());
         QVERIFY(QFile::rename(p.sesion.rutas.BasePrincipal(), p.En("otra.mdb")));
         cajas.Tomar();
         QVERIFY(!CompactarEnSesion(p.sesion, p.marco.get())); // no file to be compacted
