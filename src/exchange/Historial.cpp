@@ -82,7 +82,7 @@ Historial::Historial(Sesion& sesion, QWidget* padre)
     todo->addLayout(linea);
     todo->addWidget(m_rejilla, 1);
     todo->addWidget(botones);
-    resize(640, 440);
+    resize(700, 440);
     RecordarVentana(*this);
     Cargar();
 }

@@ -51,6 +51,7 @@ VeterinarioImp::VeterinarioImp(Sesion& sesion, EstadoDeUnion& estado, QWidget* p
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), m_campos[0]));
     m_campos[1]->setMaxLength(25);
     todo->addLayout(campos);
+    setMinimumWidth(420); // the title would not fit
     auto* botones = new QDialogButtonBox(this);
     m_aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::ActionRole);
     m_aceptar->setObjectName(QStringLiteral("B_Aceptar"));

@@ -64,6 +64,9 @@ VeterinarioImp1::VeterinarioImp1(Sesion& sesion, EstadoDeUnion& estado, QWidget*
     m_rejilla->setTabKeyNavigation(false);
     m_rejilla->verticalHeader()->hide();
     m_rejilla->horizontalHeader()->setStretchLastSection(true);
+    constexpr int anchos[] = {80, 130, 130, 180};
+    for (int c = 0; c < kColumnaCentral; ++c)
+        m_rejilla->setColumnWidth(c, anchos[c]);
     auto* todo = new QVBoxLayout(this);
     auto* aviso =
         new QLabel(QStringLiteral("Escriba en la última columna el código que recibe en la central cada "
