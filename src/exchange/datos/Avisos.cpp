@@ -119,12 +119,11 @@ void AvisarDelReemplazo(Conexion& base, Comparacion& c) {
     const auto ultima = UltimaDelHistorial(base);
     c.avisos.push_back(
         "Lo anotado aquí que no está en el fichero se pierde: " +
-        Cuantos(static_cast<std::size_t>(c.seVan), "registro desaparece", "registros desaparecen") +
-        " y " + Cuantos(static_cast<std::size_t>(c.cambian), "cambia", "cambian") + " (" +
-        Algunos(ganaderos) + ")" +
-        (ultima ? ". Última operación anotada en el historial: " +
-                      FormatoFecha(*ultima, "dd/mm/yyyy hh:nn:ss")
-                : ""));
+        Cuantos(static_cast<std::size_t>(c.seVan), "registro desaparece", "registros desaparecen") + " y " +
+        Cuantos(static_cast<std::size_t>(c.cambian), "cambia", "cambian") + " (" + Algunos(ganaderos) + ")" +
+        (ultima
+             ? ". Última operación anotada en el historial: " + FormatoFecha(*ultima, "dd/mm/yyyy hh:nn:ss")
+             : ""));
 }
 
 } // namespace pastorix
