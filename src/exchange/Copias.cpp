@@ -204,6 +204,8 @@ bool CompactarEnSesion(Sesion& sesion, QWidget* padre) {
         AvisarFallo(padre, QStringLiteral("Atención..."), e);
         return false;
     }
+    if (auto* principal = MarcoDe(padre))
+        principal->MostrarPeligro({});
     Avisar(padre, TipoMensaje::Informacion, QStringLiteral("Información..."),
            QStringLiteral("Compactación Finalizada "));
     if (auto* principal = MarcoDe(padre)) {

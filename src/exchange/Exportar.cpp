@@ -76,6 +76,7 @@ bool Exportar::Aceptar() {
     }
     QuitarVolando();
     QuitarOcupado();
+    MostrarPeligro({});
     Avisar(this, TipoMensaje::Informacion, QStringLiteral("Información"),
            QStringLiteral("Proceso Finalizado\r\n\r\nRecuerde Importar los datos a: ") + usuario);
     try {

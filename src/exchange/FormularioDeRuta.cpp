@@ -20,6 +20,14 @@
 
 namespace pastorix {
 
+namespace {
+
+// Settings: the folder of a route, and of the one gone last.
+const auto kCarpeta = QStringLiteral("/carpeta");
+const auto kIntercambio = QStringLiteral("Intercambio");
+
+} // namespace
+
 void ExigirBaseDeLaSesion(const Sesion& sesion) {
     if (sesion.conexion.Fichero() != sesion.origenes.Resolver("dsn=OD_PRADALC").fichero)
         throw ErrorDeIntercambio(
@@ -75,7 +83,9 @@ void FormularioDeRuta::TerminarConstruccion(QWidget* primero) {
     todo->addWidget(rotulo);
     todo->addWidget(m_ruta);
     todo->addWidget(m_botones);
-    if (!m_carpeta->PonerCarpeta(AjusteDeVentana(objectName() + QStringLiteral("/carpeta")).toString()))
+    // A route that is gone for the first time begins where the last one ended: there is mostly one stick.
+    if (!m_carpeta->PonerCarpeta(AjusteDeVentana(objectName() + kCarpeta).toString()) &&
+        !m_carpeta->PonerCarpeta(AjusteDeVentana(kIntercambio + kCarpeta).toString()))
         m_carpeta->PonerCarpeta(QDir::homePath());
     connect(m_carpeta, &ElegirCarpeta::Cambiada, this, &FormularioDeRuta::RecomputarRuta);
     RecomputarRuta();
@@ -217,7 +227,8 @@ void FormularioDeRuta::done(int resultado) {
     QuitarOcupado();
     const auto carpeta = QFileInfo(QDir::fromNativeSeparators(m_ruta->text())).path();
     if (QDir(carpeta).exists())
-        GuardarAjusteDeVentana(objectName() + QStringLiteral("/carpeta"), carpeta);
+        for (const auto& ruta : {objectName(), kIntercambio})
+            GuardarAjusteDeVentana(ruta + kCarpeta, carpeta);
     QDialog::done(resultado);
 }
 

@@ -40,7 +40,8 @@ QString Megas(std::uintmax_t bytes) {
 Historial::Historial(Sesion& sesion, QWidget* padre)
     : QDialog(padre)
     , m_sesion(sesion)
-    , m_rejilla(new QTableWidget(0, 4, this)) {
+    , m_rejilla(new QTableWidget(0, 4, this))
+    , m_buscar(new QLineEdit(this)) {
     setObjectName(QStringLiteral("Historial"));
     setWindowTitle(QStringLiteral("Historial de Transacciones"));
     setWindowModality(Qt::WindowModal);
@@ -53,12 +54,11 @@ Historial::Historial(Sesion& sesion, QWidget* padre)
         m_rejilla->setColumnWidth(
             c, std::max(kAnchos[c] / kTwipsPorPunto,
                         fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 14));
-    auto* buscar = new QLineEdit(this);
-    buscar->setObjectName(QStringLiteral("Buscar"));
-    buscar->setClearButtonEnabled(true);
+    m_buscar->setObjectName(QStringLiteral("Buscar"));
+    m_buscar->setClearButtonEnabled(true);
     auto* rotulo = new QLabel(QStringLiteral("B&uscar:"), this);
-    rotulo->setBuddy(buscar);
-    connect(buscar, &QLineEdit::textChanged, this, &Historial::Filtrar);
+    rotulo->setBuddy(m_buscar);
+    connect(m_buscar, &QLineEdit::textChanged, this, &Historial::Filtrar);
 
     auto* botones = new QDialogButtonBox(this);
     const auto boton = [&](const char* nombre, const QString& texto, auto hacer) {
@@ -78,11 +78,11 @@ Historial::Historial(Sesion& sesion, QWidget* padre)
     auto* todo = new QVBoxLayout(this);
     auto* linea = new QHBoxLayout;
     linea->addWidget(rotulo);
-    linea->addWidget(buscar);
+    linea->addWidget(m_buscar);
     todo->addLayout(linea);
     todo->addWidget(m_rejilla, 1);
     todo->addWidget(botones);
-    resize(640, 440);
+    resize(700, 440);
     RecordarVentana(*this);
     Cargar();
 }
@@ -121,6 +121,7 @@ void Historial::Cargar() {
     }
     if (!m_filas.empty())
         m_rejilla->setCurrentCell(0, 0);
+    Filtrar(m_buscar->text());
 }
 
 void Historial::Filtrar(const QString& texto) {
@@ -145,10 +146,10 @@ void Historial::BorrarBackUp() {
     const auto nueva = c.masNueva ? QStringLiteral("; la copia más nueva es del ") +
                                         Texto(FormatoFecha(*c.masNueva, "dd/mm/yyyy hh:nn"))
                                   : QString();
-    if (!Preguntar(
-            this, QStringLiteral("Confirmación"),
-            QStringLiteral("Confirme Eliminar todo el contenido Backup de Importaciones de Clientes.") +
-                QStringLiteral("\r\n\r\n%1 ficheros, %2%3.").arg(c.ficheros).arg(Megas(c.bytes), nueva)))
+    if (!Preguntar(this, QStringLiteral("Confirmación"),
+                   QStringLiteral("Confirme Eliminar todo el contenido Backup de Importaciones de Clientes."),
+                   TipoMensaje::Pregunta, false, {},
+                   QStringLiteral("%1 ficheros, %2%3.").arg(c.ficheros).arg(Megas(c.bytes), nueva)))
         return;
     setCursor(Qt::WaitCursor);
     try {

@@ -31,6 +31,7 @@ private:
     Sesion& m_sesion;
     std::vector<Transaccion> m_filas;
     QTableWidget* m_rejilla; // Grid
+    QLineEdit* m_buscar;     // hides the lines without its text
 };
 
 // Puts a safety copy in the place of the session's database, which is kept as one more copy; asks before. True when it stands there.

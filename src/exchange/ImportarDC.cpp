@@ -27,6 +27,7 @@ ImportarDC::ImportarDC(Sesion& sesion, QWidget* padre)
     m_usuarios->setObjectName(QStringLiteral("Cb_E"));
     m_usuarios->setEditable(true);
     m_usuarios->setInsertPolicy(QComboBox::NoInsert);
+    m_usuarios->setCompleter(nullptr); // what is typed is the name, though a longer one begins with it
     Recordset rs(sesion.conexion, "Select * FROM T_Veterinarios ORDER BY Usuario", Cursor::Keyset,
                  Bloqueo::SoloLectura);
     for (; !rs.Eof(); rs.Siguiente())
@@ -192,8 +193,9 @@ bool ImportarDC::Unir() {
             f.Aceptar();
         }))
         return false;
-    return m_respuestas || Preguntar(this, QStringLiteral("Importación de Datos"),
-                                     QStringLiteral("Confirma la Importación de Datos ?"));
+    return m_respuestas ||
+           Preguntar(this, QStringLiteral("Importación de Datos"),
+                     QStringLiteral("Confirma la Importación de Datos ?"), TipoMensaje::Pregunta, true);
 }
 
 // Before anything is written. A package without farmers is told where it always was.

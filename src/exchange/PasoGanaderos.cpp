@@ -93,7 +93,8 @@ bool PasoGanaderos::Aceptar() {
         return false;
     }
     if (!Preguntar(this, QStringLiteral(" Confirmación"),
-                   QStringLiteral("Confirme el Paso de Datos del Ganadero: ") + Texto(elegido->nombre)))
+                   QStringLiteral("Confirme el Paso de Datos del Ganadero: ") + Texto(elegido->nombre),
+                   TipoMensaje::Pregunta, true))
         return false;
     const auto destino = Destino();
     if (!QFileInfo(destino).isFile()) {

@@ -48,6 +48,8 @@ VerCambios::VerCambios(Comparacion comparacion, QWidget* padre)
     m_fila->setHorizontalHeaderLabels(
         {QStringLiteral("Campo"), QStringLiteral("Ahora"), QStringLiteral("Después")});
     VestirTabla(*m_fila);
+    m_fila->setColumnWidth(0, 150);
+    m_fila->setColumnWidth(1, 270);
 
     auto* avisos = new QPlainTextEdit(this);
     avisos->setObjectName(QStringLiteral("Avisos"));
@@ -95,6 +97,7 @@ void VerCambios::Llenar() {
                                                      QString::number(c.seVan), QString::number(c.cambian)});
         for (std::size_t f = 0; f < c.filas.size() && f < kFilasPorTabla; ++f) {
             auto* fila = new QTreeWidgetItem(tabla, {De(Texto(c, c.filas[f]))});
+            fila->setFirstColumnSpanned(true); // it has no figures, and much to tell
             fila->setData(0, kCambio, QVariant::fromValue<qulonglong>(i));
             fila->setData(0, kFila, QVariant::fromValue<qulonglong>(f));
         }

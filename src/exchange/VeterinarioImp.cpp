@@ -1,5 +1,6 @@
 #include "exchange/VeterinarioImp.h"
 
+#include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "store/Ficheros.h"
 
@@ -18,8 +19,6 @@ namespace {
 QString De(const std::string& s) {
     return QString::fromStdString(s);
 }
-
-constexpr const char* kFallo = "Importación Fallida";
 
 } // namespace
 
@@ -52,6 +51,7 @@ VeterinarioImp::VeterinarioImp(Sesion& sesion, EstadoDeUnion& estado, QWidget* p
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), m_campos[0]));
     m_campos[1]->setMaxLength(25);
     todo->addLayout(campos);
+    setMinimumWidth(420); // the title would not fit
     auto* botones = new QDialogButtonBox(this);
     m_aceptar = botones->addButton(QStringLiteral("&Aceptar"), QDialogButtonBox::ActionRole);
     m_aceptar->setObjectName(QStringLiteral("B_Aceptar"));
@@ -85,7 +85,7 @@ void VeterinarioImp::Cargar() {
         }
     } catch (const ErrorAlmacen& e) {
         m_aceptar->setEnabled(false);
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarFallo(this, QStringLiteral("Importación Fallida"), e.Numero(), e);
     }
 }
 
@@ -124,7 +124,7 @@ bool VeterinarioImp::Aceptar() {
             return false;
         RenumerarVeterinario(m_paquete, m_nuevo.id, codigo, usuario);
     } catch (const ErrorAlmacen& e) {
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarErrorInesperado(this, e.Numero(), QString::fromUtf8(e.what()), DetalleDe(e));
         return false;
     }
     m_paquete.Cerrar();

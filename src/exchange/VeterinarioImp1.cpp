@@ -1,5 +1,6 @@
 #include "exchange/VeterinarioImp1.h"
 
+#include "frame/ErrorInesperado.h"
 #include "frame/Mensajes.h"
 #include "frame/Tablas.h"
 #include "frame/Ventanas.h"
@@ -19,7 +20,6 @@ namespace pastorix {
 namespace {
 
 constexpr int kColumnaCentral = 4;
-constexpr const char* kFallo = "Importación Fallida";
 
 QString De(const std::string& s) {
     return QString::fromStdString(s);
@@ -64,6 +64,9 @@ VeterinarioImp1::VeterinarioImp1(Sesion& sesion, EstadoDeUnion& estado, QWidget*
     m_rejilla->setTabKeyNavigation(false);
     m_rejilla->verticalHeader()->hide();
     m_rejilla->horizontalHeader()->setStretchLastSection(true);
+    constexpr int anchos[] = {80, 130, 130, 180};
+    for (int c = 0; c < kColumnaCentral; ++c)
+        m_rejilla->setColumnWidth(c, anchos[c]);
     auto* todo = new QVBoxLayout(this);
     auto* aviso =
         new QLabel(QStringLiteral("Escriba en la última columna el código que recibe en la central cada "
@@ -93,7 +96,7 @@ void VeterinarioImp1::Cargar() {
         m_paquete = AbrirDeTrabajo(m_estado.PaqueteImportado);
         m_ganaderos = GanaderosPorCodificar(m_paquete);
     } catch (const ErrorAlmacen& e) {
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarErrorInesperado(this, e.Numero(), QString::fromUtf8(e.what()), DetalleDe(e));
     }
     m_rejilla->setRowCount(static_cast<int>(m_ganaderos.size()));
     for (int fila = 0; fila < m_rejilla->rowCount(); ++fila) {
@@ -144,7 +147,7 @@ bool VeterinarioImp1::Aceptar() {
         }
         RenumerarGanaderos(m_paquete, m_ganaderos);
     } catch (const ErrorAlmacen& e) {
-        AvisarFallo(this, QString::fromUtf8(kFallo), e.Numero(), e);
+        AvisarErrorInesperado(this, e.Numero(), QString::fromUtf8(e.what()), DetalleDe(e));
         return false;
     }
     m_paquete.Cerrar();

@@ -109,8 +109,9 @@ void AvisarFallo(QWidget* padre, const QString& titulo, long numero, const std::
 }
 
 bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto, TipoMensaje tipo,
-               bool porDefectoSi, const QString& detalle) {
-    const Mensaje mensaje{Mensaje::Clase::Pregunta, tipo, titulo, texto, {}, detalle, {}, {}};
+               bool porDefectoSi, const QString& detalle, const QString& causa) {
+    const Mensaje mensaje{
+        Mensaje::Clase::Pregunta, tipo, titulo, texto, causa, detalle, {}, {}, porDefectoSi};
     if (Respuesta respuesta; Responder(mensaje, respuesta))
         return respuesta.si;
     QMessageBox caja(padre);

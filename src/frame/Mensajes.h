@@ -23,10 +23,11 @@ struct Mensaje {
     TipoMensaje tipo = TipoMensaje::Informacion;
     QString titulo;
     QString texto;
-    QString causa;     // stands below the text, where a fixed text does not tell it
-    QString detalle;   // for a technician; the box shows it on demand
-    QString propuesta; // FicheroGuardar: proposed path
-    QString filtro;    // FicheroGuardar: "Documento PDF (*.pdf)"
+    QString causa;             // stands below the text, where a fixed text does not tell it
+    QString detalle;           // for a technician; the box shows it on demand
+    QString propuesta;         // FicheroGuardar: proposed path
+    QString filtro;            // FicheroGuardar: "Documento PDF (*.pdf)"
+    bool porDefectoSi = false; // Pregunta: what Enter gives
 };
 
 // What becomes of changes that nobody has saved.
@@ -54,10 +55,10 @@ void AvisarFallo(QWidget* padre, const QString& titulo, long numero, const std::
 // What a failure keeps for a technician; "" when it has nothing.
 QString DetalleDe(const std::exception& error);
 
-// A box with Sí and No; true on Sí. No is the default button and what Escape gives, unless porDefectoSi.
+// A box with Sí and No; true on Sí. No is what Escape gives, and the default button unless porDefectoSi.
 bool Preguntar(QWidget* padre, const QString& titulo, const QString& texto,
                TipoMensaje tipo = TipoMensaje::Pregunta, bool porDefectoSi = false,
-               const QString& detalle = {});
+               const QString& detalle = {}, const QString& causa = {});
 
 // A box with Guardar, Descartar and Cancelar, the last being what Escape gives.
 AntesDeDejar PreguntarGuardar(QWidget* padre, const QString& texto);

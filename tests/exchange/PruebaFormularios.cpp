@@ -310,6 +310,10 @@ private Q_SLOTS:
             QCOMPARE(f.findChild<QLabel*>(S("Label1(4)"))->text(), S("Nombre: Ángeles Muñiz"));
             QCOMPARE(f.findChild<QLabel*>(S("Label1(5)"))->text(), S("Código: 2"));
             QTest::keyClicks(f.findChild<QLineEdit*>(S("Ct_Est(0)")), S("7a"));
+            QTest::keyClicks(f.findChild<QLineEdit*>(S("Ct_Est(1)")), S("d'Eva")); // fails in the statement
+            f.findChild<QPushButton*>(S("B_Aceptar"))->click();
+            QVERIFY(cajas.Tomar()[0].startsWith(S(" Error inesperado|")));
+            f.findChild<QLineEdit*>(S("Ct_Est(1)"))->clear();
             QTest::keyClicks(f.findChild<QLineEdit*>(S("Ct_Est(1)")), S("nueva"));
             f.findChild<QPushButton*>(S("B_Aceptar"))->click();
             QCOMPARE(estado.ResultadoImportacion, std::uint8_t(0));
@@ -331,6 +335,14 @@ private Q_SLOTS:
         }
         QCOMPARE(Filas(paquete.c, "SELECT Id_Ganadero, Id_Veterinario FROM T_Ganaderos ORDER BY Id_Ganadero"),
                  std::string("1|7/702|7"));
+        { // teats of a cow that is gone stand in the way of the new key
+            Sql(paquete.c, "INSERT INTO T_Ganaderos (Id_Ganadero, TorosComun) VALUES (3, 'No'); INSERT INTO "
+                           "T_Vacas (Id_Vaca, Id_Ganadero) VALUES (3001, 3); INSERT INTO T_Mamitis (Id_Vaca, "
+                           "Id_Teto) VALUES (3001, 1), (703001, 1)");
+            VeterinarioImp1 f(p.sesion, estado);
+            QVERIFY(f.Poner(S("3"), S("703")) && !f.Aceptar());
+            QVERIFY(cajas.Tomar()[0].startsWith(S(" Error inesperado|")));
+        }
         for (const char* veterinarios :
              {"DELETE FROM T_Veterinarios", "INSERT INTO T_Veterinarios (NombreVet) VALUES ('a'), ('b')"}) {
             Sql(paquete.c, veterinarios);
@@ -387,8 +399,10 @@ private Q_SLOTS:
         QCOMPARE(lista->item(1)->checkState(), Qt::Unchecked);
         cajas.Responder(false);
         QVERIFY(!f.Aceptar());
-        QCOMPARE(cajas.Tomar(),
-                 (QStringList{S(" Confirmación|Confirme el Paso de Datos del Ganadero: José Riesgo")}));
+        const auto pregunta = cajas.Vistas();
+        QVERIFY(pregunta.size() == 1 && pregunta[0].titulo == S(" Confirmación") &&
+                pregunta[0].texto == S("Confirme el Paso de Datos del Ganadero: José Riesgo") &&
+                pregunta[0].porDefectoSi);
         cajas.Responder(true);
         QVERIFY(f.Aceptar());
         const auto vistas = cajas.Tomar();
@@ -420,9 +434,22 @@ private Q_SLOTS:
             QVERIFY(rejilla->isRowHidden(0) && !rejilla->isRowHidden(57));
             cajas.Responder(false);
             f.BorrarBackUp();
-            QVERIFY(cajas.Tomar()[0].startsWith(S("Confirmación|Confirme Eliminar todo el contenido Backup "
-                                                  "de Importaciones de Clientes.\r\n\r\n0 ficheros")));
+            const auto pregunta = cajas.Vistas();
+            QCOMPARE(pregunta[0].texto,
+                     S("Confirme Eliminar todo el contenido Backup de Importaciones de Clientes."));
+            QVERIFY(pregunta[0].titulo == S("Confirmación") && !pregunta[0].porDefectoSi &&
+                    pregunta[0].causa.startsWith(S("0 ficheros")));
+            Sql(p.sesion.conexion, "DELETE FROM Historial WHERE Operacion <> 'op7' AND Operacion <> 'op42'");
+            QVERIFY(QDir(p.En("BackUp")).removeRecursively());
+            Escribir(p.En("BackUp")); // no room for the text: the rows stay
+            cajas.Responder(true);
+            f.Vaciar();
+            QCOMPARE(cajas.Tomar()[0], S("Confirmar|Confirmar Eliminar Historial de Transacciones"));
+            QVERIFY(rejilla->rowCount() == 2 && !rejilla->isRowHidden(0) && rejilla->isRowHidden(1));
+            QVERIFY(QFile::remove(p.En("BackUp")));
         }
+        for (int i = 0; i < 98; ++i)
+            EscribirHistorial(p.sesion.conexion, "elopez", Fecha{46000 + i, 60}, "op" + std::to_string(i));
         EscribirHistorial(p.sesion.conexion, "elopez", Fecha{46200, 60}, "op100");
         Historial f(p.sesion, p.marco.get());
         QCOMPARE(cajas.Tomar(), (QStringList{S("Atención|Es necesario eliminar el registro Historial")}));
@@ -494,6 +521,23 @@ private Q_SLOTS:
         QVERIFY(cajas.Tomar()[1].endsWith(
             S("\r\n\r\nNo es posible Realizar la Compactación, salga del Programa y vuelva a intentarlo")));
         QVERIFY(!p.sesion.conexion.Abierta() && p.marco->Peligro().startsWith(S("SIN BASE DE DATOS")));
+        otro.Cerrar(); // whoever tries again has it back, and the sign goes
+        QVERIFY(CompactarEnSesion(p.sesion, p.marco.get()));
+        QVERIFY(p.marco->Peligro().isEmpty());
+        Exportar f(p.sesion, p.marco.get());
+        f.PonerCarpeta(p.lapiz.path());
+        QVERIFY(f.MarcarUsuario(S("svaldes")));
+        {
+            const prueba::DiscoLleno lleno(4096);
+            QVERIFY(!f.Aceptar());
+        }
+        QVERIFY(p.marco->Peligro().startsWith(S("SIN BASE DE DATOS")));
+        QVERIFY(f.Aceptar() && p.marco->Peligro().isEmpty());
+        QVERIFY(QFile::rename(p.sesion.rutas.BasePrincipal(), p.En("otra.mdb")));
+        cajas.Tomar();
+        QVERIFY(!CompactarEnSesion(p.sesion, p.marco.get())); // no file to be compacted
+        const auto caja = cajas.Tomar()[1];
+        QVERIFY(caja.startsWith(S("Atención...|")) && caja.endsWith(S("vuelva a intentarlo")));
     }
 
     void LasRutasYLosNombres() {
@@ -517,6 +561,16 @@ private Q_SLOTS:
         cajas.Responder(false);
         QVERIFY(!f.Aceptar() &&
                 cajas.Tomar()[0].contains(S("El fichero se llama svaldes y el veterinario es elopez")));
+        GuardarAjusteDeVentana(S("ImportarDC/carpeta"),
+                               {}); // never gone before: the folder of the last route
+        ImportarDC entrada(p.sesion, p.marco.get());
+        QVERIFY2(entrada.Fichero().startsWith(QDir::toNativeSeparators(carpeta)),
+                 qPrintable(entrada.Fichero()));
+        entrada.show();
+        auto* escrito = entrada.findChild<QComboBox*>(S("Cb_E"))->lineEdit();
+        escrito->selectAll();
+        QTest::keyClicks(escrito, S("elo")); // is nobody else, though a longer login begins so
+        QVERIFY2(entrada.Fichero().endsWith(S("elo.mdb")), qPrintable(entrada.Fichero()));
         QVERIFY(f.MarcarUsuario(S("a/b")) && !f.Aceptar());
         QVERIFY(cajas.Tomar()[0].contains(S("nombre de fichero")));
         QVERIFY(QFile::remove(p.sesion.rutas.BasePrincipal()));

@@ -277,6 +277,7 @@ private Q_SLOTS:
         QVERIFY(hay("    T_Cebo 2: viene"));
         const auto todo = CompararReemplazo(central.c, p.c);
         QVERIFY(todo.seVan > 5 && todo.avisos.size() == 1);
+        QVERIFY(todo.avisos[0].ends_with("historial: 20/11/2026 10:00:00")); // whoever wrote it
         QVERIFY(CompararReemplazo(p.c, p.c).avisos.empty());
     }
 

@@ -33,9 +33,16 @@ fs::path PonerBase(const fs::path& base, const fs::path& nueva, const LugarDeCop
 }
 
 Compactacion Compactar(const fs::path& base, const LugarDeCopia& copia) {
-    Compactacion r{fs::file_size(base), 0};
+    const auto medir = [&] {
+        std::error_code error;
+        const auto bytes = fs::file_size(base, error);
+        if (error)
+            FallarFichero("No se puede leer", base, error);
+        return bytes;
+    };
+    Compactacion r{medir(), 0};
     CompactarEnSuSitio(base, copia);
-    r.despues = fs::file_size(base);
+    r.despues = medir();
     return r;
 }
 

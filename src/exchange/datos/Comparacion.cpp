@@ -1,5 +1,6 @@
 #include "exchange/datos/Comparacion.h"
 
+#include "exchange/datos/Avisos.h"
 #include "exchange/datos/CatalogoDeToros.h"
 #include "exchange/datos/Choques.h"
 #include "exchange/datos/FundirPaquete.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 #include <unordered_map>
 
 namespace pastorix {
@@ -131,97 +131,10 @@ void Ordenar(Comparacion& c) {
     });
 }
 
-std::string Cuantos(std::size_t n, const char* uno, const char* varios) {
-    return std::to_string(n) + " " + (n == 1 ? uno : varios);
-}
-
-std::optional<Fecha> UltimaDelHistorial(Conexion& c, const std::string& usuario) {
-    std::optional<Fecha> ultima;
-    Recordset rs(c, "SELECT Fecha FROM Historial WHERE Equipo = " + TextoSql(usuario), Cursor::Keyset,
-                 Bloqueo::SoloLectura);
-    for (; !rs.Eof(); rs.Siguiente())
-        if (const auto f = rs[0].FechaValor(); f && (!ultima || *f > *ultima))
-            ultima = f;
-    return ultima;
-}
-
-void AvisarDeLaEdad(Conexion& central, Conexion& paquete, const std::string& usuario, Comparacion& c) {
-    const auto aqui = UltimaDelHistorial(central, usuario);
-    const auto alli = UltimaDelHistorial(paquete, usuario);
-    if (aqui && alli && *alli < *aqui)
-        c.avisos.push_back(
-            "El fichero es más antiguo que el que se importó la última vez: su última operación es del " +
-            FormatoFecha(*alli, "dd/mm/yyyy hh:nn:ss") + ", y la de aquel, del " +
-            FormatoFecha(*aqui, "dd/mm/yyyy hh:nn:ss"));
-}
-
-void AvisarDeLosQueFaltan(Conexion& central, const std::string& usuario, const Codigos& suyos,
-                          Comparacion& c) {
-    const auto id = ValorDeCampo(central, "SELECT Id_Veterinario FROM T_Veterinarios WHERE Usuario = " +
-                                              TextoSql(usuario));
-    double numero = 0;
-    if (!NumeroDeTexto(id, numero))
-        return;
-    std::vector<std::string> faltan;
-    Recordset rs(central,
-                 "SELECT Id_Ganadero, Nombre, Apellidos FROM T_Ganaderos WHERE TorosComun = 'No' AND "
-                 "Id_Veterinario = " +
-                     NumeroSql(numero) + " ORDER BY Nombre, Apellidos",
-                 Cursor::Keyset, Bloqueo::SoloLectura);
-    for (; !rs.Eof(); rs.Siguiente())
-        if (!suyos.contains(rs[0].Numero()))
-            faltan.push_back(rs[1].Texto() + " " + rs[2].Texto());
-    if (!faltan.empty())
-        c.avisos.push_back("No vienen en el fichero, y se quedan como están: " + Algunos(faltan));
-}
-
-std::string Desaparecen(const std::vector<std::string>& que, const char* uno, const char* varios) {
-    const bool solo = que.size() == 1;
-    return (solo ? "Desaparece " : "Desaparecen ") + Cuantos(que.size(), uno, varios) +
-           (solo ? " que aquí está y en el fichero no: " : " que aquí están y en el fichero no: ") +
-           Algunos(que);
-}
-
-// Cows that the centre has and the package has not, and calvings of those that it has.
-void AvisarDeLoPerdido(Conexion& central, Conexion& paquete, const Codigos& suyos, Comparacion& c) {
-    const auto vacasAlli = DeConsulta(paquete, "SELECT Id_Vaca FROM T_Vacas", "Id_Vaca");
-    std::vector<std::string> vacas;
-    Codigos aqui;
-    Recordset rs(central, "SELECT Id_Vaca, Id_Ganadero, NombreC FROM T_Vacas ORDER BY Id_Vaca",
-                 Cursor::Keyset, Bloqueo::SoloLectura);
-    for (; !rs.Eof(); rs.Siguiente()) {
-        if (!suyos.contains(rs[1].Numero()))
-            continue;
-        if (vacasAlli.contains(rs[0].Numero()))
-            aqui.insert(rs[0].Numero());
-        else
-            vacas.push_back(rs[2].Texto() + " (" + rs[0].Texto() + ")");
-    }
-    if (!vacas.empty())
-        c.avisos.push_back(Desaparecen(vacas, "vaca", "vacas"));
-    const auto cuenta = [&](Conexion& base) {
-        std::map<std::pair<double, double>, long> n; // cow and parity -> calvings
-        Recordset p(base, "SELECT Id_Vaca, N_Parto FROM T_Partos", Cursor::Keyset, Bloqueo::SoloLectura);
-        for (; !p.Eof(); p.Siguiente())
-            if (aqui.contains(p[0].Numero()))
-                ++n[{p[0].Numero(), p[1].Numero()}];
-        return n;
-    };
-    const auto alli = cuenta(paquete);
-    std::vector<std::string> partos;
-    for (const auto& [clave, n] : cuenta(central))
-        if (const auto it = alli.find(clave); it == alli.end() || it->second < n)
-            partos.push_back("vaca " + NumeroSql(clave.first) + ", nº " + NumeroSql(clave.second));
-    if (!partos.empty())
-        c.avisos.push_back(Desaparecen(partos, "parto", "partos"));
-}
-
 Comparacion Comprobar(Conexion& central, Conexion& paquete, const std::string& usuario,
                       const Codigos& suyos) {
     Comparacion c;
-    AvisarDeLaEdad(central, paquete, usuario, c);
-    AvisarDeLosQueFaltan(central, usuario, suyos, c);
-    AvisarDeLoPerdido(central, paquete, suyos, c);
+    AvisarDeLaFusion(central, paquete, usuario, suyos, c);
     BuscarChoques(central, paquete, suyos, c);
     return c;
 }
@@ -276,23 +189,7 @@ Comparacion CompararReemplazo(Conexion& base, Conexion& paquete) {
     for (const auto& t : Comparadas())
         Repartir(c, duenos, t, CompararTabla(base, paquete, t.nombre, t.clave));
     Ordenar(c);
-    if (c.seVan + c.cambian > 0) {
-        std::vector<std::string> tablas;
-        std::set<std::string> vistos;
-        for (const auto& cambio : c.cambios)
-            if (cambio.seVan + cambio.cambian > 0 && vistos.insert(cambio.nombre).second)
-                tablas.push_back(cambio.nombre);
-        std::string salida;
-        for (const auto& f : {UltimaDelHistorial(base, "VETERINARIO")})
-            if (f)
-                salida = FormatoFecha(*f, "dd/mm/yyyy hh:nn:ss");
-        c.avisos.push_back(
-            "Lo anotado aquí que no está en el fichero se pierde: " +
-            Cuantos(static_cast<std::size_t>(c.seVan), "registro desaparece", "registros desaparecen") +
-            " y " + Cuantos(static_cast<std::size_t>(c.cambian), "cambia", "cambian") + " (" +
-            Algunos(tablas) + ")" +
-            (salida.empty() ? "" : ". Última operación anotada en el historial: " + salida));
-    }
+    AvisarDelReemplazo(base, c);
     return c;
 }
 

@@ -46,7 +46,7 @@ public:
 private:
     void Mostrar(int porcentaje) {
         if (porcentaje != kSinProgreso)
-            m_progreso(porcentaje);
+            m_progreso(porcentaje > 100 ? 77 : porcentaje); // a count that runs over is no more than that
     }
 
     std::string DeEllos(const std::string& columna = "Id_Ganadero") const {
