@@ -14,6 +14,7 @@ using Aplicacion = QCoreApplication;
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <utility>
 
 namespace prueba {
 std::vector<Fabrica>& Lista() {
@@ -27,6 +28,11 @@ static QStringList& Esperados() {
 }
 void EsperarAviso(const char* trozo) {
     Esperados() << QString::fromUtf8(trozo);
+}
+bool PrimeraFila() {
+    static std::pair<const QObject*, QByteArray> ultima;
+    const std::pair<const QObject*, QByteArray> esta{QTest::testObject(), QTest::currentTestFunction()};
+    return std::exchange(ultima, esta) != esta;
 }
 } // namespace prueba
 

@@ -2,13 +2,12 @@
 #include "EscritorAccess.h"
 #include "prueba.h"
 
-#include <QTemporaryDir>
-
 #include <cmath>
 #include <limits>
 
 using namespace pastorix::access;
 using namespace pastorix::access::ayudas;
+using namespace prueba;
 
 namespace {
 
@@ -51,12 +50,12 @@ class PruebaFormatos : public QObject {
 private Q_SLOTS:
     // Columns that were added to a table do not reach the rows that were there: those have neither their bytes nor their bits.
     void ColumnasMasJovenesQueSusFilas_data() {
-        QTest::addColumn<int>("version");
-        QTest::newRow("Jet 4") << 4;
-        QTest::newRow("Jet 3") << 3;
+        Caso("Jet 4", 4);
+        Caso("Jet 3", 3);
     }
     void ColumnasMasJovenesQueSusFilas() {
-        QFETCH(int, version);
+        int version = 0;
+        DelCaso(version);
         const auto texto = [version](const char* s) { return version == 4 ? Utf16(s) : Crudo(s); };
         TablaNueva tabla{"T",
                          {{"Id", Tipo::Largo, true, 4, 0},
@@ -84,20 +83,15 @@ private Q_SLOTS:
 
     // Both versions, plain and encoded, maps of both kinds: the same rows come out, in order, and as the outside tool has them.
     void Versiones_data() {
-        QTest::addColumn<int>("version");
-        QTest::addColumn<uint>("llave");
-        QTest::addColumn<bool>("porReferencia");
-        QTest::newRow("Jet 4") << 4 << 0U << false;
-        QTest::newRow("Jet 4, map by reference") << 4 << 0U << true;
-        QTest::newRow("Jet 4, encoded") << 4 << 0x12345678U << false;
-        QTest::newRow("Jet 3") << 3 << 0U << false;
-        QTest::newRow("Jet 3, map by reference") << 3 << 0U << true;
-        QTest::newRow("Jet 3, encoded") << 3 << 0xFEDCBA98U << true;
+        Caso("Jet 4", 4, 0U, false);
+        Caso("Jet 4, map by reference", 4, 0U, true);
+        Caso("Jet 4, encoded", 4, 0x12345678U, false);
+        Caso("Jet 3", 3, 0U, false);
+        Caso("Jet 3, map by reference", 3, 0U, true);
+        Caso("Jet 3, encoded", 3, 0xFEDCBA98U, true);
     }
     void Versiones() {
-        QFETCH(int, version);
-        QFETCH(uint, llave);
-        QFETCH(bool, porReferencia);
+        const auto [version, llave, porReferencia] = DelCaso<int, uint, bool>();
         const std::string clave = version == 4 ? "aĀ€" : "secreto"; // Ā has a zero byte
         TablaNueva tabla = TablaVariada(version);
         tabla.mapaPorReferencia = porReferencia;
@@ -133,7 +127,7 @@ private Q_SLOTS:
             if (version == 3)
                 nuevo.tablas.push_back(ConSaltos(sinUso));
             const Plano plano = Escribir(nuevo);
-            QFile fichero(carpeta.filePath(QStringLiteral("v%1.mdb").arg(version)));
+            QFile fichero(carpeta.filePath(u"v%1.mdb"_s.arg(version)));
             QVERIFY(fichero.open(QIODevice::WriteOnly));
             fichero.write(reinterpret_cast<const char*>(plano.contenido.data()),
                           qint64(plano.contenido.size()));
@@ -170,17 +164,15 @@ private Q_SLOTS:
     }
 
     void PaginasDeCodigos_data() {
-        QTest::addColumn<uint>("pagina");
-        QTest::addColumn<QString>("esperado"); // of the bytes F1 80 99 D0
-        QTest::newRow("western") << 1252U << QStringLiteral("ñ€™Ð");
-        QTest::newRow("central Europe") << 1250U << QStringLiteral("ń€™Đ");
-        QTest::newRow("Cyrillic") << 1251U << QStringLiteral("сЂ™Р");
-        QTest::newRow("Turkish") << 1254U << QStringLiteral("ñ€™Ğ");
-        QTest::newRow("Japanese") << 932U << QString();
+        // esperado: of the bytes F1 80 99 D0
+        Caso("western", 1252U, u"ñ€™Ð"_s);
+        Caso("central Europe", 1250U, u"ń€™Đ"_s);
+        Caso("Cyrillic", 1251U, u"сЂ™Р"_s);
+        Caso("Turkish", 1254U, u"ñ€™Ğ"_s);
+        Caso("Japanese", 932U, QString());
     }
     void PaginasDeCodigos() {
-        QFETCH(uint, pagina);
-        QFETCH(QString, esperado);
+        const auto [pagina, esperado] = DelCaso<uint, QString>();
         const std::string bytes = "\xF1\x80\x99\xD0";
         const TablaNueva tabla{bytes, {{bytes, Tipo::Texto, false, 50}}, {{{Crudo(bytes)}}}};
         const Plano plano =
@@ -199,13 +191,9 @@ private Q_SLOTS:
     }
 
     void Valores_data() {
-        QTest::addColumn<int>("tipo");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("esperado");
         const auto Fila = [](const char* nombre, Tipo tipo, const Bytes& b, const char* esperado) {
-            QTest::newRow(nombre) << int(tipo)
-                                  << QByteArray(reinterpret_cast<const char*>(b.data()), qsizetype(b.size()))
-                                  << QString::fromUtf8(esperado);
+            Caso(nombre, int(tipo), QByteArray(reinterpret_cast<const char*>(b.data()), qsizetype(b.size())),
+                 Q(esperado));
         };
         const char* imposible = "El fichero está dañado: tabla T: una fecha no es posible (página 5).";
         Fila("byte above 127", Tipo::Byte, {200}, "200");
@@ -250,11 +238,9 @@ private Q_SLOTS:
              "El fichero está dañado: tabla T: un dato se sale de su sitio (página 5).");
     }
     void Valores() {
-        QFETCH(int, tipo);
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, esperado);
+        const auto [tipo, bytes, esperado] = DelCaso<int, QByteArray, QString>();
         const ColumnaNueva columna{"C", Tipo(tipo), false, 50, -1, 2};
-        QCOMPARE(QString::fromStdString(UnaCelda(columna, Bytes(bytes.begin(), bytes.end()))), esperado);
+        QCOMPARE(Q(UnaCelda(columna, Bytes(bytes.begin(), bytes.end()))), esperado);
     }
 
     // What the catalogue names beside user tables is not shown; a file must not name a table twice.
@@ -269,12 +255,51 @@ private Q_SLOTS:
                                                  {"÷", una, {}}}});
         QStringList nombres;
         for (const BaseAccess base = BaseAccess::DeBytes(plano.contenido); const Tabla& t : base.Tablas())
-            nombres << QString::fromStdString(t.nombre);
+            nombres << Q(t.nombre);
         QCOMPARE(nombres, QStringList({"Visible", "Oculta", "×", "÷"}));
         const Plano doble = Escribir({.tablas = {{"Año", una, {}}, {"AÑO", una, {}}}});
         QVERIFY_THROWS_EXCEPTION(ErrorAccess, BaseAccess::DeBytes(doble.contenido));
     }
 };
 
+namespace {
+const std::string datos = PASTORIX_DATOS "/", ejemplo = PASTORIX_EJEMPLO "/";
+}
+
+// The sample databases, against a second opinion and against what is known of their rows.
+class PruebaMuestras : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void TablasYClaves_data() {
+        const auto Fila = [](const std::string& f, const char* clave, int tablas) {
+            Caso(qPrintable(QString::asprintf("%s", f.c_str() + f.rfind('/') + 1)), Q(f),
+                 QString::fromLatin1(clave), tablas);
+        };
+        Fila(ejemplo + "BD_PradalC.mdb", "q7r2mz", 43);
+        Fila(ejemplo + "BD_PradalP.mdb", "q7r2mz", 43);
+        Fila(ejemplo + "Toros.mdb", "q7r2mz", 5);
+        Fila(datos + "paquetes/VETERINARIO.mdb", "q7r2mz", 43);
+        Fila(datos + "minima.mdb", "q7r2mz", 43);
+        Fila(datos + "otra-clave.mdb", "otra12", 43);
+        Fila(datos + "sin-T_Partos.mdb", "q7r2mz", 42);
+        Fila(datos + "columnas-cambiadas.mdb", "q7r2mz", 44);
+    }
+    void TablasYClaves() {
+        const auto [fichero, clave, tablas] = DelCaso<QString, QString, int>();
+        const BaseAccess base = BaseAccess::Abrir(fichero.toStdString());
+        QCOMPARE(base.VersionJet(), 4);
+        QCOMPARE(base.Clave(), clave.toStdString());
+        QCOMPARE(int(base.Tablas().size()), tablas);
+        for (const Tabla& tabla : base.Tablas())
+            QCOMPARE(base.Recorrer(tabla, [](std::span<const Celda>) {}), tabla.filasDeclaradas);
+        if (!HayExport())
+            QSKIP("mdb-export is not installed");
+        const std::string diferencia = CompararConExport(fichero.toStdString());
+        QVERIFY2(diferencia.empty(), diferencia.c_str());
+    }
+};
+
 PRUEBA(PruebaFormatos)
+PRUEBA(PruebaMuestras)
 #include "PruebaFormatos.moc"

@@ -3,13 +3,12 @@
 #include "access/Rc4.h"
 #include "prueba.h"
 
-#include <QTemporaryDir>
-
 #include <ctime>
 #include <random>
 
 using namespace pastorix::access;
 using namespace pastorix::access::ayudas;
+using namespace prueba;
 
 namespace {
 
@@ -70,6 +69,10 @@ struct Fichero {
 };
 
 using Estropear = void (*)(Fichero&);
+// A case: what is damaged, what is said, how.
+#define ROTO(nombre, mensaje, estropear)                                                                     \
+    Caso(                                                                                                    \
+        nombre, mensaje, +[](Fichero& f) { estropear; })
 
 std::string Mensaje(const Bytes& contenido) {
     try {
@@ -117,121 +120,91 @@ class PruebaRotos : public QObject {
 
 private Q_SLOTS:
     void Concretos_data() {
-        QTest::addColumn<void*>("estropear");
-        QTest::addColumn<QString>("mensaje");
-        const auto Fila = [](const char* nombre, const char* mensaje, Estropear e) {
-            QTest::newRow(nombre) << reinterpret_cast<void*>(e) << QString::fromUtf8(mensaje);
-        };
-        Fila("two pages", "cortado: mide 8192 bytes", [](Fichero& f) { f.b.resize(2 * P); });
-        Fila("not whole pages", "páginas enteras", [](Fichero& f) { f.b.pop_back(); });
-        Fila("last page lost", "cortado: faltan páginas", [](Fichero& f) { f.b.resize(f.b.size() - P); });
-        Fila("creation date", "fecha de creación", [](Fichero& f) { f.PonerEnCabecera(0x78, 0x7FF8); });
-        Fila("catalogue's type column", "no tiene la columna Type",
-             [](Fichero& f) { f.b[2 * P + Jet4.finFijo + 2 * Jet4.descriptor] = 4; });
-        Fila("catalogue's page owner", "de otra tabla", [](Fichero& f) { f.b[f.b.size() - P + 4] = 3; });
-        Fila("two tables, one definition", "la definición de otra",
-             [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, f.def / P, 4); });
-        Fila("table without definition", "la página 9999, que no existe",
-             [](Fichero& f) { f.Poner(f.Fila(f.b.size() - P, 2) + 2, 9999, 4); });
+        ROTO("two pages", "cortado: mide 8192 bytes", f.b.resize(2 * P));
+        ROTO("not whole pages", "páginas enteras", f.b.pop_back());
+        ROTO("last page lost", "cortado: faltan páginas", f.b.resize(f.b.size() - P));
+        ROTO("creation date", "fecha de creación", f.PonerEnCabecera(0x78, 0x7FF8));
+        ROTO("type column", "no tiene la columna Type", f.b[2 * P + Jet4.finFijo + 2 * Jet4.descriptor] = 4);
+        ROTO("catalogue's page owner", "de otra tabla", f.b[f.b.size() - P + 4] = 3);
+        ROTO("two tables, one definition", "la definición de otra",
+             f.Poner(f.Fila(f.b.size() - P, 2) + 2, f.def / P, 4));
+        ROTO("table without definition", "la página 9999, que no existe",
+             f.Poner(f.Fila(f.b.size() - P, 2) + 2, 9999, 4));
 
-        Fila("definition loops", "ya usada", [](Fichero& f) { f.Poner(f.def + 4, f.def / P, 4); });
-        Fila("definition goes on in data", "no es de la clase",
-             [](Fichero& f) { f.Poner(f.def + 4, f.datos / P, 4); });
-        Fila("definition too long", "un largo imposible", [](Fichero& f) { f.Poner(f.def + 8, P + 1, 4); });
-        Fila("definition too short", "un largo imposible", [](Fichero& f) { f.Poner(f.def + 8, 62, 4); });
-        Fila("definition ends late", "no termina donde debe",
-             [](Fichero& f) { f.Poner(f.def + 8, f.Leer(f.def + 8, 4) + 1, 4); });
-        Fila("kind of table", "ninguna clase", [](Fichero& f) { f.b[f.def + Jet4.tipoTabla] = 0; });
-        Fila("more columns than ever", "imposible de columnas",
-             [](Fichero& f) { f.b[f.def + Jet4.columnas] = 9; });
-        Fila("256 columns", "imposible de columnas",
-             [](Fichero& f) { f.Poner(f.def + Jet4.maxColumnas, 256, 2); });
-        Fila("many indexes", "de índices",
-             [](Fichero& f) { f.Poner(f.def + Jet4.indicesReales, 0x10000001, 4); });
-        Fila("column twice", "repite un número de columna",
-             [](Fichero& f) { f.b[f.Columna(1) + Jet4.numero] = 0; });
-        Fila("column number", "demasiado alto", [](Fichero& f) { f.b[f.Columna(1) + Jet4.numero] = 8; });
+        ROTO("definition loops", "ya usada", f.Poner(f.def + 4, f.def / P, 4));
+        ROTO("definition goes on in data", "no es de la clase", f.Poner(f.def + 4, f.datos / P, 4));
+        ROTO("definition too long", "un largo imposible", f.Poner(f.def + 8, P + 1, 4));
+        ROTO("definition too short", "un largo imposible", f.Poner(f.def + 8, 62, 4));
+        ROTO("ends late", "no termina donde debe", f.Poner(f.def + 8, f.Leer(f.def + 8, 4) + 1, 4));
+        ROTO("kind of table", "ninguna clase", f.b[f.def + Jet4.tipoTabla] = 0);
+        ROTO("more columns than ever", "imposible de columnas", f.b[f.def + Jet4.columnas] = 9);
+        ROTO("256 columns", "imposible de columnas", f.Poner(f.def + Jet4.maxColumnas, 256, 2));
+        ROTO("many indexes", "de índices", f.Poner(f.def + Jet4.indicesReales, 0x10000001, 4));
+        ROTO("column twice", "repite un número de columna", f.b[f.Columna(1) + Jet4.numero] = 0);
+        ROTO("column number", "demasiado alto", f.b[f.Columna(1) + Jet4.numero] = 8);
 
-        Fila("map elsewhere", "se busca la fila 200", [](Fichero& f) { f.b[f.def + Jet4.mapaPropio] = 200; });
-        Fila("map in no page", "la cabecera", [](Fichero& f) { f.Poner(f.def + Jet4.mapaPropio, 0, 4); });
-        Fila("short map", "demasiado corto",
-             [](Fichero& f) { f.Poner(f.Entrada(f.plano.mapas * P, 0), P - 4, 2); });
-        Fila("kind of map", "clase desconocida", [](Fichero& f) { f.b[f.Mapa()] = 2; });
-        Fila("map beyond the file", "cortado: tabla Pesadas",
-             [](Fichero& f) { f.Poner(f.Mapa() + 1, 0xFFFFFFFF, 4); });
-        Fila("map's bitmap", "tabla Otra: la página no es de la clase",
-             [](Fichero& f) { f.b[f.plano.bitmap * P] = 1; });
-        Fila("bitmap of later pages", "cortado: tabla Otra: faltan páginas de datos (la 32", [](Fichero& f) {
-            const std::size_t mapa = f.Fila(f.plano.mapas * P, 1);
-            f.Poner(mapa + 1, 0, 4);
-            f.Poner(mapa + 5, f.plano.bitmap, 4);
-        });
-        Fila("bitmap twice", "repite una de sus partes",
-             [](Fichero& f) { f.Poner(f.Fila(f.plano.mapas * P, 1) + 5, f.plano.bitmap, 4); });
+        ROTO("map elsewhere", "se busca la fila 200", f.b[f.def + Jet4.mapaPropio] = 200);
+        ROTO("map in no page", "la cabecera", f.Poner(f.def + Jet4.mapaPropio, 0, 4));
+        ROTO("short map", "demasiado corto", f.Poner(f.Entrada(f.plano.mapas * P, 0), P - 4, 2));
+        ROTO("kind of map", "clase desconocida", f.b[f.Mapa()] = 2);
+        ROTO("map beyond the file", "cortado: tabla Pesadas", f.Poner(f.Mapa() + 1, 0xFFFFFFFF, 4));
+        ROTO("map's bitmap", "tabla Otra: la página no es de la clase", f.b[f.plano.bitmap * P] = 1);
+        Caso(
+            "bitmap of later pages", "cortado: tabla Otra: faltan páginas de datos (la 32", +[](Fichero& f) {
+                const std::size_t mapa = f.Fila(f.plano.mapas * P, 1);
+                f.Poner(mapa + 1, 0, 4);
+                f.Poner(mapa + 5, f.plano.bitmap, 4);
+            });
+        ROTO("bitmap twice", "repite una de sus partes",
+             f.Poner(f.Fila(f.plano.mapas * P, 1) + 5, f.plano.bitmap, 4));
 
-        Fila("page of another kind", "no es de la clase", [](Fichero& f) { f.b[f.datos] = 4; });
-        Fila("page of another table", "de otra tabla", [](Fichero& f) { f.b[f.datos + 4] ^= 1; });
-        Fila("too many rows", "no cabe en su página",
-             [](Fichero& f) { f.Poner(f.datos + Jet4.numeroFilas, 5000, 2); });
-        Fila("overlapping rows", "la fila 1 invade otra",
-             [](Fichero& f) { f.Poner(f.Entrada(f.datos, 1), 0xFFF, 2); });
-        Fila("row in the row table", "la fila 12 invade",
-             [](Fichero& f) { f.Poner(f.Entrada(f.datos, 12), 20, 2); });
-        Fila("row before the one above", "la fila 1 invade",
-             [](Fichero& f) { f.Poner(f.Entrada(f.datos, 0), 0x100, 2); });
-        Fila("columns of a row", "más columnas que su tabla",
-             [](Fichero& f) { f.b[f.Fila(f.datos, 1)] = 9; });
-        Fila("fields of a row", "imposible de campos",
-             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 3, 256, 2); });
-        Fila("fields past the row", "imposible de campos",
-             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 3, 200, 2); });
-        Fila("field order", "se pisan", [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 7, 500, 2); });
-        Fila("end of the fields", "se salen de ella",
-             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 11, 4000, 2); });
-        Fila("field over the count", "se pisan",
-             [](Fichero& f) { f.Poner(f.FinFila(f.datos, 1) - 5, 1, 2); });
-        Fila("fixed field", "se sale de su fila",
-             [](Fichero& f) { f.Poner(f.Columna(0) + Jet4.lugarFijo, 4000, 2); });
+        ROTO("page of another kind", "no es de la clase", f.b[f.datos] = 4);
+        ROTO("page of another table", "de otra tabla", f.b[f.datos + 4] ^= 1);
+        ROTO("too many rows", "no cabe en su página", f.Poner(f.datos + Jet4.numeroFilas, 5000, 2));
+        ROTO("overlapping rows", "la fila 1 invade otra", f.Poner(f.Entrada(f.datos, 1), 0xFFF, 2));
+        ROTO("row in the row table", "la fila 12 invade", f.Poner(f.Entrada(f.datos, 12), 20, 2));
+        ROTO("row before the one above", "la fila 1 invade", f.Poner(f.Entrada(f.datos, 0), 0x100, 2));
+        ROTO("columns of a row", "más columnas que su tabla", f.b[f.Fila(f.datos, 1)] = 9);
+        ROTO("fields of a row", "imposible de campos", f.Poner(f.FinFila(f.datos, 1) - 3, 256, 2));
+        ROTO("fields past the row", "imposible de campos", f.Poner(f.FinFila(f.datos, 1) - 3, 200, 2));
+        ROTO("field order", "se pisan", f.Poner(f.FinFila(f.datos, 1) - 7, 500, 2));
+        ROTO("end of the fields", "se salen de ella", f.Poner(f.FinFila(f.datos, 1) - 11, 4000, 2));
+        ROTO("field over the count", "se pisan", f.Poner(f.FinFila(f.datos, 1) - 5, 1, 2));
+        ROTO("fixed field", "se sale de su fila", f.Poner(f.Columna(0) + Jet4.lugarFijo, 4000, 2));
 
-        Fila("moved to itself", "dos veces a la misma fila",
-             [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.datos / P << 8 | 4, 4); });
-        Fila("moved out of its table", "fuera de su tabla",
-             [](Fichero& f) { f.Poner(f.Fila(f.datos, 4), f.plano.mapas << 8, 4); });
-        Fila("new place without its mark", "dos veces a la misma fila",
-             [](Fichero& f) { f.b[f.EntradaTrasladada(f.datos, 4) + 1] &= 0x7F; });
-        Fila("two moved to one place", "dos veces a la misma fila",
-             [](Fichero& f) { f.Poner(f.Fila(f.datos2, 1), f.Leer(f.Fila(f.datos, 4), 4), 4); });
+        ROTO("to itself", "dos veces a la misma fila", f.Poner(f.Fila(f.datos, 4), f.datos / P << 8 | 4, 4));
+        ROTO("moved out", "fuera de su tabla", f.Poner(f.Fila(f.datos, 4), f.plano.mapas << 8, 4));
+        ROTO("new place without its mark", "dos veces a la misma fila",
+             f.b[f.EntradaTrasladada(f.datos, 4) + 1] &= 0x7F);
+        ROTO("two moved to one place", "dos veces a la misma fila",
+             f.Poner(f.Fila(f.datos2, 1), f.Leer(f.Fila(f.datos, 4), 4), 4));
 
-        Fila("memo's length", "mayor que el fichero",
-             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9), 0x7FFFFFFF, 4); });
-        Fila("memo longer than its row", "se sale",
-             [](Fichero& f) { f.Poner(f.Memo(f.datos, 1), 0x80000100, 4); });
-        Fila("memo longer than its parts", "antes de tiempo",
-             [](Fichero& f) { f.Poner(f.Memo(f.datos2, 7), 3000, 4); });
-        Fila("memo outside", "no es de textos largos",
-             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.datos / P << 8, 4); });
-        Fila("memo of a deleted part", "borrada o trasladada",
-             [](Fichero& f) { f.b[f.Entrada(f.plano.largos * P, 0) + 1] |= 0x80; });
-        Fila("two memos, one place", "comparten la fila",
-             [](Fichero& f) { f.Poner(f.Memo(f.datos, 9) + 4, f.Leer(f.Memo(f.datos, 8) + 4, 4), 4); });
-        Fila("two tables, one memo", "comparten la fila", [](Fichero& f) {
-            const std::size_t otra =
-                f.Fila(f.DatosDeOtra(), 0) + f.Leer(f.FinFila(f.DatosDeOtra(), 0) - 5, 2);
-            f.Poner(otra + 4, f.Leer(f.Memo(f.datos, 9) + 4, 4), 4);
-        });
-        Fila("memo loops", "comparten la fila", [](Fichero& f) {
-            const std::size_t puntero = f.Leer(f.Memo(f.datos2, 7) + 4, 4);
-            f.Poner(f.Fila((puntero >> 8) * P, puntero & 0xFF), puntero, 4);
-        });
+        ROTO("memo's length", "mayor que el fichero", f.Poner(f.Memo(f.datos, 9), 0x7FFFFFFF, 4));
+        ROTO("memo longer than its row", "se sale", f.Poner(f.Memo(f.datos, 1), 0x80000100, 4));
+        ROTO("memo longer than its parts", "antes de tiempo", f.Poner(f.Memo(f.datos2, 7), 3000, 4));
+        ROTO("memo outside", "no es de textos largos", f.Poner(f.Memo(f.datos, 9) + 4, f.datos / P << 8, 4));
+        ROTO("deleted part", "borrada o trasladada", f.b[f.Entrada(f.plano.largos * P, 0) + 1] |= 0x80);
+        ROTO("two memos, one place", "comparten la fila",
+             f.Poner(f.Memo(f.datos, 9) + 4, f.Leer(f.Memo(f.datos, 8) + 4, 4), 4));
+        Caso(
+            "two tables, one memo", "comparten la fila", +[](Fichero& f) {
+                const std::size_t otra =
+                    f.Fila(f.DatosDeOtra(), 0) + f.Leer(f.FinFila(f.DatosDeOtra(), 0) - 5, 2);
+                f.Poner(otra + 4, f.Leer(f.Memo(f.datos, 9) + 4, 4), 4);
+            });
+        Caso(
+            "memo loops", "comparten la fila", +[](Fichero& f) {
+                const std::size_t puntero = f.Leer(f.Memo(f.datos2, 7) + 4, 4);
+                f.Poner(f.Fila((puntero >> 8) * P, puntero & 0xFF), puntero, 4);
+            });
     }
     void Concretos() {
-        QFETCH(void*, estropear);
-        QFETCH(QString, mensaje);
+        const auto [mensaje, estropear] = DelCaso<QString, Estropear>();
         Fichero fichero;
-        QCOMPARE(Mensaje(fichero.b), std::string());
-        reinterpret_cast<Estropear>(estropear)(fichero);
+        QCOMPARE(Mensaje(fichero.b), ""s);
+        estropear(fichero);
         const std::string dicho = Mensaje(fichero.b);
-        QVERIFY2(!dicho.empty() && QString::fromStdString(dicho).contains(mensaje), dicho.c_str());
+        QVERIFY2(!dicho.empty() && Q(dicho).contains(mensaje), dicho.c_str());
     }
 
     // What looks odd and is not damage.
@@ -250,15 +223,12 @@ private Q_SLOTS:
 
     // Whatever is broken, the file is read or refused, and soon.
     void AlAzar_data() {
-        QTest::addColumn<QString>("origen");
-        QTest::addColumn<int>("veces");
-        QTest::newRow("sample") << QStringLiteral("minima") << 1000;
-        QTest::newRow("Jet 3") << QStringLiteral("3") << 6000;
-        QTest::newRow("Jet 4") << QStringLiteral("4") << 3000;
+        Caso("sample", u"minima"_s, 1000);
+        Caso("Jet 3", u"3"_s, 6000);
+        Caso("Jet 4", u"4"_s, 3000);
     }
     void AlAzar() {
-        QFETCH(QString, origen);
-        QFETCH(int, veces);
+        const auto [origen, veces] = DelCaso<QString, int>();
         const int version = origen == "3" ? 3 : 4;
         const Bytes sano = origen == "minima"
                                ? LeerBytes(PASTORIX_DATOS "/minima.mdb")
@@ -278,19 +248,14 @@ private Q_SLOTS:
                      dicho.c_str());
             ++(dicho.empty() ? leidos : rechazados);
         }
-        QVERIFY2(rechazados > veces / 10 && leidos > veces / 20,
-                 qPrintable(QStringLiteral("%1 refused").arg(rechazados)));
-        QVERIFY2(peor < 2 * CLOCKS_PER_SEC, qPrintable(QStringLiteral("%1 ticks for one file").arg(peor)));
+        QVERIFY2(rechazados > veces / 10 && leidos > veces / 20, qPrintable(u"%1 refused"_s.arg(rechazados)));
+        QVERIFY2(peor < 2 * CLOCKS_PER_SEC, qPrintable(u"%1 ticks for one file"_s.arg(peor)));
     }
 
     void NoSonAccess_data() {
-        QTest::addColumn<QByteArray>("contenido");
-        QTest::addColumn<bool>("parece");
-        QTest::addColumn<int>("clase");
-        QTest::addColumn<QString>("mensaje");
         const auto Fila = [](const char* nombre, const QByteArray& contenido, bool parece,
                              ErrorAccess::Clase clase, const char* mensaje) {
-            QTest::newRow(nombre) << contenido << parece << int(clase) << QString::fromUtf8(mensaje);
+            Caso(nombre, contenido, parece, int(clase), Q(mensaje));
         };
         using enum ErrorAccess::Clase;
         const QByteArray jet("\0\1\0\0Standard Jet DB\0", 20), ace("\0\1\0\0Standard ACE DB\0", 20);
@@ -309,12 +274,9 @@ private Q_SLOTS:
              "El fichero está dañado");
     }
     void NoSonAccess() {
-        QFETCH(QByteArray, contenido);
-        QFETCH(bool, parece);
-        QFETCH(int, clase);
-        QFETCH(QString, mensaje);
+        const auto [contenido, parece, clase, mensaje] = DelCaso<QByteArray, bool, int, QString>();
         QTemporaryDir carpeta;
-        QFile fichero(carpeta.filePath(QStringLiteral("x.mdb")));
+        QFile fichero(carpeta.filePath(u"x.mdb"_s));
         QVERIFY(fichero.open(QIODevice::WriteOnly));
         fichero.write(contenido);
         fichero.close();
@@ -326,14 +288,14 @@ private Q_SLOTS:
                 QFAIL("was taken for an Access file");
             } catch (const ErrorAccess& error) {
                 QCOMPARE(int(error.DeClase()), clase);
-                QVERIFY2(QString::fromUtf8(error.what()).contains(mensaje), error.what());
+                QVERIFY2(Q(error.what()).contains(mensaje), error.what());
             }
         }
     }
 
     void NoSePuedenLeer() {
         QTemporaryDir carpeta;
-        for (const QString& ruta : {carpeta.path(), carpeta.filePath(QStringLiteral("no-existe.mdb"))}) {
+        for (const QString& ruta : {carpeta.path(), carpeta.filePath(u"no-existe.mdb"_s)}) {
             try {
                 BaseAccess::Abrir(ruta.toStdString());
                 QFAIL("was opened");

@@ -4,7 +4,7 @@
 
 namespace prueba {
 
-inline std::string Filas(pastorix::Conexion& c, const std::string& sentencia) {
+inline std::string Filas(Conexion& c, const std::string& sentencia) {
     return Base::Texto(c, sentencia);
 }
 

@@ -5,28 +5,19 @@
 #include "frame/Arranque.h"
 #include "frame/Entrada.h"
 
-#include <QDir>
-#include <QFile>
-
 namespace prueba {
 
-using pastorix::Conexion;
-using pastorix::Valor;
-
-inline void Insertar(Conexion& conexion, const std::string& tabla, ConFilas::Fila fila) {
-    ConFilas{conexion}.Poner(tabla, fila);
-}
-inline void Insertar(Conexion& conexion, const std::string& tabla, const char* fila) {
-    ConFilas{conexion}.Poner(tabla, fila);
+template <typename... V>
+void Insertar(Conexion& conexion, const std::string& tabla, const char* fila, const V&... valores) {
+    ConFilas{conexion}.Poner(tabla, fila, valores...);
 }
 
 inline long Contar(Conexion& conexion, const std::string& tabla, const std::string& donde = {}) {
-    return pastorix::Recordset(conexion, "SELECT * FROM " + tabla + (donde.empty() ? "" : " WHERE " + donde))
-        .Contar();
+    return Recordset(conexion, "SELECT * FROM " + tabla + (donde.empty() ? "" : " WHERE " + donde)).Contar();
 }
 
 inline std::string Leer(Conexion& conexion, const std::string& sentencia) {
-    return pastorix::ValorDeCampo(conexion, sentencia);
+    return ValorDeCampo(conexion, sentencia);
 }
 
 inline Valor Texto(const char* t) {
@@ -44,29 +35,28 @@ class Instalacion {
 public:
     explicit Instalacion(bool conBases = true) {
         if (conBases) {
-            Crear("BD_PradalC.mdb", pastorix::ClaseDeBase::Principal);
-            Crear("BD_PradalP.mdb", pastorix::ClaseDeBase::Principal);
-            Crear("Toros.mdb", pastorix::ClaseDeBase::Toros);
+            Crear("BD_PradalC.mdb", ClaseDeBase::Principal);
+            Crear("BD_PradalP.mdb", ClaseDeBase::Principal);
+            Crear("Toros.mdb", ClaseDeBase::Toros);
         }
-        sesion.rutas = pastorix::Rutas(Carpeta());
+        sesion.rutas = Rutas(Carpeta());
     }
 
     QString Carpeta() const { return m_carpeta.path(); }
-    QString En(const char* nombre) const { return m_carpeta.filePath(QString::fromUtf8(nombre)); }
+    QString En(const char* nombre) const { return m_carpeta.filePath(Q(nombre)); }
     QStringList Contenido(const char* subcarpeta = ".") const {
         return QDir(En(subcarpeta)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     }
-    void Crear(const char* nombre, pastorix::ClaseDeBase clase) const { Crear(En(nombre), clase); }
-    static void Crear(const QString& fichero, pastorix::ClaseDeBase clase) {
-        pastorix::CrearBase(fichero.toStdString(), clase, pastorix::ClaveDeBases);
+    void Crear(const char* nombre, ClaseDeBase clase) const { Crear(En(nombre), clase); }
+    static void Crear(const QString& fichero, ClaseDeBase clase) {
+        CrearBase(fichero.toStdString(), clase, ClaveDeBases);
     }
 
     // A second connection on one of the databases of a started program.
     Conexion Abrir(const char* base) const {
         Conexion conexion;
-        conexion.AbrirFichero(
-            (m_carpeta.path() + QStringLiteral("/Base de Datos/") + QString::fromUtf8(base)).toStdString(),
-            pastorix::ClaveDeBases);
+        conexion.AbrirFichero((m_carpeta.path() + QStringLiteral("/Base de Datos/") + Q(base)).toStdString(),
+                              ClaveDeBases);
         return conexion;
     }
 
@@ -84,13 +74,13 @@ private:
     QTemporaryDir m_carpeta; // before the session: it goes when the session has let go of its files
 
 public:
-    pastorix::Sesion sesion;
+    Sesion sesion;
 };
 
 // One that has been started.
 struct Arrancada : Instalacion {
     Arrancada() {
-        if (!pastorix::Arrancar(sesion))
+        if (!Arrancar(sesion))
             qCritical("the start failed");
     }
 };

@@ -1,19 +1,13 @@
-#include "prueba.h"
-
 #include "Cajas.h"
 #include "Instalacion.h"
 #include "frame/Principal.h"
 #include "frame/SegundoPlano.h"
 #include "frame/calendario/Reloj.h"
 #include "store/Copias.h"
-#include "store/Ficheros.h"
 #include "store/Reemplazo.h"
-
-#include <QLabel>
 
 #include <thread>
 
-using namespace pastorix;
 using namespace prueba;
 
 // A database that is damaged when somebody enters: told, looked at, restored.
@@ -26,12 +20,10 @@ class PruebaAverias : public QObject {
             FijarHoy(Fecha::De(2026, 11, 22, 10, 30));
             Conexion c = Abrir("BD_PradalP.mdb");
             EnGrupo(c, [&] {
-                Insertar(c, "T_Ganaderos", {{"Id_Ganadero", 12.0}});
+                Insertar(c, "T_Ganaderos", "Id_Ganadero=12");
                 for (int i = 0; i < 300; ++i)
-                    Insertar(c, "T_Vacas",
-                             {{"Id_Vaca", 12000.0 + i},
-                              {"Id_Ganadero", 12.0},
-                              {"Patologia", std::string(300, 'x')}});
+                    Insertar(c, "T_Vacas", "Id_Vaca, Id_Ganadero=12, Patologia", 12000.0 + i,
+                             std::string(300, 'x'));
                 Insertar(c, "T_Partos", "Id_Parto=1, Id_Vaca=12000, N_Parto=1, Fecha_Parto=30/10/2026");
             });
         }
@@ -48,9 +40,7 @@ class PruebaAverias : public QObject {
             f.write(QByteArray(4096, 'Z'));
         }
         int PaginaDeVacas() const {
-            QFile f(sesion.rutas.BasePersonal());
-            return f.open(QIODevice::ReadOnly) ? static_cast<int>(f.readAll().lastIndexOf("xxxxxxxx") / 4096)
-                                               : -1;
+            return int(prueba::Contenido(sesion.rutas.BasePersonal()).lastIndexOf("xxxxxxxx") / 4096);
         }
     };
 
@@ -58,9 +48,7 @@ private Q_SLOTS:
     void SinCopiaSeMira() {
         Averiada i;
         Averiada::Estropear(i.sesion.rutas.BasePersonal(), i.PaginaDeVacas());
-        QFile f(i.sesion.rutas.BasePersonal());
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        const auto antes = f.readAll();
+        const auto antes = Contenido(i.sesion.rutas.BasePersonal());
         Cajas cajas;
         Principal p(i.sesion);
         EntradaEnPrincipal interfaz(p);
@@ -76,10 +64,9 @@ private Q_SLOTS:
         QCOMPARE(Contar(i.sesion.conexion, "T_Partos"), 1L);
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, Contar(i.sesion.conexion, "T_Vacas"));
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, i.sesion.conexion.Execute("DELETE FROM T_Partos"));
-        Insertar(i.sesion.conexion, "X_Temp", {{"C1", Texto("una")}});
+        Insertar(i.sesion.conexion, "X_Temp", "C1=una");
         QCOMPARE(Contar(i.sesion.conexion, "X_Temp"), 1L);
-        f.seek(0);
-        QVERIFY(f.readAll() == antes); // no repair has touched it
+        QVERIFY(Contenido(i.sesion.rutas.BasePersonal()) == antes); // no repair has touched it
         QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, interfaz));
         QVERIFY(p.findChild<QLabel*>("SoloLectura")->isHidden());
     }
@@ -96,7 +83,7 @@ private Q_SLOTS:
             const int pagina = i.PaginaDeVacas();
             {
                 Conexion c = i.Abrir("BD_PradalP.mdb");
-                Insertar(c, "T_Ganaderos", {{"Id_Ganadero", 57.0}}); // since the copies
+                Insertar(c, "T_Ganaderos", "Id_Ganadero=57"); // since the copies
             }
             Averiada::Estropear(i.sesion.rutas.BasePersonal(), pagina);
             Cajas cajas;
@@ -151,8 +138,7 @@ private Q_SLOTS:
     }
 
     void ElSegundoPlanoDejaVivirALasVentanas() {
-        int avances = 0;
-        int vueltas = 0;
+        int avances = 0, vueltas = 0;
         QTimer reloj;
         connect(&reloj, &QTimer::timeout, this, [&] { ++vueltas; });
         reloj.start(1);

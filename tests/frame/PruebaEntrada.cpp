@@ -1,16 +1,8 @@
-#include "prueba.h"
-
 #include "Cajas.h"
 #include "Instalacion.h"
 #include "frame/Ajustes.h"
-#include "store/Ficheros.h"
 #include "store/Reemplazo.h"
 
-#include <sqlite3.h>
-
-#include <QSet>
-
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
@@ -47,8 +39,6 @@ private Q_SLOTS:
     // Who gets in, as whom, and with which panel text; both entries alike.
     void Usuarios_data() {
         // modo: empty: nobody
-        Columnas<QString, QString, QString, QString, QString>("usuario", "clave", "modo", "sesionDe",
-                                                              "panel");
         const QString vet = "VETERINARIO";
         Caso("anonymous", "", "", vet, "", " Modo: VETERINARIO");
         Caso("the word", "VETERINARIO", "", vet, "VETERINARIO", " Modo: VETERINARIO");
@@ -68,18 +58,15 @@ private Q_SLOTS:
         Caso("statement in the password", "CENTRAL", "' OR ''='", "", "", "");
     }
     void Usuarios() {
-        QFETCH(QString, usuario);
-        QFETCH(QString, clave);
-        QFETCH(QString, modo);
-        QFETCH(QString, sesionDe);
-        QFETCH(QString, panel);
+        const auto [usuario, clave, modo, sesionDe, panel] =
+            DelCaso<QString, QString, QString, QString, QString>();
         Arrancada i;
         i.PonerUsuarios();
         for (const int entrada : {0, 1}) {
             Cajas cajas;
             Anotador interfaz;
             QCOMPARE(EntrarEnBase(i.sesion, entrada, usuario, clave, interfaz), !modo.isEmpty());
-            QCOMPARE(QString::fromStdString(i.sesion.ModoSesion), modo);
+            QCOMPARE(Q(i.sesion.ModoSesion), modo);
             const auto vistas = cajas.Vistas();
             if (modo.isEmpty()) {
                 QCOMPARE(vistas.size(), 1);
@@ -89,7 +76,7 @@ private Q_SLOTS:
                 continue;
             }
             QVERIFY(vistas.isEmpty());
-            QCOMPARE(QString::fromStdString(i.sesion.UsuarioSesion), sesionDe);
+            QCOMPARE(Q(i.sesion.UsuarioSesion), sesionDe);
             QCOMPARE(interfaz.paneles.last(), panel);
             QCOMPARE(interfaz.titulo, u"PASTORIX.    (3.09)"_s);
             QCOMPARE(interfaz.preguntas, 1);
@@ -105,14 +92,15 @@ private Q_SLOTS:
         InterfazDeEntrada nada;
         for (const char* usuario : {"elopez", "nadie"}) { // a failed attempt stands in the personal one too
             QCOMPARE(EntrarEnBase(i.sesion, 1, usuario, {}, nada), *usuario == 'e');
-            QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePersonal());
+            QCOMPARE(Q(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePersonal());
             QCOMPARE(int(i.sesion.BaseElegida), 1);
         }
-        QCOMPARE(QString::fromStdString(i.sesion.origenes.Buscar("OD_PSTX")->fichero),
-                 i.sesion.rutas.BasePrincipal());
+        QCOMPARE(Q(i.sesion.origenes.Buscar("OD_PSTX")->fichero), i.sesion.rutas.BasePrincipal());
         QVERIFY(QDir(i.En("Temp")).exists() && QDir(i.En("BackUp")).exists());
         QVERIFY(EntrarEnBase(i.sesion, 0, "elopez", {}, nada));
-        QCOMPARE(QString::fromStdString(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePrincipal());
+        Conexion& c = i.sesion.conexion; // neither a veterinarian's name counts nor another level
+        QVERIFY(!UsuarioLibre(c, "central") && UsuarioLibre(c, "elopez") && UsuarioLibre(c, "AUXILIAR"));
+        QCOMPARE(Q(i.sesion.conexion.Fichero()), i.sesion.rutas.BasePrincipal());
         QCOMPARE(int(i.sesion.BaseElegida), 0);
         QCOMPARE(cajas.Tomar().size(), 1);
     }
@@ -122,10 +110,10 @@ private Q_SLOTS:
         Arrancada i;
         const std::string propia = i.sesion.conexion.Fichero();
         CopiarBase(i.sesion.conexion, Ruta(i.En("copia; de ñ.mdb").toStdString()));
-        Insertar(i.sesion.conexion, "T_Vacas", {{"Id_Vaca", 1.0}});
+        Insertar(i.sesion.conexion, "T_Vacas", "Id_Vaca=1");
         AbrirConexionEn(i.sesion, i.En("copia; de ñ.mdb"));
         QCOMPARE(Contar(i.sesion.conexion, "T_Vacas"), 0L);
-        Insertar(i.sesion.conexion, "T_Vacas", {{"Id_Vaca", 2.0}});
+        Insertar(i.sesion.conexion, "T_Vacas", "Id_Vaca=2");
         AbrirConexionEn(i.sesion, i.En("copia; de ñ.mdb"), true);
         QVERIFY(i.sesion.conexion.SoloLectura());
         i.sesion.conexion.Cerrar();
@@ -150,8 +138,7 @@ private Q_SLOTS:
         const auto vistas = cajas.Vistas();
         QCOMPARE(vistas.size(), 1);
         QCOMPARE(vistas[0].titulo, u" Error de acceso"_s);
-        QVERIFY(!vistas[0].causa.isEmpty());
-        QVERIFY(i.sesion.ModoSesion.empty());
+        QVERIFY(!vistas[0].causa.isEmpty() && i.sesion.ModoSesion.empty());
         QCOMPARE(interfaz.preguntas, 0);
         QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, interfaz)); // the other entry still works
     }
@@ -173,7 +160,7 @@ private Q_SLOTS:
         Arrancada i;
         {
             Conexion c = i.Abrir("BD_PradalP.mdb");
-            Insertar(c, "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
+            Insertar(c, "T_Vacas", "Id_Vaca=12001, Id_Ganadero=12");
         }
         Anotador interfaz;
         QVERIFY(EntrarEnBase(i.sesion, 1, {}, {}, interfaz));
@@ -216,22 +203,12 @@ private Q_SLOTS:
         QCOMPARE(caja(), u"Atención|No se ha podido poner al día la base de datos; se intentará en la "
                          "próxima entrada|Otro programa tiene bloqueada la base de datos"_s);
         bloquear("ROLLBACK");
-        Insertar(i.sesion.conexion, "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
+        Insertar(i.sesion.conexion, "T_Vacas", "Id_Vaca=12001, Id_Ganadero=12");
         bloquear("BEGIN IMMEDIATE");
         interfaz.contestar = true;
         QVERIFY(EntrarEnBase(i.sesion, 0, {}, {}, interfaz));
         QCOMPARE(cajas.Vistas().size(), 2); // the repairs, and the rows of the year
         sqlite3_close(otro);
-    }
-
-    void UsuariosLibres() {
-        Arrancada i;
-        i.PonerUsuarios();
-        Conexion& c = i.sesion.conexion;
-        QVERIFY(!UsuarioLibre(c, "central"));
-        QVERIFY(UsuarioLibre(c, "elopez"));   // a veterinarian's name does not count
-        QVERIFY(UsuarioLibre(c, "AUXILIAR")); // nor does another level
-        QVERIFY(UsuarioLibre(c, ""));
     }
 };
 

@@ -1,17 +1,8 @@
 #include "prueba.h"
 
 #include "Cajas.h"
-#include "frame/Mensajes.h"
 #include "store/Errores.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QStandardPaths>
-#include <QTimer>
-
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
@@ -41,7 +32,6 @@ class PruebaMensajes : public QObject {
 
 private Q_SLOTS:
     void LasPreguntasHablanEspanolYElNoEsLoPrevisto_data() {
-        Columnas<bool, int, bool>("previsto", "tecla", "respuesta");
         Caso("Enter, yes expected", true, static_cast<int>(Qt::Key_Return), true);
         Caso("Enter", false, static_cast<int>(Qt::Key_Return), false);
         Caso("Escape", false, static_cast<int>(Qt::Key_Escape), false);
@@ -49,16 +39,17 @@ private Q_SLOTS:
         Caso("N", false, static_cast<int>(Qt::Key_N), false);
     }
     void LasPreguntasHablanEspanolYElNoEsLoPrevisto() {
-        QFETCH(bool, previsto);
-        QFETCH(int, tecla);
+        bool previsto = false, respuesta = false;
+        int tecla = 0;
+        DelCaso(previsto, tecla, respuesta);
         QStringList botones;
         ConVentanas ventanas([&](QMessageBox& caja) {
             for (const QAbstractButton* b : caja.buttons())
                 botones << b->text();
             QTest::keyClick(&caja, static_cast<Qt::Key>(tecla));
         });
-        QTEST(Preguntar(nullptr, " Confirme", "Desea Eliminar ? ", TipoMensaje::Critico, previsto),
-              "respuesta");
+        QCOMPARE(Preguntar(nullptr, " Confirme", "Desea Eliminar ? ", TipoMensaje::Critico, previsto),
+                 respuesta);
         botones.sort();
         QCOMPARE(botones, QStringList({"&No", "&Sí"}));
     }

@@ -1,34 +1,22 @@
-#include "prueba.h"
-
 #include "Cajas.h"
 #include "Instalacion.h"
 #include "frame/OrdenesPrincipal.h"
 #include "frame/Principal.h"
 #include "frame/calendario/Reloj.h"
 
-#include <QAction>
-#include <QDesktopServices>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QSet>
 #include <QSignalSpy>
-#include <QTimer>
 
-using namespace pastorix;
 using namespace prueba;
 
 class PruebaPrincipal : public QObject {
     Q_OBJECT
 
-private:
     QUrl m_abierto;
 
     static void VincularTodo(Principal& p) {
         for (const EntradaDeMenu& e : MenusDePrincipal())
-            if (e.clase == EntradaDeMenu::Clase::Orden &&
-                QString::fromUtf8(e.nombre) != QLatin1String("Mnu_Salir"))
-                p.Vincular(QString::fromUtf8(e.nombre), [] {});
+            if (e.clase == EntradaDeMenu::Clase::Orden && Q(e.nombre) != QLatin1String("Mnu_Salir"))
+                p.Vincular(Q(e.nombre), [] {});
     }
 
     // The letters that choose among those entries: one for each, and none twice, for the keyboard stops at the first.
@@ -38,9 +26,9 @@ private:
             const qsizetype i = a->text().indexOf('&');
             if (a->isSeparator() || a->objectName() == QLatin1String("MnuCausaPrincipal")) // never on the bar
                 continue;
-            QVERIFY2(i >= 0, qUtf8Printable(a->text()));
+            QVERIFY2(i >= 0, qPrintable(a->text()));
             const QChar letra = a->text().at(i + 1).toLower();
-            QVERIFY2(!letras.contains(letra), qUtf8Printable(a->text()));
+            QVERIFY2(!letras.contains(letra), qPrintable(a->text()));
             letras << letra;
         }
     }
@@ -58,8 +46,6 @@ private Q_SLOTS:
     // The state of every entry that depends on database and mode: V visible, h hidden; E enabled, d disabled.
     void EstadoPorEntradaYModo_data() {
         // inactivas: numbers are toolbar buttons
-        Columnas<int, QString, QString, QString, QString>("entrada", "usuario", "clave", "ocultas",
-                                                          "inactivas");
         Caso("main, anonymous", 0, "", "", "Mnu_ControlCli Mnu_ExpTD", "MnuT MnuT1 4");
         Caso("main, named", 0, "elopez", "", "Mnu_ControlCli Mnu_ExpTD", "MnuT MnuT1 Mnu_Veterinarios 3 4");
         Caso("main, central", 0, "CENTRAL", "oficina", "", "MnuT MnuT1");
@@ -70,11 +56,8 @@ private Q_SLOTS:
         Caso("personal, central", 1, "CENTRAL", "oficina", personal, "MnuT MnuT2");
     }
     void EstadoPorEntradaYModo() {
-        QFETCH(int, entrada);
-        QFETCH(QString, usuario);
-        QFETCH(QString, clave);
-        QFETCH(QString, ocultas);
-        QFETCH(QString, inactivas);
+        const auto [entrada, usuario, clave, ocultas, inactivas] =
+            DelCaso<int, QString, QString, QString, QString>();
         Arrancada i;
         i.PonerUsuarios();
         Principal p(i.sesion);
@@ -87,7 +70,7 @@ private Q_SLOTS:
         QStringList escondidas = ocultas.split(' ', Qt::SkipEmptyParts), apagadas = inactivas.split(' ');
         escondidas << "MnuCausaPrincipal";
         for (const EntradaDeMenu& e : MenusDePrincipal()) {
-            const QString nombre = QString::fromUtf8(e.nombre);
+            const QString nombre = Q(e.nombre);
             QVERIFY2(p.Orden(nombre)->isVisible() == !escondidas.contains(nombre), e.nombre);
             if (p.Orden(nombre)->isVisible()) // the toolkit calls whatever is hidden disabled
                 QVERIFY2(p.Orden(nombre)->isEnabled() == !apagadas.contains(nombre), e.nombre);
@@ -119,8 +102,7 @@ private Q_SLOTS:
     void LasOrdenesSeVinculanDesdeFuera() {
         Arrancada i;
         Principal p(i.sesion);
-        QVERIFY(!p.Orden("Mnu_Vacas")->isEnabled());
-        QVERIFY(!p.Boton(7)->isEnabled());
+        QVERIFY(!p.Orden("Mnu_Vacas")->isEnabled() && !p.Boton(7)->isEnabled());
         int veces = 0;
         p.Vincular("Mnu_Vacas", [&] { ++veces; });
         p.Orden("Mnu_Vacas")->trigger();
@@ -138,20 +120,6 @@ private Q_SLOTS:
         p.Vincular("Mnu_Nada", [] {});
     }
 
-    void LaCausaPrincipalSeEligeEnUnMenuDeContexto() {
-        Arrancada i;
-        Principal p(i.sesion);
-        bool elegida = false;
-        p.Vincular("MnuPpal", [&] { elegida = true; });
-        QTimer::singleShot(0, &p, [&] {
-            QMenu* menu = p.MenuCausaPrincipal();
-            QVERIFY(menu->isVisible());
-            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(p.Orden("MnuPpal")).center());
-        });
-        QCOMPARE(p.MenuCausaPrincipal()->exec(QPoint(50, 50)), p.Orden("MnuPpal"));
-        QVERIFY(elegida);
-    }
-
     void LosNombresSonUnicosYLasLetrasTambien() {
         Arrancada i;
         Principal p(i.sesion);
@@ -159,9 +127,7 @@ private Q_SLOTS:
         for (const EntradaDeMenu& e : MenusDePrincipal()) {
             QVERIFY2(!nombres.contains(e.nombre), e.nombre);
             nombres << e.nombre;
-            QVERIFY2(p.findChild<QAction*>(QString::fromUtf8(e.nombre)) ==
-                         p.Orden(QString::fromUtf8(e.nombre)),
-                     e.nombre);
+            QVERIFY2(p.findChild<QAction*>(Q(e.nombre)) == p.Orden(Q(e.nombre)), e.nombre);
         }
         for (const BotonDeBarra& b : BarraDePrincipal())
             QVERIFY2(!*b.texto || !p.Boton(b.indice)->icon().pixmap(32).isNull(), b.texto);
@@ -173,11 +139,10 @@ private Q_SLOTS:
     void ElHistorialGuardaDiezDias() {
         Arrancada i;
         for (const int hace : {0, 10, 11, 400})
-            Insertar(i.sesion.conexion, "Historial",
-                     {{"Equipo", Texto("CENTRAL")}, {"Fecha", Hoy().MasDias(-hace)}});
+            Insertar(i.sesion.conexion, "Historial", "Equipo=CENTRAL, Fecha", Hoy().MasDias(-hace));
         {
             Conexion personal = i.Abrir("BD_PradalP.mdb");
-            Insertar(personal, "Historial", {{"Equipo", Texto("X")}, {"Fecha", Hoy().MasDias(-400)}});
+            Insertar(personal, "Historial", "Equipo=X, Fecha", Hoy().MasDias(-400));
         }
         Principal p(i.sesion);
         QCOMPARE(Contar(i.sesion.conexion, "Historial"), 2L);
@@ -234,8 +199,7 @@ private Q_SLOTS:
         FijarHoy(Fecha::De(2026, 11, 23)); // midnight passes
         p.resize(700, 500);
         QCOMPARE(fecha->text(), u"23/11/2026"_s);
-        QVERIFY(modo->width() > fecha->width());
-        QVERIFY(p.minimumSizeHint().width() <= 700);
+        QVERIFY(modo->width() > fecha->width() && p.minimumSizeHint().width() <= 700);
     }
 };
 

@@ -1,18 +1,12 @@
-#include "prueba.h"
-
 #include "Instalacion.h"
 #include "frame/PuestaAlDia.h"
 #include "frame/calendario/Reloj.h"
 
-#include <sqlite3.h>
-
-using namespace pastorix;
 using namespace prueba;
 
 class PruebaPuestaAlDia : public QObject {
     Q_OBJECT
 
-private:
     std::unique_ptr<Arrancada> m_i;
     Conexion& C() { return m_i->sesion.conexion; }
 
@@ -28,9 +22,9 @@ private Q_SLOTS:
 
     void LasReparacionesDejanLaBaseAlDia() {
         Insertar(C(), "T_Servicios", "Id_Vaca=1, Año_Ref=2025, N_Parto=1, N_Servicio=1");
-        Insertar(C(), "T_Servicios", {{"Id_Vaca", 2.0}, {"Año_Ref", 2025.0}, {"N_Servicio", 1.0}});
-        Insertar(C(), "T_Partos", {{"Id_Parto", 1.0}, {"Id_Vaca", 1.0}, {"N_Parto", 0.0}});
-        Insertar(C(), "T_Partos", {{"Id_Parto", 2.0}, {"Id_Vaca", 1.0}, {"N_Parto", 1.0}});
+        Insertar(C(), "T_Servicios", "Id_Vaca=2, Año_Ref=2025, N_Servicio=1");
+        Insertar(C(), "T_Partos", "Id_Parto=1, Id_Vaca=1, N_Parto=0");
+        Insertar(C(), "T_Partos", "Id_Parto=2, Id_Vaca=1, N_Parto=1");
         Insertar(C(), "T_Cubriciones",
                  "Id_Cubricion=1, Id_Vaca=1, DescEnfReprod=0, DescEnfermedad=0, Txt_Otra_Causa=0");
         Insertar(C(), "T_Cubriciones",
@@ -54,7 +48,7 @@ private Q_SLOTS:
 
     void UnaColumnaDeAntesCambiaDeNombreConSusValores() {
         C().Execute("ALTER TABLE T_Cubriciones ADD COLUMN Desconocida DOUBLE");
-        Insertar(C(), "T_Cubriciones", {{"Id_Cubricion", 1.0}, {"Id_Vaca", 1.0}, {"Desconocida", 1.0}});
+        Insertar(C(), "T_Cubriciones", "Id_Cubricion=1, Id_Vaca=1, Desconocida=1");
         Reparar(C());
         QCOMPARE(Leer(C(), "SELECT DemoraServIPR FROM T_Cubriciones"), "1"s);
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, Leer(C(), "SELECT Desconocida FROM T_Cubriciones"));
@@ -67,7 +61,7 @@ private Q_SLOTS:
     // whose values nobody has copied.
     void UnBloqueoNoDejaElCambioDeNombreAMedias() {
         C().Execute("ALTER TABLE T_Cubriciones ADD COLUMN Desconocida DOUBLE");
-        Insertar(C(), "T_Cubriciones", {{"Id_Cubricion", 1.0}, {"Id_Vaca", 1.0}, {"Desconocida", 1.0}});
+        Insertar(C(), "T_Cubriciones", "Id_Cubricion=1, Id_Vaca=1, Desconocida=1");
         struct Otro {
             sqlite3* base = nullptr;
             int esperas = 7;
@@ -100,8 +94,7 @@ private Q_SLOTS:
         C().Execute("ALTER TABLE T_Cubriciones ADD COLUMN Desconocida DOUBLE");
         EnGrupo(C(), [&] {
             for (int i = 1; i <= 2000; ++i)
-                Insertar(C(), "T_Cubriciones",
-                         {{"Id_Cubricion", 1.0 * i}, {"Id_Vaca", 1.0}, {"Desconocida", i + 0.25}});
+                Insertar(C(), "T_Cubriciones", "Id_Cubricion, Id_Vaca=1, Desconocida", 1.0 * i, i + 0.25);
         });
         Reparar(C()); // so that the other repairs find nothing to write
         C().Execute("ALTER TABLE T_Cubriciones ADD COLUMN Desconocida DOUBLE");
@@ -129,11 +122,11 @@ private Q_SLOTS:
 
     void LasFilasSeAbrenUnaVezParaLasQueEstan() {
         QCOMPARE(InicializarAñosNaturales(C(), [](int, int) { QFAIL("no row"); }), 0L);
-        Insertar(C(), "T_Vacas", {{"Id_Vaca", 12001.0}, {"Id_Ganadero", 12.0}});
+        Insertar(C(), "T_Vacas", "Id_Vaca=12001, Id_Ganadero=12");
         Insertar(C(), "T_Vacas", "Id_Vaca=12002, Id_Ganadero=12, FechaBaja=31/12/2025");
-        Insertar(C(), "T_Vacas", {{"Id_Vaca", 57001.0}, {"Id_Ganadero", 57.0}});
+        Insertar(C(), "T_Vacas", "Id_Vaca=57001, Id_Ganadero=57");
         Insertar(C(), "T_IBRBVD", "Id_Vaca=12001, Id_Ganadero=12, AñoNat=2026, IBRsp=Positiva");
-        Insertar(C(), "T_IBRBVD", {{"Id_Vaca", 57001.0}, {"Id_Ganadero", 57.0}, {"AñoNat", 2025.0}});
+        Insertar(C(), "T_IBRBVD", "Id_Vaca=57001, Id_Ganadero=57, AñoNat=2025");
         QList<QPair<int, int>> avances;
         QCOMPARE(InicializarAñosNaturales(C(), [&](int h, int t) { avances << qMakePair(h, t); }), 7L);
         QCOMPARE(avances, (QList<QPair<int, int>>{{0, 2}, {1, 2}}));
@@ -149,7 +142,7 @@ private Q_SLOTS:
 
     void UnFalloAMediasConservaLoHecho() {
         for (int vaca = 1; vaca <= 3; ++vaca)
-            Insertar(C(), "T_Vacas", {{"Id_Vaca", 12000.0 + vaca}, {"Id_Ganadero", 12.0}});
+            Insertar(C(), "T_Vacas", "Id_Vaca, Id_Ganadero=12", 12000.0 + vaca);
         const auto romper = [](int hechas, int) {
             if (hechas == 2)
                 throw ErrorAlmacen(CodigoError::DiscoOFichero, "disco lleno");

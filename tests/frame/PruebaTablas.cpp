@@ -5,16 +5,6 @@
 #include "frame/Tablas.h"
 #include "frame/Ventanas.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QDialog>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QScreen>
-#include <QTableWidget>
-#include <QVBoxLayout>
-
-using namespace pastorix;
 using namespace prueba;
 
 // What all tables and windows do alike.
@@ -34,7 +24,7 @@ class PruebaTablas : public QObject {
                 {"Ñora", "1", "una\tnota\nlarga"}, {"zarza", "2", ""}, {"Nube", "3", "x"}};
             for (int f = 0; f < 3; ++f)
                 for (int c = 0; c < 3; ++c)
-                    tabla->setItem(f, c, new QTableWidgetItem(QString::fromUtf8(textos[f][c])));
+                    tabla->setItem(f, c, new QTableWidgetItem(Q(textos[f][c])));
             VestirTabla(*tabla);
             resize(500, 300);
             RecordarVentana(*this, clave);
@@ -141,15 +131,13 @@ private Q_SLOTS:
     }
 
     void LosTonosSeLeen_data() {
-        Columnas<QColor, QColor>("texto", "fondo");
         Caso("light", QColor(Qt::black), QColor(Qt::white));
         Caso("dark", QColor(230, 230, 230), QColor(30, 30, 30));
         Caso("pale", QColor(100, 100, 100), QColor(Qt::white));
         Caso("hardly apart", QColor(130, 130, 130), QColor(Qt::white));
     }
     void LosTonosSeLeen() {
-        QFETCH(QColor, texto);
-        QFETCH(QColor, fondo);
+        const auto [texto, fondo] = DelCaso<QColor, QColor>();
         const double pleno = Contraste(texto, fondo);
         const double atenuado = Contraste(Atenuado(texto, fondo), fondo);
         QVERIFY2(atenuado >= std::min(4.5, pleno), qPrintable(QString::number(atenuado)));

@@ -1,9 +1,7 @@
 #include "BaseDePrueba.h"
-#include "prueba.h"
 
 #include "registers/datos/Borrados.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 // The deletion cascades: what goes, what stays, and what a failure half way leaves.
@@ -12,26 +10,26 @@ class PruebaBorrados : public QObject {
 
     static void Sembrar(Base& b) {
         for (const double g : {12.0, 57.0}) {
-            b.Poner("T_Ganaderos", {{"Id_Ganadero", g}, {"Id_Direccion", 3.0}});
-            b.Poner("T_Direcciones", {{"Id_Direccion", 3.0}, {"Id_GV", g}});
+            b.Poner("T_Ganaderos", "Id_Ganadero, Id_Direccion=3", g);
+            b.Poner("T_Direcciones", "Id_Direccion=3, Id_GV", g);
             for (const char* t : {"T_AlimentacionInvernal", "T_AbonadoSuperficie", "T_IPR",
                                   "T_PastosComunales", "T_Vacunaciones", "T_SistemaProduccion"})
-                b.Poner(t, {{"Id_Ganadero", g}, {"AñoNatural", 2026}});
-            b.Poner("T_FechasVacu", {{"Id_Ganadero", g}, {"Ln", 1}});
-            b.Poner("T_Cebo", {{"Id_Cebo", 4.0}, {"Id_Ganadero", g}});
-            b.Poner("T_Cebo", {{"Id_Cebo", 5.0}, {"Id_Ganadero", g}});
-            b.Poner("T_Sementales", {{"Id_Semental", g * 1000}, {"Id_Ganadero", g}});
-            b.Poner("T_PatologiaSem", {{"Id_Animal", g * 1000}, {"ANatural", 2026}});
-            b.Poner("T_PatologiaSemR", {{"Id_Animal", g * 1000}, {"ANatural", 2026}});
+                b.Poner(t, "Id_Ganadero, AñoNatural=2026", g);
+            b.Poner("T_FechasVacu", "Id_Ganadero, Ln=1", g);
+            b.Poner("T_Cebo", "Id_Cebo=4, Id_Ganadero", g);
+            b.Poner("T_Cebo", "Id_Cebo=5, Id_Ganadero", g);
+            b.Poner("T_Sementales", "Id_Semental, Id_Ganadero", g * 1000, g);
+            b.Poner("T_PatologiaSem", "Id_Animal, ANatural=2026", g * 1000);
+            b.Poner("T_PatologiaSemR", "Id_Animal, ANatural=2026", g * 1000);
             for (const double v : {g * 1000 + 1, g * 1000 + 2}) {
-                b.Poner("T_Vacas", {{"Id_Vaca", v}, {"Id_Ganadero", g}});
-                b.Poner("T_Mamitis", {{"Id_Vaca", v}, {"Id_Teto", 1.0}});
-                b.Poner("T_Cubriciones", {{"Id_Vaca", v}});
-                b.Poner("T_Servicios", {{"Id_Vaca", v}});
-                b.Poner("T_Partos", {{"Id_Parto", v}, {"Id_Vaca", v}, {"Id_Cebo", 4.0}});
+                b.Poner("T_Vacas", "Id_Vaca, Id_Ganadero", v, g);
+                b.Poner("T_Mamitis", "Id_Vaca, Id_Teto=1", v);
+                b.Poner("T_Cubriciones", "Id_Vaca", v);
+                b.Poner("T_Servicios", "Id_Vaca", v);
+                b.Poner("T_Partos", "Id_Parto, Id_Vaca, Id_Cebo=4", v, v);
                 for (const char* t : {"T_CCVacas", "T_CCNATVACAS", "T_IBRBVD", "T_R_IBRBVD", "T_NEOSPIROSIS",
                                       "T_R_NEOSPIROSIS", "T_MAMIVACU"})
-                    b.Poner(t, {{"Id_Ganadero", g}, {"Id_Vaca", v}});
+                    b.Poner(t, "Id_Ganadero, Id_Vaca", g, v);
             }
         }
     }
@@ -49,14 +47,13 @@ private Q_SLOTS:
         Base b;
         Sembrar(b);
         EnGrupo(b.c, [&] { BorrarVaca(b.c, 12001, 12); });
-        QCOMPARE(b.Texto("SELECT Id_Vaca FROM T_Vacas ORDER BY Id_Vaca"), "12002/57001/57002"s);
+        QUEDA(b, "Id_Vaca FROM T_Vacas ORDER BY Id_Vaca", "12002/57001/57002");
         for (const char* t : {"T_Mamitis", "T_Cubriciones", "T_Servicios", "T_Partos", "T_CCVacas",
                               "T_CCNATVACAS", "T_IBRBVD", "T_R_IBRBVD", "T_NEOSPIROSIS", "T_R_NEOSPIROSIS"})
             QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM "s + t), "3"s);
-        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_MAMIVACU"), "4"s); // stays
+        QUEDA(b, "Count(Id_Vaca) AS N FROM T_MAMIVACU", "4"); // stays
         // the calf's fattening record goes under its farmer alone
-        QCOMPARE(b.Texto("SELECT Id_Ganadero, Id_Cebo FROM T_Cebo ORDER BY Id_Ganadero, Id_Cebo"),
-                 "12|5/57|4/57|5"s);
+        QUEDA(b, "Id_Ganadero, Id_Cebo FROM T_Cebo ORDER BY Id_Ganadero, Id_Cebo", "12|5/57|4/57|5");
     }
 
     void Ganadero() {
@@ -84,8 +81,8 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, EnGrupo(b.c, [&] { BorrarVaca(b.c, 12001, 12); }));
         // what was done before stays done, and durably; what comes after is untouched
         QCOMPARE(sqlite3_get_autocommit(b.c.Manejador()), 1);
-        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Vacas"), "3"s);
-        QCOMPARE(b.Texto("SELECT Count(Id_Vaca) AS N FROM T_Partos"), "4"s);
+        QUEDA(b, "Count(Id_Vaca) AS N FROM T_Vacas", "3");
+        QUEDA(b, "Count(Id_Vaca) AS N FROM T_Partos", "4");
     }
 };
 

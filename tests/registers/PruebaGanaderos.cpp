@@ -1,10 +1,8 @@
 #include "PuestoDeFichas.h"
-#include "prueba.h"
 
 #include "registers/DarBaja.h"
 #include "registers/Ganaderos.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 class PruebaGanaderos : public QObject {
@@ -15,10 +13,9 @@ class PruebaGanaderos : public QObject {
 private Q_SLOTS:
     void AltaYBaja() {
         PuestoDeFichas p;
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 5.0}, {"NombreVet", "Zoe"}, {"ApellidosVet", "Gil"}});
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
-        Ganaderos f(p.sesion);
-        Mostrar(f);
+        p.Poner("T_Veterinarios", "Id_Veterinario=5, NombreVet=Zoe, ApellidosVet=Gil");
+        p.Poner("T_Veterinarios", "Id_Veterinario=2, NombreVet=Ana");
+        AlaVista<Ganaderos> f(p.sesion);
         auto* vet = f.findChild<QComboBox*>(u"CD_Veterinarios"_s);
         auto* toros = f.findChild<QComboBox*>(u"Combo1"_s);
         QCOMPARE(vet->itemText(1), u"Zoe Gil"_s);
@@ -33,34 +30,29 @@ private Q_SLOTS:
         auto* tab = f.findChild<QTabWidget*>(u"TabGanaderos"_s);
         QCOMPARE(tab->tabText(2), u" Inicio Periodo Reproductivo "_s);
         BotonDe(f, "B_Añadir")->click();
-        QCOMPARE(CampoDe(f, 0)->text(), u"1"_s);
-        QCOMPARE(CampoDe(f, 12)->text(), u"22/11/2026"_s);
-        Teclear(f, 2, "Nora");
-        Teclear(f, 3, "Díaz");
-        Teclear(f, 15, "La Ñisu");
+        QCOMPARE(CampoDe(f, 0)->text() + u'|' + CampoDe(f, 12)->text(), u"1|22/11/2026"_s);
+        Teclear(f, {{2, "Nora"}, {3, "Díaz"}, {15, "La Ñisu"}});
         QCOMPARE(f.findChild<QLabel*>(u"Encabezado"_s)->text(), u"Nora Díaz (La Ñisu)"_s);
         toros->setCurrentIndex(1);
-        BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), u"Debe Indicar el Veterinario"_s);
+        QCOMPARE(p.CajaDe(BotonDe(f, "B_Guardar")), u"Debe Indicar el Veterinario"_s);
         QVERIFY(vet->hasFocus());
         vet->setCurrentIndex(1);
         BotonDe(f, "B_Guardar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 0);
         // farmer 1 owns the common bulls whatever was chosen; no address text, no address
-        QCOMPARE(p.Texto("SELECT Id_Ganadero, Nombre, Apodo, FechaAlta, TorosComun, Id_Veterinario, "
-                         "Id_Direccion FROM T_Ganaderos"),
-                 "1|Nora|La Ñisu|22/11/26|Sí|5|-"s);
-        QCOMPARE(p.Texto("SELECT Id_GV FROM T_Direcciones"), std::string());
+        QUEDA(p,
+              "Id_Ganadero, Nombre, Apodo, FechaAlta, TorosComun, Id_Veterinario, Id_Direccion FROM "
+              "T_Ganaderos",
+              "1|Nora|La Ñisu|22/11/26|Sí|5|-");
+        QUEDA(p, "Id_GV FROM T_Direcciones", "");
         QCOMPARE(Botones(f), u"AMER"_s);
         BotonDe(f, "B_Añadir")->click();
-        Teclear(f, 0, "57");
-        Teclear(f, 2, "Ana");
-        Teclear(f, 10, "600");
+        Teclear(f, {{0, "57"}, {2, "Ana"}, {10, "600"}});
         toros->setCurrentIndex(0);
         vet->setCurrentIndex(0);
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT TorosComun FROM T_Ganaderos WHERE Id_Ganadero = 57"), "No"s);
-        QCOMPARE(p.Texto("SELECT Id_GV, TelefonoP, TelefonoM FROM T_Direcciones"), "57|-|600"s);
+        QUEDA(p, "TorosComun FROM T_Ganaderos WHERE Id_Ganadero = 57", "No");
+        QUEDA(p, "Id_GV, TelefonoP, TelefonoM FROM T_Direcciones", "57|-|600");
 
         // removal: date and reason, shown again, and forgotten with the date
         const auto conDialogo = [&](const char* fecha, const char* motivo, const char* boton) {
@@ -76,28 +68,21 @@ private Q_SLOTS:
             BotonDe(f, "B_DarBaja")->click();
         };
         conDialogo("31/02/26", "x", "B_Aceptar");
-        const auto mal = p.cajas.Vistas();
-        QCOMPARE(mal.size(), 1);
-        QCOMPARE(mal[0].titulo, u"Atención!"_s);
-        QCOMPARE(mal[0].texto, u"La fecha no es correcta, dd/mm/aa"_s);
-        QCOMPARE(p.Texto("SELECT FechaBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"), "-"s);
+        QCOMPARE(p.cajas.Tomar(), QStringList{u"Atención!|La fecha no es correcta, dd/mm/aa"_s});
+        QUEDA(p, "FechaBaja FROM T_Ganaderos WHERE Id_Ganadero = 57", "-");
         conDialogo("1/11/26", "Venta d'a casería", "B_Aceptar");
-        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"),
-                 "01/11/26|Venta d'a casería"s);
+        QUEDA(p, "FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57",
+              "01/11/26|Venta d'a casería");
         QCOMPARE(CampoDe(f, 13)->text(), u"1/11/26"_s);
         BotonDe(f, "B_MotivoBaja")->click();
-        const auto motivo = p.cajas.Vistas();
-        QCOMPARE(motivo[0].titulo, u"Causa de la Baja."_s);
-        QCOMPARE(motivo[0].texto, u"Venta d'a casería"_s);
+        QCOMPARE(p.cajas.Tomar(), QStringList{u"Causa de la Baja.|Venta d'a casería"_s});
         Teclear(f, 13, "");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57"), "-|-"s);
+        QUEDA(p, "FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 57", "-|-");
 
-        p.cajas.Responder(true);
-        BotonDe(f, "B_Borrar")->click();
-        QCOMPARE(p.Caja(), u"Eliminar Ganadero: Ana "_s);
-        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Ganaderos"), "1"s);
-        QCOMPARE(p.Texto("SELECT Id_GV FROM T_Direcciones"), std::string());
+        QCOMPARE(p.CajaDe(BotonDe(f, "B_Borrar"), true), u"Eliminar Ganadero: Ana "_s);
+        QUEDA(p, "Id_Ganadero FROM T_Ganaderos", "1");
+        QUEDA(p, "Id_GV FROM T_Direcciones", "");
         QCOMPARE(Botones(f), u"AR"_s);
         QCOMPARE(CampoDe(f, 2)->text(), QString());
         f.close();
@@ -106,11 +91,10 @@ private Q_SLOTS:
     // The list of fattened animals: of this farmer alone, and after an animal's sheet the row chosen stays chosen, wherever it stands now.
     void ListaDeCebo() {
         PuestoDeFichas p;
-        p.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Nombre", "Nora"}});
-        p.Poner("T_Vacas", {{"Id_Vaca", 1200001.0}, {"Id_Ganadero", 12.0}, {"Nombre", "Luna"}});
+        p.Poner("T_Ganaderos", "Id_Ganadero=12, Nombre=Nora");
+        p.Poner("T_Vacas", "Id_Vaca=1200001, Id_Ganadero=12, Nombre=Luna");
         const auto animal = [&](double ganadero, double id, int año, double vaca) {
-            p.Poner("T_Cebo",
-                    {{"Id_Ganadero", ganadero}, {"Id_Cebo", id}, {"AñoRef", año}, {"Id_Vaca", vaca}});
+            p.Poner("T_Cebo", "Id_Ganadero, Id_Cebo, AñoRef, Id_Vaca", ganadero, id, año, vaca);
         };
         animal(12, 1, 2025, 1200001);
         animal(12, 2, 2026, 0);
@@ -127,8 +111,12 @@ private Q_SLOTS:
                      {}});
         Mostrar(f);
         auto* tab = f.findChild<QTabWidget*>(u"TabGanaderos"_s);
-        QVERIFY(!tab->isTabEnabled(1));
+        const auto conGanadero = [tab](bool si) {
+            return tab->isTabEnabled(1) == si && tab->isTabEnabled(2) == si && tab->isTabEnabled(3) == si;
+        };
+        QVERIFY(conGanadero(false));
         f.CargarFicha(12);
+        QVERIFY(conGanadero(true));
         tab->setCurrentIndex(1);
         auto* grid = f.findChild<QTableWidget*>(u"GridCebo"_s);
         const auto filas = [&] {
@@ -140,8 +128,7 @@ private Q_SLOTS:
         };
         QCOMPARE(filas(), u"2* 1Luna "_s);
         grid->setFocus();
-        QTest::keyClick(grid, Qt::Key_Down);
-        QTest::keyClick(grid, Qt::Key_Return);
+        Teclas(grid, {Qt::Key_Down, Qt::Key_Return});
         QCOMPARE(filas(), u"1Luna* 2 "_s);
         BotonDe(f, "B_AñadirCebo")->click();
         QCOMPARE(filas(), u"4 1Luna* 2 "_s);
@@ -149,7 +136,7 @@ private Q_SLOTS:
         QCOMPARE(grid->currentRow(), 2);
         QCOMPARE(ordenes, "12:1 12: "s);
         BotonDe(f, "B_Añadir")->click(); // a farmer that is not there yet has none
-        QVERIFY(!tab->isTabEnabled(1) && grid->rowCount() == 0);
+        QVERIFY(conGanadero(false) && grid->rowCount() == 0);
     }
 };
 

@@ -1,8 +1,8 @@
 #include "PuestoDeFichas.h"
-#include "prueba.h"
 
 #include "frame/ficha/CampoTexto.h"
 #include "registers/Ganaderos.h"
+#include "registers/VentanaHoy.h"
 #include "registers/Veterinarios.h"
 #include "registers/datos/AsuntosSanidad.h"
 #include "registers/datos/Mamitis.h"
@@ -11,11 +11,6 @@
 #include "registers/sementales/Sementales.h"
 #include "registers/vacas/Vacas.h"
 
-#include <QRegularExpression>
-#include <QScreen>
-#include <QToolButton>
-
-using namespace pastorix;
 using namespace prueba;
 
 // What all record sheets promise: nothing that stands on them is lost, and nothing that nobody touched changes.
@@ -26,11 +21,9 @@ private Q_SLOTS:
     // A reader of another program makes the commit fail: the record is not there, and is still to be added.
     void AltaSinConfirmar() {
         PuestoDeFichas p;
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        AlaVista<Veterinarios> f(p.sesion);
         BotonDe(f, "B_Añadir")->click();
-        Teclear(f, 2, "Ana");
-        Teclear(f, 14, "ana");
+        Teclear(f, {{2, "Ana"}, {14, "ana"}});
         sqlite3_busy_timeout(p.sesion.conexion.Manejador(), 0);
         Conexion lector;
         lector.AbrirFichero(p.sesion.conexion.Fichero(), kClave);
@@ -43,20 +36,17 @@ private Q_SLOTS:
         BotonDe(f, "B_Cancelar")->click();
         QCOMPARE(p.cajas.Vistas().size(), 1);
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT NombreVet, Usuario FROM T_Veterinarios"), "Ana|ana"s);
+        QUEDA(p, "NombreVet, Usuario FROM T_Veterinarios", "Ana|ana");
         QVERIFY(f.findChild<QLabel*>(u"Estado"_s)->text().startsWith(u"Guardado "_s));
     }
 
     // What a column holds beyond what the field shows: centuries, long texts, texts that are no dates.
     void LoQueNadieToco() {
         PuestoDeFichas p;
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
+        p.Poner("T_Veterinarios", "Id_Veterinario=2, NombreVet=Ana");
         for (const auto& [id, baja] : {std::pair{12.0, "01/02/1890"}, {14.0, "31/12/2105"}, {16.0, "pronto"}})
-            p.Poner("T_Ganaderos", {{"Id_Ganadero", id},
-                                    {"Nombre", "Nora"},
-                                    {"Id_Veterinario", 2.0},
-                                    {"FechaBaja", baja},
-                                    {"MotivoBaja", "x"}});
+            p.Poner("T_Ganaderos", "Id_Ganadero, Nombre=Nora, Id_Veterinario=2, FechaBaja, MotivoBaja=x", id,
+                    baja);
         Crudo(p.sesion.conexion, "UPDATE T_Ganaderos SET Apodo = printf('%.*c', 300, 'y')");
         const char* const sql = "SELECT FechaBaja, MotivoBaja, Apodo FROM T_Ganaderos";
         const auto crudo = [&] {
@@ -68,24 +58,22 @@ private Q_SLOTS:
             return todo;
         };
         const auto antes = crudo();
-        Ganaderos f(p.sesion);
-        Mostrar(f);
+        AlaVista<Ganaderos> f(p.sesion);
         for (const double id : {12.0, 14.0, 16.0}) {
             f.CargarFicha(id);
             Teclear(f, 3, "Gil");
             BotonDe(f, "B_Guardar")->click();
         }
-        QCOMPARE(p.Texto("SELECT Apellidos FROM T_Ganaderos"), "Gil/Gil/Gil"s);
+        QUEDA(p, "Apellidos FROM T_Ganaderos", "Gil/Gil/Gil");
         QVERIFY(crudo() == antes);
         Teclear(f, 13, "");
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 16"), "-|-"s);
+        QUEDA(p, "FechaBaja, MotivoBaja FROM T_Ganaderos WHERE Id_Ganadero = 16", "-|-");
     }
 
     // Rows deleted to be written anew, and one of them cannot be: all are as they were.
     void ConjuntosEnteros_data() {
         // indice: that the rewrite trips over
-        Columnas<QString, QString>("indice", "tabla");
         Caso("farm years", "T_IPR (IPRPrimNov)", "T_IPR");
         Caso("health, cycles", "T_CCVacas (CCmar)", "T_CCVacas");
         Caso("health, years", "T_CCNATVACAS (CCmar)", "T_CCNATVACAS");
@@ -93,22 +81,20 @@ private Q_SLOTS:
         Caso("bull", "T_PatologiaSem (IBRsp)", "T_PatologiaSem");
     }
     void ConjuntosEnteros() {
-        QFETCH(QString, indice);
-        QFETCH(QString, tabla);
+        const auto [indice, tabla] = DelCaso<QString, QString>();
         PuestoDeFichas p;
         auto& c = p.sesion.conexion;
-        p.Poner("T_Vacas", {{"Id_Vaca", 1.0}, {"Id_Ganadero", 12.0}});
+        p.Poner("T_Vacas", "Id_Vaca=1, Id_Ganadero=12");
         for (const int año : {2024, 2025}) {
             const auto marca = std::to_string(año);
-            p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}, {"IPRPrimNov", marca}});
-            p.Poner("T_Cubriciones", {{"Id_Vaca", 1.0}, {"Año_Ref", año}, {"N_Parto", año}});
-            p.Poner("T_CCVacas",
-                    {{"Id_Vaca", 1.0}, {"AñoRef", año}, {"NumParto", año}, {"CCmar", double(año)}});
-            p.Poner("T_CCNATVACAS", {{"Id_Vaca", 1.0}, {"AñoNat", año}, {"CCmar", double(año)}});
-            p.Poner("T_PatologiaSem", {{"Id_Animal", 9.0}, {"ANatural", año}, {"IBRsp", marca}});
+            p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural, IPRPrimNov", año, marca);
+            p.Poner("T_Cubriciones", "Id_Vaca=1, Año_Ref, N_Parto", año, año);
+            p.Poner("T_CCVacas", "Id_Vaca=1, AñoRef, NumParto, CCmar", año, año, double(año));
+            p.Poner("T_CCNATVACAS", "Id_Vaca=1, AñoNat, CCmar", año, double(año));
+            p.Poner("T_PatologiaSem", "Id_Animal=9, ANatural, IBRsp", año, marca);
         }
         for (const double teto : {1.0, 2.0, 3.0, 4.0})
-            p.Poner("T_Mamitis", {{"Id_Vaca", 1.0}, {"Id_Teto", teto}, {"DescMamitis", TextoNumero(teto)}});
+            p.Poner("T_Mamitis", "Id_Vaca=1, Id_Teto, DescMamitis", teto, TextoNumero(teto));
         const auto sql = "SELECT * FROM " + tabla.toStdString();
         const auto antes = p.Texto(sql);
         Crudo(c, ("CREATE UNIQUE INDEX roto ON " + indice.toStdString()).c_str());
@@ -137,11 +123,10 @@ private Q_SLOTS:
     void GanaderoDeLaVaca() {
         PuestoDeFichas p;
         for (const double g : {12.0, 57.0})
-            p.Poner("T_Ganaderos", {{"Id_Ganadero", g}, {"Nombre", "G"}});
-        p.Poner("T_Vacas", {{"Id_Vaca", 1.0}, {"Nombre", "Luna"}, {"Id_Ganadero", 12.0}});
-        p.Poner("T_Vacas", {{"Id_Vaca", 2.0}, {"Nombre", "Mora"}});
-        Vacas f(p.sesion, {});
-        Mostrar(f);
+            p.Poner("T_Ganaderos", "Id_Ganadero, Nombre=G", g);
+        p.Poner("T_Vacas", "Id_Vaca=1, Nombre=Luna, Id_Ganadero=12");
+        p.Poner("T_Vacas", "Id_Vaca=2, Nombre=Mora");
+        AlaVista<Vacas> f(p.sesion, OrdenesDeVaca{});
         f.CargarFicha(1);
         BotonDe(f, "B_Modificar")->click();
         auto* icono = f.findChild<QToolButton*>(u"IconoBusDato(1)"_s);
@@ -157,16 +142,15 @@ private Q_SLOTS:
         });
         icono->click();
         BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Texto("SELECT Id_Ganadero FROM T_Vacas"), "12/12"s);
+        QUEDA(p, "Id_Ganadero FROM T_Vacas", "12/12");
         QVERIFY(observacion->isEnabled());
     }
 
     // Enter on the code reads the record, the shown one too, and stays for the next; 0 is told like any code that is not there.
     void IntroEnElCodigo() {
         PuestoDeFichas p;
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        p.Poner("T_Veterinarios", "Id_Veterinario=2, NombreVet=Ana");
+        AlaVista<Veterinarios> f(p.sesion);
         const auto entrar = [&](const char* codigo) {
             Teclear(f, 0, codigo);
             QTest::keyClick(CampoDe(f, 0), Qt::Key_Return);
@@ -186,9 +170,8 @@ private Q_SLOTS:
     // Alt with the letter of a button that is off means the button: nothing is typed, and no edit begins.
     void LetraDeBotonApagado() {
         PuestoDeFichas p;
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        p.Poner("T_Veterinarios", "Id_Veterinario=2, NombreVet=Ana");
+        AlaVista<Veterinarios> f(p.sesion);
         f.CargarFicha(2);
         CampoDe(f, 2)->setFocus();
         QTest::keyClick(CampoDe(f, 2), Qt::Key_G, Qt::AltModifier);
@@ -199,8 +182,7 @@ private Q_SLOTS:
     // A text that is no date is told as such from the moment the field is left; a day on and back by keys.
     void FechasQueNoSon() {
         PuestoDeFichas p;
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        AlaVista<Veterinarios> f(p.sesion);
         BotonDe(f, "B_Añadir")->click();
         auto* alta = static_cast<CampoTexto*>(CampoDe(f, 12));
         const auto* pie = f.findChild<QLabel*>(u"Reparos"_s);
@@ -223,14 +205,13 @@ private Q_SLOTS:
     void VolverAlAnterior() {
         PuestoDeFichas p;
         for (const double id : {2.0, 3.0, 4.0})
-            p.Poner("T_Veterinarios", {{"Id_Veterinario", id}, {"NombreVet", "V"}});
+            p.Poner("T_Veterinarios", "Id_Veterinario, NombreVet=V", id);
         const auto volver = [](Ficha& f) {
             QTest::keyClick(CampoDe(f, 2), Qt::Key_Left, Qt::AltModifier);
             return f.Clave();
         };
         {
-            Veterinarios f(p.sesion);
-            Mostrar(f);
+            AlaVista<Veterinarios> f(p.sesion);
             QCOMPARE(volver(f), 0.0);
             QVERIFY(!f.findChild<QLabel*>(u"Estado"_s)->text().isEmpty());
             f.CargarFicha(2);
@@ -244,13 +225,11 @@ private Q_SLOTS:
             BotonDe(f, "B_Cancelar")->click();
             f.close();
         }
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        AlaVista<Veterinarios> f(p.sesion);
         QCOMPARE(f.Clave(), 0.0); // nothing is shown unasked
         QCOMPARE(volver(f), 3.0);
         PuestoDeFichas otra;
-        Veterinarios g(otra.sesion);
-        Mostrar(g);
+        AlaVista<Veterinarios> g(otra.sesion);
         QCOMPARE(volver(g), 0.0);
     }
 
@@ -271,17 +250,71 @@ private Q_SLOTS:
                     if (tabla->isColumnHidden(c) || !titulo->text().contains(clave))
                         continue;
                     ++claves;
-                    QVERIFY2(titulo->toolTip().size() > titulo->text().size(),
-                             qUtf8Printable(titulo->text()));
+                    QVERIFY2(titulo->toolTip().size() > titulo->text().size(), qPrintable(titulo->text()));
                 }
             hoja->show();
             const auto pantalla = hoja->screen()->availableSize();
             QVERIFY2(hoja->width() < pantalla.width() && hoja->height() < pantalla.height(),
-                     qUtf8Printable(hoja->objectName()));
+                     qPrintable(hoja->objectName()));
         }
         QVERIFY(claves > 50);
     }
 };
 
+// What was done in this session, told and put back.
+class PruebaHoy : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void UnaVacaDeVuelta() {
+        PuestoDeFichas p;
+        p.sesion.diario = std::make_unique<Diario>(p.sesion.conexion, Ahora);
+        p.Poner("T_Ganaderos", "Id_Ganadero=12, Apodo=La Nora");
+        p.Poner("T_Vacas", "Id_Vaca=1200001, Id_Ganadero=12, Nombre=Luna");
+        p.Poner("T_Cubriciones", "Id_Cubricion=5, Id_Vaca=1200001, Año_Ref=2026, N_Parto=2");
+        p.Poner("T_Cebo", "Id_Ganadero=12, Id_Cebo=3");
+        {
+            AlaVista<Vacas> f(p.sesion, OrdenesDeVaca{});
+            f.CargarFicha(1200001);
+            Teclear(f, 1, "Luna Nueva");
+            f.Guardar();
+            p.cajas.Responder(true);
+            BotonDe(f, "B_Borrar")->click();
+            (void)p.cajas.Vistas();
+        }
+        QUEDA(p, "Id_Vaca FROM T_Vacas", "");
+        VentanaHoy hoy(p.sesion);
+        Hecho abierto;
+        hoy.alAbrir = [&](const Hecho& h) { abierto = h; };
+        Mostrar(hoy);
+        auto* tabla = hoy.findChild<QTableWidget*>(u"GridHoy"_s);
+        const auto linea = [&](int fila) { return tabla->item(fila, 1)->text(); };
+        QVERIFY2(linea(0).startsWith(u"Vaca 1200001: eliminación"_s), qPrintable(linea(0)));
+        QVERIFY2(linea(0).contains(u"cubrición"_s), qPrintable(linea(0)));
+        QCOMPARE(linea(tabla->rowCount() - 1), u"Ganadero La Nora (12): alta"_s);
+        QCOMPARE(linea(tabla->rowCount() - 4), u"Ganadero La Nora (12): cebo"_s);
+
+        p.cajas.Responder(true);
+        BotonDe(hoy, "B_Deshacer")->click();
+        QVERIFY(p.Caja().contains(u"eliminación"_s));
+        QCOMPARE(p.Texto("SELECT Nombre FROM T_Vacas") + p.Texto("SELECT Id_Cubricion FROM T_Cubriciones"),
+                 "Luna Nueva5"s);
+        QCOMPARE(linea(0), u"Vaca Luna Nueva (1200001): alta, mamitis, cubrición"_s);
+        tabla->setCurrentCell(
+            1, 0); // her change, with rows that another unit has touched since: told, nothing done
+        QVERIFY2(linea(1).contains(u"modificación"_s), qPrintable(linea(1)));
+        p.sesion.conexion.Execute("UPDATE T_Vacas SET Crotal = 'X'");
+        p.cajas.Responder(true);
+        BotonDe(hoy, "B_Deshacer")->click();
+        QVERIFY(p.cajas.Tomar().last().contains(u"han cambiado después"_s));
+        QUEDA(p, "Nombre FROM T_Vacas", "Luna Nueva");
+        tabla->setCurrentCell(0, 0);
+        BotonDe(hoy, "B_Abrir")->click();
+        QCOMPARE(abierto.id, 1200001.0);
+        QVERIFY(abierto.ficha == FichaDe::Vaca);
+    }
+};
+
 PRUEBA(PruebaHojas)
+PRUEBA(PruebaHoy)
 #include "PruebaHojas.moc"

@@ -1,10 +1,10 @@
 #include "PuestoDeFichas.h"
-#include "prueba.h"
 
 #include "frame/ficha/CampoMemo.h"
 #include "frame/ficha/LineasEditables.h"
+#include "frame/ficha/RejillaHijos.h"
+#include "frame/ficha/TiraNavegacion.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
@@ -41,7 +41,7 @@ private Q_SLOTS:
         Cajas cajas;
         LineasEditables l(kDefinicion);
         QString quitada;
-        l.alQuitar = [&](const Linea& q) { quitada = QString::fromStdString(q.celdas[0]); };
+        l.alQuitar = [&](const Linea& q) { quitada = Q(q.celdas[0]); };
         Mostrar(l);
         QCOMPARE(Pintada(l), u"||"_s); // without data one empty line
         auto* grid = l.findChild<QTableWidget*>();
@@ -118,6 +118,17 @@ private Q_SLOTS:
         }
         cajas.Vistas();
         QCOMPARE(quitada, u"2025"_s);
+        l.Abandonar();
+        tecla(Qt::Key_Insert);
+        linea("2040", "1/3/2205"); // of a century that two figures do not tell
+        combo->setFocus();
+        tecla(Qt::Key_Return);
+        QVERIFY(Pintada(l).endsWith(u"/2040|01/03/2205|"_s));
+        cajas.Responder(true);
+        grid->setFocus();
+        grid->setCurrentCell(1, 0);
+        tecla(Qt::Key_Delete);
+        cajas.Vistas();
         QCOMPARE(Pintada(l), u"2026|01/11/25|Aceptable"_s);
     }
 
@@ -158,5 +169,60 @@ private Q_SLOTS:
     }
 };
 
+// Pieces of the sheets with sub-sheets and child rows.
+class PruebaPiezas : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Tira() {
+        TiraNavegacion tira;
+        auto* primera = new QWidget;
+        auto* segunda = new QWidget;
+        tira.Añadir("hoja", u"&Uno"_s, primera);
+        tira.Añadir("hoja", u"&Dos"_s, segunda);
+        Mostrar(tira);
+        QVERIFY(primera->isVisible() && !segunda->isVisible());
+        QTest::keyClick(&tira, Qt::Key_D, Qt::AltModifier);
+        QTRY_VERIFY(segunda->isVisible() && !primera->isVisible());
+        QCOMPARE(tira.Actual(), 1);
+        tira.findChild<QToolButton*>(u"IconoNav(0)"_s)->click();
+        QVERIFY(primera->isVisible());
+    }
+
+    void Hijos() {
+        Base b;
+        for (int n = 1; n <= 3; ++n)
+            b.Poner("T_Partos", "Id_Parto, N_Parto, Fecha_Parto", double(n), n,
+                    n == 2 ? Valor() : Valor(F("1/2/2026")));
+        static constexpr ColumnaHijos kColumnas[] = {{"N_Parto", "Nº", 4}, {"Fecha_Parto", "Fecha", 10}};
+        RejillaHijos rejilla(kColumnas);
+        std::vector<int> elegidas, abiertas;
+        rejilla.alElegir = [&](int f) { elegidas.push_back(f); };
+        rejilla.alAbrir = [&](int f) { abiertas.push_back(f); };
+        Recordset rs(b.c, "SELECT * FROM T_Partos ORDER BY N_Parto DESC");
+        rejilla.Llenar(rs);
+        Mostrar(rejilla);
+        QVERIFY(elegidas.empty()); // showing rows chooses none
+        QCOMPARE(rejilla.item(0, 0)->text() + u'|' + rejilla.item(1, 1)->text(), u"3|"_s);
+        QVERIFY(EsNulo(rejilla.De(1, 1)));
+        rejilla.setFocus();
+        QTest::keyClick(&rejilla, Qt::Key_Down);
+        QTest::keyClick(&rejilla, Qt::Key_Right); // the same row
+        QTest::keyClick(&rejilla, Qt::Key_Return);
+        QCOMPARE(elegidas, std::vector{1});
+        QCOMPARE(abiertas, std::vector{1});
+        QTest::keyClicks(&rejilla, u"9"_s);
+        QCOMPARE(rejilla.item(1, 0)->text(), u"2"_s); // read-only
+        rejilla.hideColumn(0); // as in the grid of matings: the arrows choose all the same
+        rejilla.clearSelection();
+        QTest::keyClick(&rejilla, Qt::Key_Down);
+        QVERIFY(!rejilla.selectedItems().isEmpty());
+        QCOMPARE(rejilla.currentRow(), 2);
+        rejilla.Vaciar();
+        QCOMPARE(rejilla.Filas(), 0);
+    }
+};
+
 PRUEBA(PruebaLineas)
+PRUEBA(PruebaPiezas)
 #include "PruebaLineas.moc"

@@ -1,25 +1,22 @@
 #include "PuestoDeFichas.h"
-#include "prueba.h"
 
 #include "frame/calendario/Formatos.h"
 #include "registers/Ganaderos.h"
 #include "registers/datos/Resumen.h"
 #include "reports/indices/IndicesTec.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
 
 // Farmer 12 with two bulls (1,5 each), the second gone on 1 June 2025, and cows in the herd since 2023.
 void PonerRebaño(PuestoDeFichas& p) {
-    p.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Nombre", "Nora"}, {"ObsSP", "extensivo"}});
-    p.Poner("T_Sementales", {{"Id_Semental", 1201.0}, {"Id_Ganadero", 12.0}});
-    p.Poner("T_Sementales", {{"Id_Semental", 1202.0}, {"Id_Ganadero", 12.0}, {"FechaBaja", F("1/6/2025")}});
+    p.Poner("T_Ganaderos", "Id_Ganadero=12, Nombre=Nora, ObsSP=extensivo");
+    p.Poner("T_Sementales", "Id_Semental=1201, Id_Ganadero=12");
+    p.Poner("T_Sementales", "Id_Semental=1202, Id_Ganadero=12, FechaBaja=1/6/2025");
     for (const double vaca : {120001.0, 120002.0, 120003.0, 120004.0}) {
-        p.Poner("T_Vacas", {{"Id_Vaca", vaca}, {"Id_Ganadero", 12.0}, {"NombreC", TextoNumero(vaca)}});
-        p.Poner("T_Cubriciones",
-                {{"Id_Vaca", vaca}, {"Año_Ref", 2024}, {"N_Parto", 1}, {"Fecha_Parto", F("5/3/2023")}});
+        p.Poner("T_Vacas", "Id_Vaca, Id_Ganadero=12, NombreC", vaca, TextoNumero(vaca));
+        p.Poner("T_Cubriciones", "Id_Vaca, Año_Ref=2024, N_Parto=1, Fecha_Parto=5/3/2023", vaca);
     }
 }
 
@@ -43,44 +40,32 @@ private Q_SLOTS:
     // 1/12/25 one bull has gone: 5,5, which the load rounds to 6. So 2024 has 7, and 2025 the mean 6,5, shown as 7.
     void Cifras_data() {
         // fila: field=value; year 2025
-        Columnas<QString, QString, QString>("tabla", "fila", "linea");
-        const auto caso = [](const char* nombre, const char* tabla, const char* fila, const char* linea) {
-            Caso(nombre, tabla, fila, linea);
-        };
-        caso("only IPR", "", "", "2025|7|Inv.||||||||||");
-        caso("no year of its own", "T_SistemaProduccion", "TipoSP=SE", "2025|7|Inv.|||||||||SE|");
-        caso("land", "T_AbonadoSuperficie", "Abonado=Bueno,HasNoCom=20,HasAbonadas=4.5",
+        Caso("only IPR", "", "", "2025|7|Inv.||||||||||");
+        Caso("no year of its own", "T_SistemaProduccion", "TipoSP=SE", "2025|7|Inv.|||||||||SE|");
+        Caso("land", "T_AbonadoSuperficie", "Abonado=Bueno,HasNoCom=20,HasAbonadas=4.5",
              "2025|7|Inv.|Bueno|22|0,4|||||||"); // 22,5 to the even one; 0,35 away from zero
-        caso("no land", "T_AbonadoSuperficie", "Abonado=Bueno,HasNoCom=0,HasAbonadas=4",
+        Caso("no land", "T_AbonadoSuperficie", "Abonado=Bueno,HasNoCom=0,HasAbonadas=4",
              "2025|7|Inv.|Bueno|||||||||");
-        caso("land unknown", "T_AbonadoSuperficie", "HasAbonadas=4", "2025|7|Inv.||||||||||");
-        caso("pastures", "T_PastosComunales", "InicioPC=1/5/25,FinPC=31/5/25,AlimPC=Buena,novvacaspc=3.5",
+        Caso("land unknown", "T_AbonadoSuperficie", "HasAbonadas=4", "2025|7|Inv.||||||||||");
+        Caso("pastures", "T_PastosComunales", "InicioPC=1/5/25,FinPC=31/5/25,AlimPC=Buena,novvacaspc=3.5",
              "2025|7|Inv.||||30|Buena|50||||");
-        caso("pastures without start", "T_PastosComunales", "FinPC=2/1/1900", "2025|7|Inv.||||3||0||||");
-        caso("pastures empty", "T_PastosComunales", "AlimPC=Buena", "2025|7|Inv.||||0|Buena|0||||");
-        caso("winter", "T_AlimentacionInvernal", "InicioPI=30/11/24,FinPI=1/3/25,AlimPI=Bueno",
+        Caso("pastures without start", "T_PastosComunales", "FinPC=2/1/1900", "2025|7|Inv.||||3||0||||");
+        Caso("pastures empty", "T_PastosComunales", "AlimPC=Buena", "2025|7|Inv.||||0|Buena|0||||");
+        Caso("winter", "T_AlimentacionInvernal", "InicioPI=30/11/24,FinPI=1/3/25,AlimPI=Bueno",
              "2025|7|Inv.|||||||91|Bueno||");
-        caso("winter without end", "T_AlimentacionInvernal", "InicioPI=30/11/24,AlimPI=Bueno",
+        Caso("winter without end", "T_AlimentacionInvernal", "InicioPI=30/11/24,AlimPI=Bueno",
              "2025|7|Inv.||||||||Bueno||");
-        caso("winter no date", "T_AlimentacionInvernal", "InicioPI=31/02/24,FinPI=1/3/25",
+        Caso("winter no date", "T_AlimentacionInvernal", "InicioPI=31/02/24,FinPI=1/3/25",
              "2025|7|Inv.||||||||||");
     }
     void Cifras() {
-        QFETCH(QString, tabla);
-        QFETCH(QString, fila);
-        QFETCH(QString, linea);
+        const auto [tabla, fila, linea] = DelCaso<QString, QString, QString>();
         PuestoDeFichas p;
         PonerRebaño(p);
-        p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", 2025}, {"PartosAgrup", "Inv."}});
-        if (!tabla.isEmpty()) {
-            Recordset rs(p.sesion.conexion, "SELECT * FROM " + tabla.toStdString());
-            rs.AddNew();
-            rs["Id_Ganadero"] = 12.0;
-            rs["AñoNatural"] = 2025;
-            for (const auto& par : fila.split(u','))
-                rs[par.section(u'=', 0, 0).toStdString()] = par.section(u'=', 1).toStdString();
-            rs.Update();
-        }
+        p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural=2025, PartosAgrup=Inv.");
+        if (!tabla.isEmpty())
+            p.PonerFila(tabla.toStdString(),
+                        u"Id_Ganadero=12, AñoNatural=2025, "_s + QString(fila).replace(u","_s, u", "_s), {});
         QCOMPARE(Lineas(p), linea.toStdString());
     }
 
@@ -88,11 +73,11 @@ private Q_SLOTS:
         PuestoDeFichas p;
         PonerRebaño(p);
         QCOMPARE(Lineas(p), std::string());
-        p.Poner("T_AbonadoSuperficie", {{"Id_Ganadero", 12.0}, {"AñoNatural", 2020}, {"Abonado", "Bueno"}});
-        p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"PrimVac", "1/1/20"}}); // the sheet without years made it
-        p.Poner("T_IPR", {{"Id_Ganadero", 14.0}, {"AñoNatural", 2025}});
+        p.Poner("T_AbonadoSuperficie", "Id_Ganadero=12, AñoNatural=2020, Abonado=Bueno");
+        p.Poner("T_IPR", "Id_Ganadero=12, PrimVac=1/1/20"); // the sheet without years made it
+        p.Poner("T_IPR", "Id_Ganadero=14, AñoNatural=2025");
         for (const int año : {2026, 2024, 2025, 0})
-            p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}});
+            p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural", año);
         // 2026: one bull and four cows at both ends, 6; year 0 has no dates and so no load
         const std::string vacias(10, '|');
         QCOMPARE(Lineas(p), "0||" + vacias + "/2024|7|" + vacias + "/2025|7|" + vacias + "/2026|6|" + vacias);
@@ -108,18 +93,15 @@ private Q_SLOTS:
         for (const auto& [año, nace] :
              {std::pair{1949, "1/6/1949"}, {2050, "1/6/2048"}, {2025, "1/6/2024"}}) {
             for (int i = 0; i < 10; ++i)
-                p.Poner("T_Partos", {{"Id_Parto", ++n},
-                                     {"Id_Vaca", 120001.0},
-                                     {"N_Parto", n},
-                                     {"Año_Ref", año},
-                                     {"Fecha_Parto", F(nace)},
-                                     {"DESTINOTERNERO", "Recría"}});
+                p.Poner("T_Partos",
+                        "Id_Parto, Id_Vaca=120001, N_Parto, Año_Ref, Fecha_Parto, DESTINOTERNERO=Recría", ++n,
+                        n, año, F(nace));
         }
         for (const int año : {1949, 1950, 2025, 2026, 2048, 2049, 2050, 2051})
-            p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}});
+            p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural", año);
         auto& c = p.sesion.conexion;
         const auto resumen = LeerResumen(c, 12);
-        QCOMPARE(resumen.size(), std::size_t(8));
+        QCOMPARE(resumen.size(), 8U);
         for (const auto& r : resumen) {
             const double año = std::stod(r.año);
             const double ambos =
@@ -133,11 +115,10 @@ private Q_SLOTS:
         PuestoDeFichas p;
         PonerRebaño(p);
         for (const auto& [año, tipo] : {std::pair{2019, "viejo"}, {2020, "otro"}, {2025, "SE"}})
-            p.Poner("T_SistemaProduccion", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}, {"TipoSP", tipo}});
+            p.Poner("T_SistemaProduccion", "Id_Ganadero=12, AñoNatural, TipoSP", año, tipo);
         for (const int año : {2024, 2025, 2025}) // a year twice is one line
-            p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", año}});
-        Ganaderos f(p.sesion);
-        Mostrar(f);
+            p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural", año);
+        AlaVista<Ganaderos> f(p.sesion);
         f.CargarFicha(12);
         auto* tab = f.findChild<QTabWidget*>(u"TabGanaderos"_s);
         const auto ir = [&](int i) {
@@ -177,8 +158,8 @@ private Q_SLOTS:
         QTest::keyClick(rejilla, Qt::Key_Delete);
         QCOMPARE(p.Caja(), u"Eliminar la línea para 2025"_s);
         QCOMPARE(tipos(), "2019|viejo/2020|otro/2021|nuevo/2024|-"s);
-        p.Poner("T_Sementales", {{"Id_Semental", 1203.0}, {"Id_Ganadero", 12.0}});
-        p.Poner("T_Sementales", {{"Id_Semental", 1204.0}, {"Id_Ganadero", 12.0}});
+        p.Poner("T_Sementales", "Id_Semental=1203, Id_Ganadero=12");
+        p.Poner("T_Sementales", "Id_Semental=1204, Id_Ganadero=12");
         ir(0);
         ir(3);
         QCOMPARE(filas(), u"202410/202510/202510/"_s);

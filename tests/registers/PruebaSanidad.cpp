@@ -1,10 +1,16 @@
 #include "PuestoDeFichas.h"
-#include "prueba.h"
 
+#include "frame/ficha/CampoMemo.h"
+#include "frame/ficha/CampoTexto.h"
 #include "registers/datos/AsuntosSanidad.h"
 #include "registers/datos/Mamitis.h"
+#include "registers/sanidad/PaginaCC.h"
+#include "registers/sanidad/PaginaIBR.h"
+#include "registers/sanidad/PaginaMamitis.h"
+#include "registers/sanidad/PaginaNeospora.h"
 
-using namespace pastorix;
+#include <optional>
+
 using namespace prueba;
 
 namespace {
@@ -12,8 +18,7 @@ namespace {
 constexpr VacaEnHoja kVaca{1200001, 12};
 
 void Cubricion(PuestoDeFichas& p, int año, Valor parto, Valor fecha = {}) {
-    p.Poner("T_Cubriciones",
-            {{"Id_Vaca", kVaca.idVaca}, {"Año_Ref", año}, {"N_Parto", parto}, {"Fecha_Parto", fecha}});
+    p.Poner("T_Cubriciones", "Id_Vaca, Año_Ref, N_Parto, Fecha_Parto", kVaca.idVaca, año, parto, fecha);
 }
 
 std::string Celdas(const std::vector<Linea>& lineas) {
@@ -36,11 +41,8 @@ private Q_SLOTS:
     void Lactaciones() {
         PuestoDeFichas p;
         const auto parto = [&](int año, Valor n, const char* destete, Valor cuartos, double vaca = 1200001) {
-            p.Poner("T_Partos", {{"Id_Vaca", vaca},
-                                 {"Año_Ref", año},
-                                 {"N_Parto", n},
-                                 {"FechaDestete", *destete ? Valor(F(destete)) : Valor()},
-                                 {"CuartosPerdidos", cuartos}});
+            p.Poner("T_Partos", "Id_Vaca, Año_Ref, N_Parto, FechaDestete, CuartosPerdidos", vaca, año, n,
+                    *destete ? Valor(F(destete)) : Valor(), cuartos);
         };
         parto(2022, 3, "1/6/2022", 1);
         parto(2022, 3, "5/6/2022", 2);
@@ -59,17 +61,15 @@ private Q_SLOTS:
         lineas[2].celdas[kCuartosPerdidos] = "x";
         lineas[4].celdas[kCuartosPerdidos] = "2";
         EscribirLactaciones(p.sesion.conexion, 1200001, lineas);
-        QCOMPARE(p.Texto("SELECT Año_Ref, TratSecado, CuartosPerdidos FROM T_Partos"),
-                 "2022|-|2/2022|-|2/2023|-|-/2023|-|-/2024|Sí, d'un día|-/2024|Sí, d'un día|-/"
-                 "2025|-|0/2025|-|0/2022|-|7"s);
+        QUEDA(p, "Año_Ref, TratSecado, CuartosPerdidos FROM T_Partos",
+              "2022|-|2/2022|-|2/2023|-|-/2023|-|-/2024|Sí, d'un día|-/2024|Sí, d'un "
+              "día|-/2025|-|0/2025|-|0/2022|-|7");
     }
 
     void CuatroTetos() {
         PuestoDeFichas p;
         const auto tetos = [&](double teto, bool marcado, Valor nota) {
-            p.Poner(
-                "T_Mamitis",
-                {{"Id_Vaca", 7.0}, {"Id_Teto", teto}, {"marcado", marcado ? -1 : 0}, {"DescMamitis", nota}});
+            p.Poner("T_Mamitis", "Id_Vaca=7, Id_Teto, marcado, DescMamitis", teto, marcado ? -1 : 0, nota);
         };
         tetos(3, true, "Golpe"s);
         tetos(9, true, {}); // there is no such teat
@@ -78,8 +78,8 @@ private Q_SLOTS:
         QVERIFY(leidos[2].marcado && !leidos[3].marcado);
         leidos[0].fecha = F("1/3/2205");
         EscribirTetos(p.sesion.conexion, 7, leidos);
-        QCOMPARE(p.Texto("SELECT Id_Teto, DescMamitis, marcado FROM T_Mamitis ORDER BY Id_Teto"),
-                 "1|-|0/2|-|0/3|Golpe|-1/4|-|0"s);
+        QUEDA(p, "Id_Teto, DescMamitis, marcado FROM T_Mamitis ORDER BY Id_Teto",
+              "1|-|0/2|-|0/3|Golpe|-1/4|-|0");
         QCOMPARE(LeerTetos(p.sesion.conexion, 7)[0].fecha, Valor(F("1/3/2205")));
     }
 
@@ -89,15 +89,9 @@ private Q_SLOTS:
         Cubricion(p, 2023, 4);
         Cubricion(p, 2023, {}); // a mating record without parity has a line of its own
         const auto de = [&](const char* tabla, const char* campo, const char* fecha, int servicio = 0) {
-            pastorix::Recordset rs(p.sesion.conexion, "SELECT * FROM "s + tabla);
-            rs.AddNew();
-            rs["Id_Vaca"] = kVaca.idVaca;
-            rs["Año_Ref"] = 2022;
-            rs["N_Parto"] = 3;
-            rs[campo] = *fecha ? Valor(F(fecha)) : Valor();
-            if (servicio)
-                rs["N_Servicio"] = servicio;
-            rs.Update();
+            const auto fila = "Id_Vaca=1200001, Año_Ref=2022, N_Parto=3, "s + campo;
+            p.Poner(tabla, (fila + (servicio ? ", N_Servicio=" + std::to_string(servicio) : "")).c_str(),
+                    *fecha ? Valor(F(fecha)) : Valor());
         };
         de("T_Partos", "FechaDestete", "1/6/2022");
         de("T_Partos", "FechaDestete", "5/6/2022");
@@ -105,8 +99,7 @@ private Q_SLOTS:
         de("T_Servicios", "Fecha_Servicio", "2/5/2022", 2);
         de("T_Servicios", "Fecha_Servicio", "9/9/2022", 1); // a later date, an earlier service
         const auto valores = [&](Valor año, Valor parto, double cc) {
-            p.Poner("T_CCVacas",
-                    {{"Id_Vaca", kVaca.idVaca}, {"AñoRef", año}, {"NumParto", parto}, {"CCParto", cc}});
+            p.Poner("T_CCVacas", "Id_Vaca, AñoRef, NumParto, CCParto", kVaca.idVaca, año, parto, cc);
         };
         valores(2022, 3, 2.25);
         valores(2022, 3, 9.0); // repeated: the first one shows
@@ -117,14 +110,13 @@ private Q_SLOTS:
         QCOMPARE(Celdas(LeerAsunto(p.sesion.conexion, kIBRBVD, kVaca.idVaca).ciclos),
                  "2023|4||||/2023|||||/2022|3|04/01/22|02/05/22||"s);
         GuardarAsunto(p.sesion.conexion, kCondicionCorporal, kVaca, datos);
-        QCOMPARE(p.Texto("SELECT Id_Ganadero, AñoRef, NumParto, CCParto, MobReservas FROM T_CCVacas"),
-                 "12|2023|4|-|-/12|2023|-|1,5|-/12|2022|3|2,25|-"s);
+        QUEDA(p, "Id_Ganadero, AñoRef, NumParto, CCParto, MobReservas FROM T_CCVacas",
+              "12|2023|4|-|-/12|2023|-|1,5|-/12|2022|3|2,25|-");
     }
 
     // One table, the observation, the other table; what fails leaves what was done before it.
     void OrdenDeGuardar_data() {
         // guardado: natural years / cycles / observation
-        Columnas<int, QString, QString>("asunto", "observacion", "guardado");
         const QString corte = u"d'aldea\r\nsegunda"_s;
         Caso("CC", 0, corte, u"2026/2022/"_s + corte);
         Caso("IBR", 1, corte, u"2026/2022/"_s + corte);
@@ -134,17 +126,15 @@ private Q_SLOTS:
         Caso("IBR, empty", 1, QString(), u"2026/2022/-"_s);
     }
     void OrdenDeGuardar() {
-        QFETCH(int, asunto);
-        QFETCH(QString, observacion);
-        QFETCH(QString, guardado);
+        const auto [asunto, observacion, guardado] = DelCaso<int, QString, QString>();
         const AsuntoSanidad& a = asunto == 0 ? kCondicionCorporal : asunto == 1 ? kIBRBVD : kNeospora;
         PuestoDeFichas p;
-        p.Poner("T_Vacas", {{"Id_Vaca", kVaca.idVaca}, {a.observacion, "antes"s}});
+        p.Poner("T_Vacas", ("Id_Vaca=1200001, "s + a.observacion + "=antes").c_str());
         Cubricion(p, 2022, 3);
         const std::string natural = a.natural.tabla;
         const std::string ciclo = a.ciclo.tabla;
-        p.Poner(natural, {{"Id_Vaca", kVaca.idVaca}, {"Id_Ganadero", 12.0}, {"AñoNat", 2025}});
-        p.Poner(ciclo, {{"Id_Vaca", kVaca.idVaca}, {"Id_Ganadero", 12.0}, {"AñoRef", 1999}});
+        p.Poner(natural, "Id_Vaca, Id_Ganadero=12, AñoNat=2025", kVaca.idVaca);
+        p.Poner(ciclo, "Id_Vaca, Id_Ganadero=12, AñoRef=1999", kVaca.idVaca);
         auto datos = LeerAsunto(p.sesion.conexion, a, kVaca.idVaca);
         datos.naturales[0].celdas[0] = "2026";
         datos.naturales.push_back(datos.naturales[0]);
@@ -157,9 +147,8 @@ private Q_SLOTS:
             fallo = true;
         }
         QCOMPARE(fallo, guardado.endsWith(QLatin1String("antes")));
-        QCOMPARE(QString::fromStdString(p.Texto("SELECT AñoNat FROM " + natural) + "/" +
-                                        p.Texto("SELECT AñoRef FROM " + ciclo) + "/" +
-                                        p.Texto("SELECT "s + a.observacion + " FROM T_Vacas")),
+        QCOMPARE(Q(p.Texto("SELECT AñoNat FROM " + natural) + "/" + p.Texto("SELECT AñoRef FROM " + ciclo) +
+                   "/" + p.Texto("SELECT "s + a.observacion + " FROM T_Vacas")),
                  guardado);
     }
 
@@ -198,10 +187,280 @@ private Q_SLOTS:
                 QVERIFY2(nuevas.isEmpty(), t);
             const auto vacia = tabla == "T_Mamitis" ? u"|-|-|=0"_s : u"|-"_s;
             for (const auto& fila : nuevas)
-                QVERIFY2(fila.endsWith(vacia), qUtf8Printable(fila));
+                QVERIFY2(fila.endsWith(vacia), qPrintable(fila));
         }
     }
 };
 
+namespace {
+
+// A farm with a cow of two mating records and one natural year of every table.
+struct Granja : PuestoDeFichas {
+    Granja() {
+        Poner("T_Vacas", "Id_Vaca, Id_Ganadero=12, ObsNEOSPIROSIS=antes", kVaca.idVaca);
+        for (const int año : {2022, 2023})
+            Poner("T_Cubriciones", "Id_Vaca, Año_Ref, N_Parto", kVaca.idVaca, año, año - 2019);
+        for (const char* tabla : {"T_CCNATVACAS", "T_IBRBVD", "T_NEOSPIROSIS", "T_MAMIVACU"})
+            Poner(tabla, "Id_Ganadero=12, Id_Vaca, AñoNat=2025", kVaca.idVaca);
+        Poner("T_FechasVacu", "Id_Ganadero=12, Ln=2, IBR", F("4/3/2026"));
+        Poner("T_FechasVacu", "Id_Ganadero=12, Ln=1, IBR=9/5/2026, NEOSPORA=1/1/2026");
+    }
+    QString Años(const char* tabla) { return Q(Texto("SELECT AñoNat FROM "s + tabla + " ORDER BY AñoNat")); }
+};
+
+QTableWidget* Grid(QWidget& pagina, const char* nombre) {
+    return pagina.findChild<QTableWidget*>(Q(nombre));
+}
+QWidget* Control(QWidget& pagina, const char* nombre) {
+    return pagina.findChild<QWidget*>(Q(nombre));
+}
+// Types a text into an entry field, chooses it in a combo.
+void Entrar(QWidget& pagina, const char* nombre, const char* valor) {
+    auto* control = Control(pagina, nombre);
+    QVERIFY2(control && control->isEnabled(), nombre);
+    control->setFocus();
+    if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        const int i = combo->findText(Q(valor));
+        QVERIFY2(i >= 0, valor);
+        combo->setCurrentIndex(i);
+        Q_EMIT combo->activated(i);
+        return;
+    }
+    auto* campo = qobject_cast<QLineEdit*>(control);
+    campo->selectAll();
+    TeclearEn(*campo, valor);
+}
+void Anotar(QWidget& pagina, const char* nombre, const char* texto) {
+    auto* memo = static_cast<CampoMemo*>(Control(pagina, nombre));
+    memo->selectAll();
+    memo->insertPlainText(Q(texto));
+}
+void Intro(QWidget& pagina, const char* nombre) {
+    Control(pagina, nombre)->setFocus();
+    QTest::keyClick(Control(pagina, nombre), Qt::Key_Return);
+}
+void ElegirLinea(QWidget& pagina, const char* grid, int fila) {
+    Grid(pagina, grid)->setCurrentCell(fila, 1);
+    Q_EMIT Grid(pagina, grid)->cellClicked(fila, 1);
+}
+void Borrar(QWidget& pagina, const char* grid, int fila) {
+    ElegirLinea(pagina, grid, fila);
+    Grid(pagina, grid)->setFocus();
+    QTest::keyClick(Grid(pagina, grid), Qt::Key_Delete);
+}
+
+} // namespace
+
+// The health pages as a user meets them.
+class PruebaSanidadPaginas : public QObject {
+    Q_OBJECT
+
+    template <typename P>
+    static PaginaSanidad* Nueva(Conexion& c) {
+        return new P(c, nullptr);
+    }
+
+private Q_SLOTS:
+    // What is typed waits for the page's own save; a value that no list knows survives an edit of its line.
+    void GuardaLoSuyo() {
+        Granja g;
+        g.Poner("T_CCVacas", "Id_Vaca, AñoRef=2022, NumParto=3, MobReservas=Poca", kVaca.idVaca);
+        AlaVista<PaginaCC> pagina(g.sesion.conexion, nullptr);
+        pagina.Mostrar({});
+        QVERIFY(!Control(pagina, "Ct_CCNat(0)")->isEnabled() && !Control(pagina, "CT_ObsCC")->isEnabled());
+        pagina.Mostrar(kVaca);
+        QVERIFY(!BotonDe(pagina, "B_GuardarCC")->isEnabled() && !pagina.Pendiente());
+        QVERIFY(!Control(pagina, "Ct_CC(0)")->isEnabled()); // until a line is chosen
+        ElegirLinea(pagina, "GridCC", 1);
+        QCOMPARE(pagina.findChild<QComboBox*>(u"Cd_CC"_s)->currentText(), u"Poca"_s);
+        Entrar(pagina, "Ct_CC(0)", "2,25x");
+        QVERIFY(BotonDe(pagina, "B_GuardarCC")->isEnabled());
+        Intro(pagina, "Ct_CC(4)");
+        QCOMPARE(Grid(pagina, "GridCC")->item(1, 3)->text(), u"2,25"_s);
+        Entrar(pagina, "Ct_CCNat(0)", "2026");
+        Intro(pagina, "Ct_CCNat(2)");
+        Anotar(pagina, "CT_ObsCC", "x");
+        QCOMPARE(g.Texto("SELECT CCParto FROM T_CCVacas") + "/" + g.Años("T_CCNATVACAS").toStdString(),
+                 "-/2025"s);
+        pagina.Refrescar(); // another sheet was closed: nothing typed is lost
+        QCOMPARE(Grid(pagina, "GridCC_Nat")->item(0, 0)->text(), u"2026"_s);
+        BotonDe(pagina, "B_CancelarCC")->click();
+        QVERIFY(!pagina.Pendiente());
+        QCOMPARE(Grid(pagina, "GridCC_Nat")->item(0, 0)->text(), u"2025"_s);
+        QCOMPARE(Grid(pagina, "GridCC")->item(1, 3)->text(), QString());
+
+        ElegirLinea(pagina, "GridCC", 1);
+        Entrar(pagina, "Ct_CC(0)", "3"); // not put into the list yet: the save does
+        BotonDe(pagina, "B_GuardarCC")->click();
+        QUEDA(g, "Id_Ganadero, AñoRef, CCParto, MobReservas, CCnov FROM T_CCVacas ORDER BY AñoRef",
+              "12|2022|3|Poca|-/12|2023|-|-|-");
+        QVERIFY(!BotonDe(pagina, "B_GuardarCC")->isEnabled());
+        ElegirLinea(pagina, "GridCC", 0); // and is no choice for another line
+        QCOMPARE(pagina.findChild<QComboBox*>(u"Cd_CC"_s)->findText(u"Poca"_s), -1);
+        QCOMPARE(Mnemonicos(pagina), QString()); // the letters are the sheet's
+    }
+
+    void SinCubriciones() {
+        Granja g;
+        g.sesion.conexion.Execute("DELETE FROM T_Cubriciones");
+        g.Poner("T_CCVacas", "Id_Vaca, AñoRef=2022", kVaca.idVaca);
+        AlaVista<PaginaCC> pagina(g.sesion.conexion, nullptr);
+        pagina.Mostrar(kVaca);
+        Entrar(pagina, "Ct_CCNat(0)", "2026");
+        Anotar(pagina, "CT_ObsCC", "x");
+        BotonDe(pagina, "B_GuardarCC")->click();
+        QUEDA(g, "AñoRef FROM T_CCVacas", "");
+        QCOMPARE(g.Años("T_CCNATVACAS"), u"2025"_s);
+        QCOMPARE(Grid(pagina, "GridCC_Nat")->item(0, 0)->text(), u"2025"_s);
+        QUEDA(g, "ObsCC FROM T_Vacas", "-");
+    }
+
+    // The messages about the year, the question, and what goes at once.
+    void AñosNaturales_data() {
+        // trasAlta: years in the database after each step
+        Caso("GridCC_Nat", 0, "Ct_CCNat(0)", "T_CCNATVACAS", "Eliminar el Año Natural: ", "2025", "2025");
+        Caso("GridIBR", 1, "Ct_E", "T_IBRBVD", "Eliminar Año Natural: ", "2025", "");
+        Caso("Grid_Lep", 2, "Ct_Lep", "T_NEOSPIROSIS", "Eliminar el Año Natural: ", "2025", "");
+        Caso("Grid_MVacu", 3, "Ct_CP(3)", "T_MAMIVACU", "Eliminar el Año Natural: ", "2025/2026", "2026");
+    }
+    void AñosNaturales() {
+        const auto [cual, campo, tabla, pregunta, trasAlta, trasBaja] =
+            DelCaso<int, QString, QString, QString, QString, QString>();
+        const char* const grid = QTest::currentDataTag();
+        Granja g;
+        auto& c = g.sesion.conexion;
+        PaginaSanidad* (*const nuevas[])(Conexion&) = {Nueva<PaginaCC>, Nueva<PaginaIBR>,
+                                                       Nueva<PaginaNeospora>, Nueva<PaginaMamitis>};
+        const std::unique_ptr<PaginaSanidad> pagina(nuevas[cual](c));
+        Mostrar(*pagina);
+        pagina->Mostrar(kVaca);
+        auto* poner = Control(*pagina, qPrintable(campo))->parentWidget();
+        auto* lineas = static_cast<LineasEditables*>(poner);
+        lineas->Confirmar();
+        QCOMPARE(g.cajas.Tomar(), QStringList{u"Atención!!!|Debe incluir un año natural"_s});
+        Entrar(*pagina, qPrintable(campo), "2025");
+        lineas->Confirmar();
+        QCOMPARE(g.Caja(), u"El año: 2025 ya está incluido en la lista"_s);
+        Entrar(*pagina, qPrintable(campo), "2026");
+        lineas->Confirmar();
+        QCOMPARE(qobject_cast<QLineEdit*>(Control(*pagina, qPrintable(campo)))->text(), QString());
+        QCOMPARE(g.Años(qPrintable(tabla)), trasAlta);
+        pagina->Mostrar(kVaca);
+
+        const int fila = Grid(*pagina, grid)->rowCount() - 1; // 2025
+        g.cajas.Responder(false);
+        Borrar(*pagina, grid, fila);
+        QCOMPARE(g.Años(qPrintable(tabla)), trasAlta);
+        g.cajas.Responder(true);
+        Borrar(*pagina, grid, fila);
+        QCOMPARE(g.cajas.Tomar(), QStringList(2, u"Confirme|"_s + pregunta + u"2025"_s));
+        QCOMPARE(g.Años(qPrintable(tabla)), trasBaja);
+        QCOMPARE(pagina->Pendiente(), cual == 0); // the others have nothing left to save
+    }
+
+    // Two rows of one year come from elsewhere: both show, can be edited, and go back.
+    void AñoRepetido() {
+        Granja g;
+        g.Poner("T_IBRBVD", "Id_Ganadero=12, Id_Vaca, AñoNat=2025, VIBR=primavera", kVaca.idVaca);
+        AlaVista<PaginaIBR> pagina(g.sesion.conexion, nullptr);
+        pagina.Mostrar(kVaca);
+        const auto* vibr = pagina.findChild<QComboBox*>(u"Cd_VIBR"_s);
+        ElegirLinea(pagina, "GridIBR", 0);
+        QCOMPARE(vibr->itemText(1) + vibr->itemText(2),
+                 u"09/05/2604/03/26"_s); // in the farm's order
+        Entrar(pagina, "Cd_VIBR", "04/03/26");
+        Intro(pagina, "Cd_BVDbp");
+        BotonDe(pagina, "B_GuardarIBR")->click();
+        QUEDA(g, "AñoNat, VIBR FROM T_IBRBVD", "2025|04/03/26/2025|primavera");
+        g.cajas.Responder(true);
+        Borrar(pagina, "GridIBR", 0);
+        QCOMPARE(g.Caja(), u"Eliminar Año Natural: 2025"_s);
+        QCOMPARE(g.Años("T_IBRBVD"), QString()); // one statement for the year
+        QVERIFY(pagina.Pendiente());             // the other line is here still
+        BotonDe(pagina, "B_GuardarIBR")->click();
+        QCOMPARE(g.Años("T_IBRBVD"), u"2025"_s);
+    }
+
+    void ComillaEnNeospora() {
+        Granja g;
+        AlaVista<PaginaNeospora> pagina(g.sesion.conexion, nullptr);
+        pagina.Mostrar(kVaca);
+        Entrar(pagina, "Ct_Lep", "2026");
+        Intro(pagina, "Cd_LepBp");
+        ElegirLinea(pagina, "Grid_Lep_R", 0);
+        Entrar(pagina, "CT_LEPR", "ConvSp");
+        Intro(pagina, "CT_LEPR");
+        Anotar(pagina, "Ct_ObsLep", "d'aldea");
+        BotonDe(pagina, "B_GLep")->click();
+        QCOMPARE(g.cajas.Vistas().size(), 1);
+        QCOMPARE(g.Años("T_NEOSPIROSIS"), u"2025/2026"_s); // saved before it
+        QUEDA(g, "Neospirosis FROM T_R_NEOSPIROSIS", "");
+        QCOMPARE(pagina.findChild<CampoMemo*>()->toPlainText(), u"d'aldea"_s);
+        QVERIFY(pagina.Pendiente());
+        Anotar(pagina, "Ct_ObsLep", "de aldea");
+        BotonDe(pagina, "B_GLep")->click();
+        QUEDA(g, "Neospirosis FROM T_R_NEOSPIROSIS ORDER BY AñoRef", "-/ConvSp");
+        QUEDA(g, "ObsNEOSPIROSIS FROM T_Vacas", "de aldea");
+        QVERIFY(!pagina.Pendiente());
+    }
+
+    // Quarters and lactations touch the sheet and are written with it; the mark by keyboard.
+    void Mamitis() {
+        Granja g;
+        for (const char* sexo : {"Macho", "Hembra"})
+            g.Poner("T_Partos", "Id_Vaca, Año_Ref=2022, N_Parto=3, Sexo", kVaca.idVaca, std::string(sexo));
+        PaginaMamitis pagina(g.sesion.conexion, nullptr);
+        auto* cpt = new QWidget;
+        auto* campo = new CampoTexto(ClaseCampo::Numero, 4, cpt);
+        pagina.PonerCuartosPerdidos(cpt);
+        int tocada = 0;
+        bool permiso = false;
+        pagina.alTocar = [&] { ++tocada; };
+        pagina.puedeTocar = [&] { return permiso; };
+        Mostrar(pagina);
+        pagina.Mostrar({});
+        auto* cuarto = qobject_cast<QAbstractButton*>(Control(pagina, "ImgNulo(1)"));
+        cuarto->setFocus();
+        QTest::keyClick(cuarto, Qt::Key_Space);
+        Teclear(pagina, 27, "x");
+        QVERIFY(!cuarto->isChecked() && CampoDe(pagina, 27)->text().isEmpty() && tocada == 0);
+
+        permiso = true;
+        pagina.Mostrar(kVaca);
+        cuarto->setFocus();
+        QTest::keyClick(cuarto, Qt::Key_Right);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), u"Posterior derecho, perdido"_s);
+        Teclear(pagina, 26, "2/3/26");
+        Teclear(pagina, 25, "31/2/26"); // no date: not kept
+        Teclear(pagina, 30, "D'un golpe");
+        QTest::keyClick(CampoDe(pagina, 30), Qt::Key_Tab);
+        QVERIFY(campo->hasFocus());
+        ElegirLinea(pagina, "GridMamitis", 0);
+        Entrar(pagina, "Ct_CP(0)", "Sí");
+        QTest::keyClick(Control(pagina, "Ct_CP(0)"), Qt::Key_Return);
+        Entrar(pagina, "Ct_CP(1)", "1");
+        Intro(pagina, "Ct_CP(1)");
+        QCOMPARE(Grid(pagina, "GridMamitis")->item(0, 4)->text(), u"Sí"_s);
+        QVERIFY(tocada > 0 && pagina.Pendiente());
+        QUEDA(g, "Id_Teto FROM T_Mamitis", "");
+        QUEDA(g, "TratSecado FROM T_Partos", "-/-");
+        pagina.EscribirHijos(kVaca.idVaca);
+        QUEDA(g, "Id_Teto, Fecha, DescMamitis, marcado FROM T_Mamitis ORDER BY Id_Teto",
+              "1|-|-|0/2|-|-|0/3|-|-|0/4|02/03/26|D'un golpe|-1");
+        QUEDA(g, "Sexo, TratSecado, CuartosPerdidos FROM T_Partos", "Macho|Sí|1/Hembra|Sí|1");
+        pagina.Mostrar(kVaca);
+        QVERIFY(!pagina.Pendiente());
+        QVERIFY(qobject_cast<QAbstractButton*>(Control(pagina, "ImgNulo(4)"))->isChecked());
+        ElegirLinea(pagina, "GridMamitis", 0);
+        Entrar(pagina, "Ct_CP(1)", "2"); // not put into the list yet: the save does
+        QVERIFY(pagina.Recoger());
+        pagina.EscribirHijos(kVaca.idVaca);
+        QUEDA(g, "CuartosPerdidos FROM T_Partos", "2/2");
+    }
+};
+
 PRUEBA(PruebaSanidad)
+PRUEBA(PruebaSanidadPaginas)
 #include "PruebaSanidad.moc"

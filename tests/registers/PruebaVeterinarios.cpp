@@ -1,13 +1,8 @@
 #include "PuestoDeFichas.h"
-#include "prueba.h"
 
 #include "frame/ficha/CampoTexto.h"
 #include "registers/Veterinarios.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-
-using namespace pastorix;
 using namespace prueba;
 
 // The plainest sheet: with it the whole record-sheet pattern.
@@ -18,17 +13,15 @@ private Q_SLOTS:
     void Alta() {
         PuestoDeFichas p;
         p.sesion.UsuarioSesion = "CENTRAL";
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 7.0}, {"NombreVet", "VALNOR"}});
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        p.Poner("T_Veterinarios", "Id_Veterinario=7, NombreVet=VALNOR");
+        AlaVista<Veterinarios> f(p.sesion);
         QCOMPARE(Mnemonicos(f), u"ACDEFGHIJLMNOPRSTUVX"_s);
         QCOMPARE(Encendidos(f), u"AR"_s);
         Teclear(f, 2, "x"); // nothing on screen and no edit: a key begins none
         QCOMPARE(Encendidos(f), u"AR"_s);
         BotonDe(f, "B_Añadir")->click();
         QCOMPARE(Encendidos(f), u"GC"_s);
-        QCOMPARE(CampoDe(f, 0)->text(), u"8"_s);
-        QCOMPARE(CampoDe(f, 12)->text(), u"22/11/26"_s);
+        QCOMPARE(CampoDe(f, 0)->text() + u'|' + CampoDe(f, 12)->text(), u"8|22/11/26"_s);
         QCOMPARE(CampoDe(f, 2)->text(), QString());
         QVERIFY(CampoDe(f, 1)->hasFocus());
         const auto guardar = [&] { BotonDe(f, "B_Guardar")->click(); };
@@ -44,7 +37,7 @@ private Q_SLOTS:
         guardar();
         QCOMPARE(p.Caja(), u"Debe Indicar el Nombre Usuario para Iniciar la Sesión"_s);
         QVERIFY(CampoDe(f, 14)->hasFocus());
-        p.Poner("Claves", {{"Usuario", "Jefa"}, {"NIVEL", "CENTRAL"}});
+        p.Poner("Claves", "Usuario=Jefa, NIVEL=CENTRAL");
         Teclear(f, 14, "jefa");
         guardar();
         QCOMPARE(p.Caja(), u"El Usuario: jefa y aestá siendo utilizado, cambielo por otro."_s);
@@ -52,11 +45,10 @@ private Q_SLOTS:
         guardar();
         QVERIFY(p.Caja().contains(u"apóstrofo"_s));
         QCOMPARE(Encendidos(f), u"GC"_s);
-        Teclear(f, 14, "elopez");
-        Teclear(f, 0, "7");
+        Teclear(f, {{14, "elopez"}, {0, "7"}});
         guardar();
         QCOMPARE(p.Caja(), u"Codigo no Valido, Cambielo por Otro"_s);
-        QCOMPARE(p.Texto("SELECT NombreVet FROM T_Veterinarios"), "VALNOR"s);
+        QUEDA(p, "NombreVet FROM T_Veterinarios", "VALNOR");
         QCOMPARE(CampoDe(f, 2)->text(), u"Eulalia d'Arriba"_s);
         Teclear(f, 0, "8");
         Teclear(f, 12, "31/02/01"); // no date: not written
@@ -64,12 +56,11 @@ private Q_SLOTS:
         guardar();
         QCOMPARE(p.cajas.Vistas().size(), 0);
         QCOMPARE(Encendidos(f), u"AMER"_s);
-        QCOMPARE(p.Texto("SELECT Id_Veterinario, NombreVet, DNI, FechaAlta, Usuario, Id_Direccion FROM "
-                         "T_Veterinarios WHERE "
-                         "Id_Veterinario = 8"),
-                 "8|Eulalia d'Arriba|-|-|elopez|1"s);
-        QCOMPARE(p.Texto("SELECT Id_Direccion, Id_GV, TelefonoP, TelefonoM FROM T_Direcciones"),
-                 "1|8|985 1|-"s);
+        QUEDA(p,
+              "Id_Veterinario, NombreVet, DNI, FechaAlta, Usuario, Id_Direccion FROM T_Veterinarios WHERE "
+              "Id_Veterinario = 8",
+              "8|Eulalia d'Arriba|-|-|elopez|1");
+        QUEDA(p, "Id_Direccion, Id_GV, TelefonoP, TelefonoM FROM T_Direcciones", "1|8|985 1|-");
         f.close();
     }
 
@@ -78,13 +69,11 @@ private Q_SLOTS:
         p.Poner("T_Veterinarios",
                 "Id_Veterinario=2, NombreVet=Ana, Usuario=ana, Id_Direccion=4, FechaAlta=1/2/2020");
         p.Poner("T_Direcciones", "Id_Direccion=4, Id_GV=2, Localidad=Tineo, FAX=9");
-        p.Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Id_Veterinario", 2.0}});
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+        p.Poner("T_Ganaderos", "Id_Ganadero=12, Id_Veterinario=2");
+        AlaVista<Veterinarios> f(p.sesion);
         Teclear(f, 0, "2");
         QTest::keyClick(CampoDe(f, 0), Qt::Key_Tab); // leaving the field loads too
-        QCOMPARE(CampoDe(f, 2)->text(), u"Ana"_s);
-        QCOMPARE(CampoDe(f, 7)->text(), u"Tineo"_s);
+        QCOMPARE(CampoDe(f, 2)->text() + u'|' + CampoDe(f, 7)->text(), u"Ana|Tineo"_s);
         QCOMPARE(CampoDe(f, 13)->text(), u"9"_s);
         QCOMPARE(Encendidos(f), u"AMER"_s);
         QTest::keyClick(CampoDe(f, 2), Qt::Key_Left); // moving about is no change
@@ -105,13 +94,11 @@ private Q_SLOTS:
             Teclear(f, i, "");
         Teclear(f, 12, "1/1/205");
         Teclear(f, 0, "3"); // the code of a record does not change
-        BotonDe(f, "B_Guardar")->click();
-        QCOMPARE(p.Caja(), u"El Código no se puede cambiar"_s);
+        QCOMPARE(p.CajaDe(BotonDe(f, "B_Guardar")), u"El Código no se puede cambiar"_s);
         QCOMPARE(CampoDe(f, 0)->text(), u"2"_s);
-        QCOMPARE(p.Texto("SELECT Id_Veterinario, FechaAlta, Id_Direccion FROM T_Veterinarios"),
-                 "2|01/02/20|4"s);
+        QUEDA(p, "Id_Veterinario, FechaAlta, Id_Direccion FROM T_Veterinarios", "2|01/02/20|4");
         // without any address text the row stays as it was
-        QCOMPARE(p.Texto("SELECT Localidad, FAX FROM T_Direcciones"), "Tineo|9"s);
+        QUEDA(p, "Localidad, FAX FROM T_Direcciones", "Tineo|9");
 
         // a record deleted from under the sheet: told, and what was typed stays
         Teclear(f, 1, "71");
@@ -126,18 +113,16 @@ private Q_SLOTS:
         p.cajas.Responder(true); // nor are they given up unasked
         BotonDe(f, "B_Cancelar")->click();
         p.cajas.Vistas();
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 2.0}, {"NombreVet", "Ana"}});
+        p.Poner("T_Veterinarios", "Id_Veterinario=2, NombreVet=Ana");
         f.CargarFicha(2);
-        p.cajas.Responder(false);
-        BotonDe(f, "B_Eliminar")->click();
-        QCOMPARE(p.Caja(), u"Desea Eliminar ? "_s);
-        QCOMPARE(p.Texto("SELECT Id_Veterinario FROM T_Veterinarios"), "2"s);
+        QCOMPARE(p.CajaDe(BotonDe(f, "B_Eliminar"), false), u"Desea Eliminar ? "_s);
+        QUEDA(p, "Id_Veterinario FROM T_Veterinarios", "2");
         p.cajas.Responder(true);
         BotonDe(f, "B_Eliminar")->click();
         p.cajas.Vistas();
-        QCOMPARE(p.Texto("SELECT Id_Veterinario FROM T_Veterinarios"), std::string());
-        QCOMPARE(p.Texto("SELECT Id_Direccion FROM T_Direcciones"), "4"s); // no cascade
-        QCOMPARE(p.Texto("SELECT Id_Veterinario FROM T_Ganaderos"), "2"s);
+        QUEDA(p, "Id_Veterinario FROM T_Veterinarios", "");
+        QUEDA(p, "Id_Direccion FROM T_Direcciones", "4"); // no cascade
+        QUEDA(p, "Id_Veterinario FROM T_Ganaderos", "2");
         QCOMPARE(CampoDe(f, 2)->text(), QString());
         f.close();
     }
@@ -145,14 +130,13 @@ private Q_SLOTS:
     void Limite() {
         PuestoDeFichas p;
         for (const double id : {1.0, 2.0})
-            p.Poner("T_Veterinarios", {{"Id_Veterinario", id}, {"NombreVet", "V"}});
-        Veterinarios f(p.sesion);
-        Mostrar(f);
+            p.Poner("T_Veterinarios", "Id_Veterinario, NombreVet=V", id);
+        AlaVista<Veterinarios> f(p.sesion);
         f.CargarFicha(2);
-        BotonDe(f, "B_Añadir")->click();
-        QCOMPARE(p.Caja(), u"Recuerde que en Modo: VETERINARIO, sólo puede disponer de 2 Veterinarios"_s);
+        QCOMPARE(p.CajaDe(BotonDe(f, "B_Añadir")),
+                 u"Recuerde que en Modo: VETERINARIO, sólo puede disponer de 2 Veterinarios"_s);
         QCOMPARE(CampoDe(f, 0)->text(), u"2"_s); // before the sheet clears
-        p.Poner("T_Veterinarios", {{"Id_Veterinario", 3.0}, {"NombreVet", "V"}});
+        p.Poner("T_Veterinarios", "Id_Veterinario=3, NombreVet=V");
         BotonDe(f, "B_Añadir")->click(); // more than two pass
         QCOMPARE(Encendidos(f), u"GC"_s);
         BotonDe(f, "B_Cancelar")->click();
@@ -162,7 +146,6 @@ private Q_SLOTS:
     // First the sieve, then the width; what a spreadsheet writes otherwise is read as it was meant.
     void Pegado_data() {
         // caja: 0 none, 1 a box, 2 a question answered with yes, 3 with no
-        Columnas<ClaseCampo, QString, QString, int>("clase", "pegado", "queda", "caja");
         using enum ClaseCampo;
         Caso("lines and tabs", Texto, "elopez\t1\r\n", "elopez 1", 0);
         Caso("text too long", Texto, "abcdefghijklmn", "abcdefghij", 0);
@@ -181,16 +164,14 @@ private Q_SLOTS:
         Caso("code with blanks", Codigo, " 12 00 ", "1200", 0);
     }
     void Pegado() {
-        QFETCH(ClaseCampo, clase);
-        QFETCH(QString, pegado);
-        QFETCH(int, caja);
+        const auto [clase, pegado, queda, caja] = DelCaso<ClaseCampo, QString, QString, int>();
         Cajas cajas;
         CampoTexto campo(clase, 10);
         if (caja >= 2)
             cajas.Responder(caja == 2);
         QGuiApplication::clipboard()->setText(pegado);
         QTest::keyClick(&campo, Qt::Key_V, Qt::ControlModifier);
-        QTEST(campo.text(), "queda");
+        QCOMPARE(campo.text(), queda);
         QCOMPARE(cajas.Vistas().size(), caja ? 1 : 0);
     }
 
@@ -206,13 +187,13 @@ private Q_SLOTS:
                                                      {ClaseCampo::Texto, "a'ñ 1", "a'ñ 1"}}) {
             CampoTexto campo(clase, 40);
             TeclearEn(campo, tecleado);
-            QCOMPARE(campo.text(), QString::fromUtf8(queda));
+            QCOMPARE(campo.text(), Q(queda));
         }
         CampoTexto campo(ClaseCampo::ConSigno, 40);
         // Stored by something else: shown as it is, too long as it may be.
         for (const auto* texto : {"1E-07", "0,33333333333333333333333333333333333333333"}) {
-            campo.Mostrar(QString::fromUtf8(texto));
-            QCOMPARE(campo.text(), QString::fromUtf8(texto));
+            campo.Mostrar(Q(texto));
+            QCOMPARE(campo.text(), Q(texto));
         }
     }
 };

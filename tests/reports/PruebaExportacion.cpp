@@ -9,18 +9,10 @@
 #include "reports/motor/Pdf.h"
 #include "reports/motor/Zip.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
-using namespace pastorix;
+using namespace prueba;
 using namespace ejemplo;
 
 namespace {
-
-QByteArray Leer(const QString& fichero) {
-    QFile f(fichero);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 // Two sheets whose names clash, and a row of every kind of value.
 InformeTerminado Muestra() {
@@ -45,7 +37,7 @@ encabezado "Casa {X.N} · Año 2026"
                         {{}, T(" ")}}));
     fuente.Poner(Tabla("Y", {"C"}, {{T("a<b>&\x01")}}));
     PeticionInforme peticion;
-    peticion.titulo = QStringLiteral(" Prueba");
+    peticion.titulo = u" Prueba"_s;
     return GenerarInforme(LeerDisposicion(texto, "x.rpt"), fuente, peticion);
 }
 
@@ -79,20 +71,19 @@ private Q_SLOTS:
         const char* nombres[] = {"Una / hoja: [con] signos y un nombre larguísimo", "", "Censo", "CENSO",
                                  "../x"};
         for (std::size_t i = 0; i < hojas.size(); ++i)
-            hojas[i].nombre = QString::fromUtf8(nombres[i]);
-        QCOMPARE(NombresDeHojas(hojas),
-                 QStringList({QStringLiteral("Una  hoja con signos y un nombr"), QStringLiteral("Hoja"),
-                              QStringLiteral("Censo"), QStringLiteral("CENSO (2)"), QStringLiteral("x")}));
+            hojas[i].nombre = Q(nombres[i]);
+        QCOMPARE(NombresDeHojas(hojas), QStringList({u"Una  hoja con signos y un nombr"_s, u"Hoja"_s,
+                                                     u"Censo"_s, u"CENSO (2)"_s, u"x"_s}));
     }
 
     void Csv() {
         QTemporaryDir carpeta;
-        const QString destino = carpeta.filePath(QStringLiteral("nueva/tablas"));
+        const QString destino = carpeta.filePath(u"nueva/tablas"_s);
         const QStringList ficheros = GuardarCsv(Muestra(), destino);
         QCOMPARE(QDir(destino).entryList(QDir::Files),
-                 QStringList({QStringLiteral("vacas 12 (2).csv"), QStringLiteral("Vacas 12.csv")}));
+                 QStringList({u"vacas 12 (2).csv"_s, u"Vacas 12.csv"_s}));
         QCOMPARE(
-            Leer(ficheros.at(0)),
+            Contenido(ficheros.at(0)),
             QByteArray("\xEF\xBB\xBF"
                        "\"Texto; con \"\"signos\"\"\";Número escrito;Número;Fecha;Mezcla;Fecha escrita\r\n"
                        "\"Ñandú; \"\"el\"\"\ngrande\";12,5;2,25;03/05/2026;7;03/05/2026\r\n"
@@ -104,66 +95,58 @@ private Q_SLOTS:
 
     void Xlsx() {
         QTemporaryDir carpeta;
-        const QString fichero = carpeta.filePath(QStringLiteral("año.xlsx"));
+        const QString fichero = carpeta.filePath(u"año.xlsx"_s);
         GuardarXlsx(Muestra(), fichero);
-        const auto partes = PartesDelZip(Leer(fichero)).value();
+        const auto partes = PartesDelZip(Contenido(fichero)).value();
         const QByteArray libro = partes.at("xl/workbook.xml");
         QVERIFY(libro.contains("name=\"Vacas 12\"") && libro.contains("name=\"vacas 12 (2)\""));
         const QByteArray hoja = partes.at("xl/worksheets/sheet1.xml");
         const QByteArray textos = partes.at("xl/sharedStrings.xml");
         const auto celda = [&](const char* lugar) {
-            const QRegularExpression patron(
-                QStringLiteral("<c r=\"%1\"[^>]*?(?:/>|>.*?</c>)").arg(QLatin1String(lugar)));
-            return patron.match(QString::fromUtf8(hoja)).captured();
+            const QRegularExpression patron(u"<c r=\"%1\"[^>]*?(?:/>|>.*?</c>)"_s.arg(QLatin1String(lugar)));
+            return patron.match(Q(hoja)).captured();
         };
-        QVERIFY(celda("A1").contains(QStringLiteral("t=\"s\"")));
-        QVERIFY(textos.contains("Prueba · Casa 2,25 · Año 2026"));
-        QVERIFY(celda("A3").contains(QStringLiteral("t=\"s\"")) &&
-                celda("A4").contains(QStringLiteral("t=\"s\"")));
-        QVERIFY2(celda("B4").endsWith(QStringLiteral("<v>12.5</v></c>")),
+        QVERIFY(celda("A1").contains(u"t=\"s\""_s) && textos.contains("Prueba · Casa 2,25 · Año 2026"));
+        QVERIFY(celda("A3").contains(u"t=\"s\""_s) && celda("A4").contains(u"t=\"s\""_s));
+        QVERIFY2(celda("B4").endsWith(u"<v>12.5</v></c>"_s),
                  qPrintable(celda("B4"))); // by its mask
-        QVERIFY(celda("B5").endsWith(QStringLiteral("<v>1300.5</v></c>")));
-        QVERIFY(celda("C4").endsWith(QStringLiteral("<v>2.25</v></c>")));
-        QVERIFY(celda("D4").endsWith(QStringLiteral("<v>46145</v></c>")) &&
-                celda("D4").contains(QStringLiteral("s=\"")));
-        QVERIFY(celda("D5").contains(QStringLiteral("t=\"s\""))); // before the format's first day
-        for (const char* mezclada : {"E4", "E5"})                 // one kind per column
-            QVERIFY(celda(mezclada).contains(QStringLiteral("t=\"s\"")));
-        QVERIFY(celda("F4").endsWith(QStringLiteral("<v>46145</v></c>")) &&
-                celda("F5").endsWith(QStringLiteral("<v>46146</v></c>")));
+        QVERIFY(celda("B5").endsWith(u"<v>1300.5</v></c>"_s) && celda("C4").endsWith(u"<v>2.25</v></c>"_s));
+        QVERIFY(celda("D4").endsWith(u"<v>46145</v></c>"_s) && celda("D4").contains(u"s=\""_s));
+        QVERIFY(celda("D5").contains(u"t=\"s\""_s)); // before the format's first day
+        for (const char* mezclada : {"E4", "E5"})    // one kind per column
+            QVERIFY(celda(mezclada).contains(u"t=\"s\""_s));
+        QVERIFY(celda("F4").endsWith(u"<v>46145</v></c>"_s) && celda("F5").endsWith(u"<v>46146</v></c>"_s));
         QVERIFY(celda("A6").isEmpty() && celda("B6").isEmpty());
-        QVERIFY(textos.contains("=1+1") && textos.contains("a&lt;b&gt;&amp;"));
-        QVERIFY(!hoja.contains("<f>"));
+        QVERIFY(textos.contains("=1+1") && textos.contains("a&lt;b&gt;&amp;") && !hoja.contains("<f>"));
         QVERIFY(partes.at("xl/styles.xml").contains("dd/mm/yy"));
 
         GuardarXlsx(InformeTerminado(), fichero); // no sheet at all is still a workbook
-        QVERIFY(Leer(fichero).startsWith("PK"));
-        QVERIFY_THROWS_EXCEPTION(ErrorInforme,
-                                 GuardarXlsx(Muestra(), carpeta.filePath(QStringLiteral("no/año.xlsx"))));
-        QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{QStringLiteral("año.xlsx")});
+        QVERIFY(Contenido(fichero).startsWith("PK"));
+        QVERIFY_THROWS_EXCEPTION(ErrorInforme, GuardarXlsx(Muestra(), carpeta.filePath(u"no/año.xlsx"_s)));
+        QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{u"año.xlsx"_s});
     }
 
     // However much of it the disk takes: the old file as it was and an error that says why, or the new one, whole. Nothing else stays.
     void DiscoQueSeLlena_data() {
-        QTest::addColumn<QString>("nombre");
         for (const char* nombre : {"i.pdf", "i.xlsx", "Vacas 12.csv"})
-            QTest::newRow(nombre) << QString::fromUtf8(nombre);
+            Caso(nombre, Q(nombre));
     }
     void DiscoQueSeLlena() {
-        QFETCH(QString, nombre);
+        QString nombre;
+        DelCaso(nombre);
         QTemporaryDir carpeta;
-        const InformeTerminado informe = MuestraLarga();
+        const auto informe = MuestraLarga();
         const QString fichero = carpeta.filePath(nombre);
         const auto guardar = [&] {
-            if (nombre.endsWith(QStringLiteral("pdf")))
+            if (nombre.endsWith(u"pdf"_s))
                 GuardarPdf(informe, fichero);
-            else if (nombre.endsWith(QStringLiteral("xlsx")))
+            else if (nombre.endsWith(u"xlsx"_s))
                 GuardarXlsx(informe, fichero);
             else
                 GuardarCsv(informe, carpeta.path());
         };
         guardar();
-        const QByteArray nuevo = Leer(fichero);
+        const QByteArray nuevo = Contenido(fichero);
         const QStringList contenido = QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden);
         // What the largest file on the way takes: of a workbook a part of it, unpacked.
         qsizetype mayor = 0;
@@ -178,21 +161,21 @@ private Q_SLOTS:
             viejo.close();
             QString aviso;
             {
-                const prueba::DiscoLleno lleno(static_cast<rlim_t>(mayor * nivel / 20));
+                const DiscoLleno lleno(static_cast<rlim_t>(mayor * nivel / 20));
                 try {
                     guardar();
                 } catch (const ErrorInforme& e) {
-                    aviso = QString::fromUtf8(e.what());
+                    aviso = Q(e.what());
                 }
             }
             QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), contenido);
             if (aviso.isEmpty()) {
-                QVERIFY(Iguales(Leer(fichero), nuevo));
+                QVERIFY(Iguales(Contenido(fichero), nuevo));
                 continue;
             }
             ++fallos;
-            QCOMPARE(Leer(fichero), QByteArray("el de ayer"));
-            QVERIFY2(aviso.startsWith(QStringLiteral("No se puede escribir el fichero ") + carpeta.path()),
+            QCOMPARE(Contenido(fichero), QByteArray("el de ayer"));
+            QVERIFY2(aviso.startsWith(u"No se puede escribir el fichero "_s + carpeta.path()),
                      qPrintable(aviso));
         }
         QVERIFY2(fallos >= 19 && fallos < 25, qPrintable(QString::number(fallos)));
@@ -202,14 +185,14 @@ private Q_SLOTS:
     void FilasDelInforme() {
         PeticionInforme peticion;
         peticion.formulaSeleccion = "{Ganaderos.Id_Ganadero} < 1200004";
-        const InformeTerminado informe = GenerarInforme(
+        const auto informe = GenerarInforme(
             LeerDisposicionDeFichero(QStringLiteral(PASTORIX_LAYOUTS "/Ganaderos.rpt").toStdString()),
             Registros(60), peticion);
-        QCOMPARE(informe.hojas.size(), std::size_t(1));
-        QCOMPARE(informe.hojas[0].filas.size(), std::size_t(4));
-        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[1][1]), std::string("Covadonga"));
-        QCOMPARE(informe.hojas[0].columnas.back().titulo, QStringLiteral("Apellidos del veterinario"));
-        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[1].back()), std::string("Menéndez Coto"));
+        QCOMPARE(informe.hojas.size(), 1U);
+        QCOMPARE(informe.hojas[0].filas.size(), 4U);
+        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[1][1]), "Covadonga"s);
+        QCOMPARE(informe.hojas[0].columnas.back().titulo, u"Apellidos del veterinario"_s);
+        QCOMPARE(std::get<std::string>(informe.hojas[0].filas[1].back()), "Menéndez Coto"s);
     }
 };
 

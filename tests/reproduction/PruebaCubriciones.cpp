@@ -1,9 +1,7 @@
 #include "PuestoDeCiclos.h"
-#include "prueba.h"
 
 #include "reproduction/Cubriciones.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
@@ -27,7 +25,7 @@ struct Hoja : PuestoDeCiclos {
         TeclearEn(*Control<QLineEdit>(*f, "Ct_S(1)"), fecha);
         TeclearEn(*Control<QLineEdit>(*f, "Ct_S(4)"), toro);
         if (*tipo)
-            QTest::keyClicks(Control<QComboBox>(*f, "Cd_S(0)"), QString::fromUtf8(tipo));
+            QTest::keyClicks(Control<QComboBox>(*f, "Cd_S(0)"), Q(tipo));
         QTest::keyClick(Control<QLineEdit>(*f, "Ct_S(1)"), Qt::Key_Return);
     }
 };
@@ -88,16 +86,15 @@ private Q_SLOTS:
         p.Abrir(2026, 3);
         for (const char* fecha : {"1/7/26", "1/8/26", "1/9/26", "31/9/26"})
             p.Servicio(fecha);
-        QCOMPARE(p.Texto("SELECT N_Servicio, Fecha_Servicio FROM T_Servicios ORDER BY N_Servicio"),
-                 "1|12/06/26/2|01/07/26/3|01/08/26/5|31/9/26"s);
+        QUEDA(p, "N_Servicio, Fecha_Servicio FROM T_Servicios ORDER BY N_Servicio",
+              "1|12/06/26/2|01/07/26/3|01/08/26/5|31/9/26");
         QCOMPARE(En(*p.f, "Ct_E(28)") + u'|' + En(*p.f, "Ct_E(6)"), u"5|"_s);
         QCOMPARE(En(*p.f, "Ct_E(19)"), u"205"_s); // the last line has no date
         auto* grid = Control<QTableWidget>(*p.f, "GridServicios");
         grid->setCurrentCell(3, 0);
         p.cajas.Responder(true);
         QTest::keyClick(grid, Qt::Key_Delete);
-        const auto caja = p.cajas.Vistas();
-        QCOMPARE(caja[0].titulo + caja[0].texto, u"Confirme EliminarEliminar Servicio Nº: 5"_s);
+        QCOMPARE(p.cajas.Tomar(), QStringList{u"Confirme Eliminar|Eliminar Servicio Nº: 5"_s});
         QCOMPARE(p.Fila("TotalServicios"), "3"s);
     }
 
@@ -111,7 +108,7 @@ private Q_SLOTS:
         const auto* aviso = Control<QLabel>(*p.f, "AvisoServicios");
         QVERIFY(!aviso->isHidden() && aviso->text().contains(u"4, 5"_s));
         p.f->reject(); // closing rewrites nothing
-        QCOMPARE(p.Texto("SELECT N_Servicio FROM T_Servicios ORDER BY N_Servicio"), "1/2/3/4/5/6"s);
+        QUEDA(p, "N_Servicio FROM T_Servicios ORDER BY N_Servicio", "1/2/3/4/5/6");
     }
 
     // The real interval goes before the expected one by a load alone; the date of the calving saves and loads when it is left.
@@ -131,8 +128,7 @@ private Q_SLOTS:
         QCOMPARE(En(*p.f, "Ct_E(17)") + u' ' + En(*p.f, "Ct_E(22)"), u"365 365"_s);
         QCOMPARE(p.Fila("Fecha_Parto, FechaRealParto"), "02/01/26|02/01/27"s);
         QTest::keyClick(Control<QLineEdit>(*p.f, "Ct_S(1)"), Qt::Key_Return);
-        QCOMPARE(p.Texto("SELECT N_Servicio, Fecha_Servicio FROM T_Servicios ORDER BY N_Servicio"),
-                 "1|01/04/26/2|05/05/26"s);
+        QUEDA(p, "N_Servicio, Fecha_Servicio FROM T_Servicios ORDER BY N_Servicio", "1|01/04/26/2|05/05/26");
     }
 
     // Services and calvings that cannot be are told above the grid and below the sheet.
@@ -233,7 +229,7 @@ private Q_SLOTS:
         Hoja p;
         p.PonerCubricion(2026, 3);
         p.Poner("T_Servicios", "Id_Vaca=1200001, Año_Ref=2026, N_Parto=3, N_Servicio=1");
-        p.Poner("T_CCVacas", {{"Id_Vaca", 1200001.0}, {"AñoRef", 2026}, {"NumParto", 3}});
+        p.Poner("T_CCVacas", "Id_Vaca=1200001, AñoRef=2026, NumParto=3");
         p.Abrir(2026, 3);
         TeclearEn(*p.f, "Ct_E(0)", "4");
         p.cajas.Responder(false);
@@ -264,7 +260,7 @@ private Q_SLOTS:
         QVERIFY(cajas[0].tipo == TipoMensaje::Critico && p.f->isVisible());
         p.PonerCubricion(2026, 3);
         Crudo(p.sesion.conexion, "CREATE UNIQUE INDEX roto ON T_Servicios (Semental)");
-        p.Poner("T_Servicios", {{"Id_Vaca", 9.0}, {"Semental", "Ares"}});
+        p.Poner("T_Servicios", "Id_Vaca=9, Semental=Ares");
         p.Servicio("1/2/26", "Ares");
         QCOMPARE(p.cajas.Vistas().size(), 1);
         QCOMPARE(p.Fila("Controles"), "-"s); // the set and the record are one unit
@@ -278,7 +274,7 @@ private Q_SLOTS:
     void FechasOfrecidas() {
         Hoja p;
         p.PonerCubricion(2026, 3, "Fecha_Parto=01/02/2026");
-        p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"AñoNatural", 2026}, {"IPRPrimNov", "10/04/26"}});
+        p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural=2026, IPRPrimNov=10/04/26");
         p.Abrir(2026, 3);
         Control<QAbstractButton>(*p.f, "IconoBusDato(1)")->click();
         auto* lista = Control<QTableWidget>(*p.f, "GridFechaIPR");
@@ -322,8 +318,7 @@ private Q_SLOTS:
         Control<QAbstractButton>(*p.f, "B_Siguiente")->click();
         QVERIFY(!Control<QCheckBox>(*p.f, "Ch_E(24)")->isChecked());
         QCOMPARE(En(*p.f, "Ct_E(26)"), QString());
-        sqlite3_exec(p.sesion.conexion.Manejador(), "ALTER TABLE T_Servicios RENAME TO Otra", nullptr,
-                     nullptr, nullptr);
+        Crudo(p.sesion.conexion, "ALTER TABLE T_Servicios RENAME TO Otra");
         Control<QAbstractButton>(*p.f, "B_Anterior")->click();
         QCOMPARE(p.cajas.Vistas().size(), 1);
         QVERIFY(!p.f->isVisible());
@@ -336,7 +331,7 @@ private Q_SLOTS:
         p.Abrir(2026, 3);
         TeclearEn(*p.f, "Ct_S(1)", "12/6/26");
         QTest::keyClick(p.f->focusWidget(), Qt::Key_Return);
-        QCOMPARE(p.Texto("SELECT N_Servicio, Fecha_Servicio FROM T_Servicios"), std::string("1|12/06/26"));
+        QUEDA(p, "N_Servicio, Fecha_Servicio FROM T_Servicios", "1|12/06/26");
     }
 
     // Services are numbered within the cycle that the record has come to.
@@ -351,8 +346,7 @@ private Q_SLOTS:
         p.cajas.Vistas();
         Control<QAbstractButton>(*p.f, "IconoNav(0)")->click();
         p.Servicio("22/6/26");
-        QCOMPARE(p.Texto("SELECT N_Parto, N_Servicio FROM T_Servicios ORDER BY N_Servicio"),
-                 std::string("4|1/4|2"));
+        QUEDA(p, "N_Parto, N_Servicio FROM T_Servicios ORDER BY N_Servicio", "4|1/4|2");
     }
 };
 

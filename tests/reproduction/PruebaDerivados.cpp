@@ -1,12 +1,10 @@
 #include "BaseDePrueba.h"
-#include "prueba.h"
 
 #include "reproduction/datos/Causas.h"
 #include "reproduction/datos/DatosDeCiclo.h"
 #include "reproduction/datos/Destete.h"
 #include "reproduction/datos/Limites.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
@@ -34,40 +32,33 @@ private Q_SLOTS:
     void Intervalos_data() {
         // estado: 0 none, 1 pregnant, 2 empty
         // años: of the record, of her last record when she left
-        Columnas<QString, int, QString, QString, QString>("fechas", "estado", "años", "iprCp", "iepc");
-        const auto fila = [](const char* caso, const char* fechas, int estado, const char* años,
-                             const char* iprCp, const char* iepc) {
-            Caso(caso, QString::fromUtf8(fechas), estado, años, QString::fromUtf8(iprCp), iepc);
-        };
-        fila("nothing known", "||||||", 0, "2026|", "No F.IPR", "");
+        Caso("nothing known", "||||||", 0, "2026|", "No F.IPR", "");
         // in the herd
-        fila("open 79 days", "4/9/26||||||", 0, "2026|", "No F.IPR", "");
-        fila("open 80 days", "3/9/26||||||", 0, "2026|", "No F.IPR", "366");
-        fila("to today", "1/6/26||11/10/26||||", 2, "2026|", "42", "460");
-        fila("served at once", "1/11/26||1/11/26|5/11/26|5/11/26||", 0, "2026|", "4", "290");
-        fila("last line without a date", "1/11/26||1/11/26|5/11/26|||", 1, "2026|", "21", "");
-        fila("service before the start", "1/6/26||1/10/26||1/9/26||", 1, "2026|", "-30", "378");
+        Caso("open 79 days", "4/9/26||||||", 0, "2026|", "No F.IPR", "");
+        Caso("open 80 days", "3/9/26||||||", 0, "2026|", "No F.IPR", "366");
+        Caso("to today", "1/6/26||11/10/26||||", 2, "2026|", "42", "460");
+        Caso("served at once", "1/11/26||1/11/26|5/11/26|5/11/26||", 0, "2026|", "4", "290");
+        Caso("last line without a date", "1/11/26||1/11/26|5/11/26|||", 1, "2026|", "21", "");
+        Caso("service before the start", "1/6/26||1/10/26||1/9/26||", 1, "2026|", "-30", "378");
         // she left: this record's year, an earlier one, a later one
-        fila("pregnant, year she left", "1/1/26||1/3/26||1/5/26||1/9/26", 1, "2026|2026", "61", "406");
-        fila("pregnant, no service", "1/1/26||1/3/26||||1/9/26", 1, "2026|2026", "266", "529");
-        fila("pregnant, no start", "1/1/26||||1/5/26||1/9/26", 1, "2026|2026", "", "406");
-        fila("empty, start before she left", "1/1/26||1/3/26||1/5/26||1/9/26", 2, "2026|2026", "184", "406");
-        fila("empty, start the day she left", "1/1/26||1/9/26||1/5/26||1/9/26", 2, "2026|2026", "", "406");
-        fila("no state, no start", "1/1/26||||1/5/26||1/9/26", 0, "2026|2026", "No F.IPR", "406");
-        fila("left 79 days after calving", "1/1/26||1/2/26||1/3/26||21/3/26", 1, "2026|2026", "28", "");
-        fila("left 80 days after calving", "1/1/26||1/2/26||||22/3/26", 1, "2026|2026", "294", "366");
-        fila("earlier record", "1/1/25||1/3/25||1/5/25||1/9/26", 1, "2025|2026", "61", "");
-        fila("later record", "1/1/27||1/3/27||||1/9/26", 2, "2027|2026", "", "");
-        fila("left, date emptied on the sheet", "1/1/26||1/3/26||||", 2, "2026|2026", "", "611");
+        Caso("pregnant, year she left", "1/1/26||1/3/26||1/5/26||1/9/26", 1, "2026|2026", "61", "406");
+        Caso("pregnant, no service", "1/1/26||1/3/26||||1/9/26", 1, "2026|2026", "266", "529");
+        Caso("pregnant, no start", "1/1/26||||1/5/26||1/9/26", 1, "2026|2026", "", "406");
+        Caso("empty, start before she left", "1/1/26||1/3/26||1/5/26||1/9/26", 2, "2026|2026", "184", "406");
+        Caso("empty, start the day she left", "1/1/26||1/9/26||1/5/26||1/9/26", 2, "2026|2026", "", "406");
+        Caso("no state, no start", "1/1/26||||1/5/26||1/9/26", 0, "2026|2026", "No F.IPR", "406");
+        Caso("left 79 days after calving", "1/1/26||1/2/26||1/3/26||21/3/26", 1, "2026|2026", "28", "");
+        Caso("left 80 days after calving", "1/1/26||1/2/26||||22/3/26", 1, "2026|2026", "294", "366");
+        Caso("earlier record", "1/1/25||1/3/25||1/5/25||1/9/26", 1, "2025|2026", "61", "");
+        Caso("later record", "1/1/27||1/3/27||||1/9/26", 2, "2027|2026", "", "");
+        Caso("left, date emptied on the sheet", "1/1/26||1/3/26||||", 2, "2026|2026", "", "611");
     }
     void Intervalos() {
-        QFETCH(QString, fechas);
-        QFETCH(int, estado);
-        QFETCH(QString, años);
+        const auto [fechas, estado, años, iprCp, iepc] = DelCaso<QString, int, QString, QString, QString>();
         const auto d = Datos(fechas, static_cast<EstadoReproductivo>(estado),
-                             qUtf8Printable(años.section(u'|', 0, 0)), qUtf8Printable(años.section(u'|', 1)));
-        QTEST(QString::fromStdString(IPR_CP(d)), "iprCp");
-        QTEST(QString::fromStdString(Texto(IEPc(d))), "iepc");
+                             qPrintable(años.section(u'|', 0, 0)), qPrintable(años.section(u'|', 1)));
+        QCOMPARE(Q(IPR_CP(d)), iprCp);
+        QCOMPARE(Q(Texto(IEPc(d))), iepc);
     }
 
     void FechasDelProtocolo() {
@@ -89,7 +80,9 @@ private Q_SLOTS:
         QCOMPARE(EstadoDe("otra"), EstadoReproductivo::Ninguno);
     }
 
-    void Causas() {
+    void CausasYCeros() {
+        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false), "010"s);
+        QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), "-5"s);
         QCOMPARE(DescripcionDeCausa(16, "2"), "MortEmbrion 2"s);
         QCOMPARE(DescripcionDeCausa(5, ""),
                  "BVD "s); // the blank goes with the companion, empty or not
@@ -102,39 +95,30 @@ private Q_SLOTS:
         // fechas: calving, weaning, weighing
         // pesos: birth, weighing
         // figuras: age, weight, gain
-        Columnas<QString, QString, QString>("fechas", "pesos", "figuras");
-        const auto fila = [](const char* caso, const char* fechas, const char* pesos, const char* figuras) {
-            Caso(caso, QString::fromUtf8(fechas), QString::fromUtf8(pesos), QString::fromUtf8(figuras));
-        };
-        fila("weighed at weaning", "1/1/26|30/6/26|30/6/26", "40|220", "180|220|1000");
-        fila("carried along the line", "1/1/26|30/6/26|10/7/26", "40|230", "180|220|1000");
-        fila("41,5 counts as 42", "1/1/26|11/4/26|11/4/26", "41,5|142", "100|142|1000");
-        fila("42,5 counts as 42", "1/1/26|11/4/26|11/4/26", "42,5|142", "100|142|1000");
-        fila("half a gram to the even one", "1/1/26|17/1/26|17/1/26", "40|41", "16|41|62");
-        fila("weighed on the day of birth", "1/1/26|30/6/26|1/1/26", "40|40", "180||");
-        fila("no weighing", "1/1/26|30/6/26|", "40|220", "180||");
-        fila("no number", "1/1/26|30/6/26|30/6/26", "cuarenta|220", "180||");
-        fila("weaned on the day of birth", "1/1/26|1/1/26|30/6/26", "40|220", "0|40|");
-        fila("weaned before", "2/1/26|1/1/26|30/6/26", "40|220", "-1|39|");
-        fila("lost weight", "1/1/26|11/4/26|11/4/26", "40|30", "100|30|-100");
-        fila("no gain", "1/1/26|11/4/26|11/4/26", "40|40", "100|40|");
-        fila("carried under zero", "1/1/26|11/4/26|11/1/26", "40|30", "100||");
-        fila("no calving", "|11/4/26|11/4/26", "40|140", "||");
+        Caso("weighed at weaning", "1/1/26|30/6/26|30/6/26", "40|220", "180|220|1000");
+        Caso("carried along the line", "1/1/26|30/6/26|10/7/26", "40|230", "180|220|1000");
+        Caso("41,5 counts as 42", "1/1/26|11/4/26|11/4/26", "41,5|142", "100|142|1000");
+        Caso("42,5 counts as 42", "1/1/26|11/4/26|11/4/26", "42,5|142", "100|142|1000");
+        Caso("half a gram to the even one", "1/1/26|17/1/26|17/1/26", "40|41", "16|41|62");
+        Caso("weighed on the day of birth", "1/1/26|30/6/26|1/1/26", "40|40", "180||");
+        Caso("no weighing", "1/1/26|30/6/26|", "40|220", "180||");
+        Caso("no number", "1/1/26|30/6/26|30/6/26", "cuarenta|220", "180||");
+        Caso("weaned on the day of birth", "1/1/26|1/1/26|30/6/26", "40|220", "0|40|");
+        Caso("weaned before", "2/1/26|1/1/26|30/6/26", "40|220", "-1|39|");
+        Caso("lost weight", "1/1/26|11/4/26|11/4/26", "40|30", "100|30|-100");
+        Caso("no gain", "1/1/26|11/4/26|11/4/26", "40|40", "100|40|");
+        Caso("carried under zero", "1/1/26|11/4/26|11/1/26", "40|30", "100||");
+        Caso("no calving", "|11/4/26|11/4/26", "40|140", "||");
     }
     void Destete() {
-        QFETCH(QString, fechas);
-        QFETCH(QString, pesos);
+        QString fechas, pesos, figuras;
+        DelCaso(fechas, pesos, figuras);
         const auto fecha = [&](qsizetype i) {
             return FechaDeTexto(fechas.section(u'|', i, i).toStdString());
         };
         const auto f = CalcularDestete({fecha(0), fecha(1), fecha(2), pesos.section(u'|', 0, 0).toStdString(),
                                         pesos.section(u'|', 1).toStdString()});
-        QTEST(QString::fromStdString(f.edadDestete + "|" + f.pesoDestete + "|" + f.gDestete), "figuras");
-    }
-
-    void CerosMostrados() {
-        QCOMPARE(EdadMostrada("0", true) + EdadMostrada("0", false) + EdadMostrada("10", false), "010"s);
-        QCOMPARE(GananciaMostrada("0") + GananciaMostrada("-5"), "-5"s);
+        QCOMPARE(Q(f.edadDestete + "|" + f.pesoDestete + "|" + f.gDestete), figuras);
     }
 
     // The ends of what is possible are possible.

@@ -1,10 +1,8 @@
 #include "PuestoDeCiclos.h"
-#include "prueba.h"
 
 #include "frame/Ajustes.h"
 #include "reproduction/PanelAvisos.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 // The day's work on the ground of the main window.
@@ -14,8 +12,8 @@ class PruebaPanelAvisos : public QObject {
 private Q_SLOTS:
     void FiltroYAvance() {
         PuestoDeCiclos p;
-        p.Poner("T_Ganaderos", {{"Id_Ganadero", 15.0}, {"Apodo", "El Xeitu"}});
-        p.Poner("T_Vacas", {{"Id_Vaca", 1500001.0}, {"Id_Ganadero", 15.0}, {"Nombre", "Mora"}});
+        p.Poner("T_Ganaderos", "Id_Ganadero=15, Apodo=El Xeitu");
+        p.Poner("T_Vacas", "Id_Vaca=1500001, Id_Ganadero=15, Nombre=Mora");
         p.PonerCubricion(2026, 3, "FechaIPR=1/6/26, DatosCompletos=1");
         p.PonerCubricion(2026, 1, "Id_Vaca=1500001, FechaIPR=1/5/26, DatosCompletos=1");
         QWidget fondo;
@@ -54,7 +52,7 @@ private Q_SLOTS:
         p.PonerCubricion(2026, 3, "FechaIPR=1/6/26");
         EnGrupo(p.sesion.conexion, [&] {
             for (int i = 0; i < 1600; ++i)
-                p.Poner("T_Vacas", {{"Id_Vaca", 5000000.0 + i}});
+                p.Poner("T_Vacas", "Id_Vaca", 5000000.0 + i);
         });
         QWidget fondo;
         PanelAvisos panel(p.sesion, &fondo);

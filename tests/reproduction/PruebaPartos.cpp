@@ -1,12 +1,10 @@
 #include "PuestoDeCiclos.h"
-#include "prueba.h"
 
 #include "reproduction/AltaDeCiclo.h"
 #include "reproduction/Cebo.h"
 #include "reproduction/FichaIPR.h"
 #include "reproduction/Partos.h"
 
-using namespace pastorix;
 using namespace prueba;
 
 namespace {
@@ -109,9 +107,7 @@ private Q_SLOTS:
         p.PonerParto(2026, 3, 1, "Fecha_Parto=01/01/2026, PesoNac=40");
         p.Abrir(2026, 3);
         p.Pestaña(1);
-        TeclearEn(*p.f, "Ct_T1(9)", "30/6/26");
-        TeclearEn(*p.f, "Ct_T1(14)", "30/6/26");
-        TeclearEn(*p.f, "Ct_T1(15)", "220.4");
+        TeclearEn(*p.f, {{"Ct_T1(9)", "30/6/26"}, {"Ct_T1(14)", "30/6/26"}, {"Ct_T1(15)", "220.4"}});
         const auto figuras = [&] {
             return En(*p.f, "Ct_T1(6)") + u' ' + En(*p.f, "Ct_T1(10)") + u' ' + En(*p.f, "Ct_T1(7)");
         };
@@ -141,13 +137,11 @@ private Q_SLOTS:
         };
         QVERIFY(pie(0).endsWith(u"«01/12/26»: La fecha está por llegar"_s));
         QVERIFY(pie(1).contains(u"«400»: Peso al nacer de 400 kg"_s));
-        TeclearEn(*p.f, "Ct_G(2)", "1/1/26");
-        TeclearEn(*p.f, "Ct_G(0)", "0");
+        TeclearEn(*p.f, {{"Ct_G(2)", "1/1/26"}, {"Ct_G(0)", "0"}});
         Control<QLineEdit>(*p.f, "Ct_G(1)")->setFocus();
         QVERIFY(pie(0).contains(u"«0»: Un parto nº 0 se borra"_s) && !pie(0).contains(u"por llegar"_s));
         p.Pestaña(1);
-        TeclearEn(*p.f, "Ct_T1(1)", "40");
-        TeclearEn(*p.f, "Ct_T1(9)", "15/1/26");
+        TeclearEn(*p.f, {{"Ct_T1(1)", "40"}, {"Ct_T1(9)", "15/1/26"}});
         Control<QLineEdit>(*p.f, "Ct_T1(20)")->setFocus();
         QCOMPARE(pie(1), u"Edad Destete (días) «14»: Destete de 14 días: lo posible va de 60 a 400"_s);
         p.Aceptar();
@@ -170,13 +164,12 @@ private Q_SLOTS:
         QCOMPARE(destino->currentText().toStdString() + p.Texto("SELECT Id_Cebo FROM T_Cebo"), "Cebo"s);
         QTest::keyClick(destino, Qt::Key_Tab);
         QVERIFY(boton->isEnabled());
-        QCOMPARE(p.Texto("SELECT Id_Cebo, Id_Vaca, Origen, FechaNac FROM T_Cebo"),
-                 "1|1200001|Propio|01/01/26"s);
+        QUEDA(p, "Id_Cebo, Id_Vaca, Origen, FechaNac FROM T_Cebo", "1|1200001|Propio|01/01/26");
         p.sesion.conexion.Execute("UPDATE T_Cebo SET KgCanal = 250");
         Escoger(*p.f, "Cd_T1(6)", Qt::Key_T);
-        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Cebo"), std::string());
+        QUEDA(p, "Id_Cebo FROM T_Cebo", "");
         Escoger(*p.f, "Cd_T1(6)", Qt::Key_C);
-        QCOMPARE(p.Texto("SELECT Id_Cebo, KgCanal FROM T_Cebo"), "1|250"s);
+        QUEDA(p, "Id_Cebo, KgCanal FROM T_Cebo", "1|250");
         p.cajas.Responder(true); // given up: the destination, and the record with it
         p.f->reject();
         p.cajas.Vistas();
@@ -189,8 +182,8 @@ private Q_SLOTS:
         QCOMPARE(Control<QLabel>(*p.f, "AvisoCebo")->text(),
                  u"Al guardar cambiará en la ficha de cebo: Fecha de entrada"_s);
         p.Aceptar();
-        QCOMPARE(p.Texto("SELECT FechaCebo FROM T_Cebo"), "30/06/26"s);
-        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Partos WHERE Id_Vaca = 9"), "-"s);
+        QUEDA(p, "FechaCebo FROM T_Cebo", "30/06/26");
+        QUEDA(p, "Id_Cebo FROM T_Partos WHERE Id_Vaca = 9", "-");
     }
 
     // The fattening record: dates and numbers that fail keep the column, own calves carry their values back to the calving.
@@ -203,13 +196,12 @@ private Q_SLOTS:
         pastorix::Cebo f(p.sesion, 12, 1.0, {});
         Mostrar(f);
         const auto guardar = [&] { Control<QAbstractButton>(f, "B_Guardar")->click(); };
-        TeclearEn(f, "CT_Estandar(2)", "1/7/26");
-        TeclearEn(f, "CT_Estandar(5)", "1/12/26");
+        TeclearEn(f, {{"CT_Estandar(2)", "1/7/26"}, {"CT_Estandar(5)", "1/12/26"}});
         QCOMPARE(En(f, "CT_Estandar(6)") + u' ' + En(f, "CT_Estandar(7)"), u"334 153"_s);
         TeclearEn(f, "CT_Estandar(9)", "");
         QVERIFY(Control<QLabel>(f, "AvisoParto")->text().contains(u"Fecha de destete"_s));
         guardar();
-        QCOMPARE(p.Texto("SELECT FechaCebo, EdadSacrif, KgCanal FROM T_Cebo"), "01/07/26|334|250,5"s);
+        QUEDA(p, "FechaCebo, EdadSacrif, KgCanal FROM T_Cebo", "01/07/26|334|250,5");
         QCOMPARE(En(f, "CT_Estandar(9)"), u"250,5"_s);
         QVERIFY(Control<QLabel>(f, "Estado")->text().endsWith(u"queda como estaba: Kg Canal"_s));
         QCOMPARE(p.Filas("FechaDestete, Fecha_Parto"), "01/07/26|01/01/26/-|01/01/24"s);
@@ -224,18 +216,17 @@ private Q_SLOTS:
         QCOMPARE(p.Caja(), u"Debe indicar el año de referencia"_s);
         TeclearEn(f, "CT_Estandar(4)", "2026");
         guardar();
-        QCOMPARE(p.Texto("SELECT Id_Cebo FROM T_Cebo ORDER BY Id_Cebo"), "1/2"s);
+        QUEDA(p, "Id_Cebo FROM T_Cebo ORDER BY Id_Cebo", "1/2");
     }
 
     void AltaRapida_data() {
-        Columnas<bool, QString, QString>("parto", "sinAño", "sinParto");
         Caso("mating", false, "Indique el Año de Referencia para la Cubrición",
              "Indique el el Nº de Parto para el año 2026");
         Caso("calving", true, "Indique el Año de Referencia para el Parto",
              "Indique el Nº de Parto del año 2026");
     }
     void AltaRapida() {
-        QFETCH(bool, parto);
+        const auto [parto, sinAño, sinParto] = DelCaso<bool, QString, QString>();
         PuestoDeCiclos p;
         p.PonerCubricion(2025, 2);
         p.PonerParto(2025, 2, 1);
@@ -245,17 +236,16 @@ private Q_SLOTS:
         const auto aceptar = [&] { Control<QAbstractButton>(f, "B_Aceptar")->click(); };
         TeclearEn(f, "CT_Estandar(0)", "202");
         aceptar();
-        QTEST(p.Caja(), "sinAño");
+        QCOMPARE(p.Caja(), sinAño);
         TeclearEn(f, "CT_Estandar(1)", "3");
         TeclearEn(f, "CT_Estandar(0)", "2026"); // the two go together
         aceptar();
-        QTEST(p.Caja(), "sinParto");
+        QCOMPARE(p.Caja(), sinParto);
         auto* grid = f.findChild<QTableWidget*>();
         QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
                           grid->visualItemRect(grid->item(0, 0)).center());
         QCOMPARE(En(f, "CT_Estandar(0)") + En(f, "CT_Estandar(1)"), u"20252"_s);
-        TeclearEn(f, "CT_Estandar(0)", "2026");
-        TeclearEn(f, "CT_Estandar(1)", "3");
+        TeclearEn(f, {{"CT_Estandar(0)", "2026"}, {"CT_Estandar(1)", "3"}});
         QTest::keyClick(f.focusWidget(), Qt::Key_Return);
         QCOMPARE(f.result(), int(QDialog::Accepted));
         QCOMPARE(p.Texto("SELECT Año_Ref, N_Parto, Fecha_Parto FROM " +
@@ -267,8 +257,7 @@ private Q_SLOTS:
     void FichaDeIPR() {
         PuestoDeCiclos p;
         p.Poner("T_IPR", "Id_Ganadero=12, AñoNatural=2020, IPRPrimNov=01/04/20, PrimVac=01/03/20");
-        FichaIPR f(p.sesion);
-        Mostrar(f);
+        AlaVista<FichaIPR> f(p.sesion);
         Control<QAbstractButton>(f, "B_Aceptar")->click();
         QCOMPARE(p.Caja(), u"Debe Seleccionar el Ganadero al que pertenecen los datos"_s);
         TeclearEn(f, "CT_Estandar(0)", "99");
@@ -277,27 +266,23 @@ private Q_SLOTS:
         TeclearEn(f, "CT_Estandar(0)", "12");
         QTest::keyClick(f.focusWidget(), Qt::Key_Return);
         QCOMPARE(En(f, "CT_Estandar(1)") + En(f, "CT_Estandar(2)"), u"La Nora01/03/20"_s);
-        TeclearEn(f, "CT_Estandar(2)", "");
-        TeclearEn(f, "CT_Estandar(5)", "1/11/20");
+        TeclearEn(f, {{"CT_Estandar(2)", ""}, {"CT_Estandar(5)", "1/11/20"}});
         Control<QAbstractButton>(f, "B_Aceptar")->click();
-        QCOMPARE(p.Texto("SELECT AñoNatural, IPRPrimNov, PrimVac, InvNov FROM T_IPR"),
-                 "2020|01/04/20|-|1/11/20"s);
+        QUEDA(p, "AñoNatural, IPRPrimNov, PrimVac, InvNov FROM T_IPR", "2020|01/04/20|-|1/11/20");
     }
 
     // A key that accepts from the code does not write what is on the sheet into a farmer whose values are not.
     void IPRDesdeElCodigo() {
         PuestoDeCiclos p;
-        p.Poner("T_IPR", {{"Id_Ganadero", 12.0}, {"PrimVac", "01/03/20"}, {"Blanco", "nota"}});
-        FichaIPR f(p.sesion);
-        Mostrar(f);
+        p.Poner("T_IPR", "Id_Ganadero=12, PrimVac=01/03/20, Blanco=nota");
+        AlaVista<FichaIPR> f(p.sesion);
         TeclearEn(f, "CT_Estandar(0)", "12");
         Control<QAbstractButton>(f, "B_Aceptar")->click();
-        QCOMPARE(p.Texto("SELECT Id_Ganadero, PrimVac, Blanco FROM T_IPR"), std::string("12|01/03/20|nota"));
-        FichaIPR otra(p.sesion);
-        Mostrar(otra);
+        QUEDA(p, "Id_Ganadero, PrimVac, Blanco FROM T_IPR", "12|01/03/20|nota");
+        AlaVista<FichaIPR> otra(p.sesion);
         TeclearEn(otra, "CT_Estandar(0)", "0");
         Control<QAbstractButton>(otra, "B_Aceptar")->click();
-        QCOMPARE(p.Caja(), QStringLiteral("Debe Seleccionar el Ganadero al que pertenecen los datos"));
+        QCOMPARE(p.Caja(), u"Debe Seleccionar el Ganadero al que pertenecen los datos"_s);
     }
 
     // A refused "No" that is chosen again asks again, and the third row of a calving stays as it is when the second goes.
@@ -312,12 +297,12 @@ private Q_SLOTS:
         gemelar->setFocus();
         for (const bool si : {false, true}) {
             p.cajas.Responder(si);
-            gemelar->setCurrentText(QStringLiteral("No"));
+            gemelar->setCurrentText(u"No"_s);
             Q_EMIT gemelar->activated(gemelar->currentIndex());
             QCOMPARE(p.cajas.Vistas().size(), 1);
         }
         p.Aceptar();
-        QCOMPARE(p.Filas("Id_Parto, RegSaneam, Gemelar"), std::string("1|1|No/3|3|2 Machos"));
+        QCOMPARE(p.Filas("Id_Parto, RegSaneam, Gemelar"), "1|1|No/3|3|2 Machos"s);
     }
 
     // A parity that another calving has would make twins of the two.
@@ -329,8 +314,8 @@ private Q_SLOTS:
         TeclearEn(*p.f, "Ct_G(0)", "3");
         p.cajas.Responder(false);
         p.Aceptar();
-        QVERIFY(p.Caja().startsWith(QStringLiteral("La vaca ya tiene otro parto nº 3 del año 2026")));
-        QCOMPARE(p.Filas("N_Parto, Fecha_Parto"), std::string("3|01/02/26/4|01/11/26"));
+        QVERIFY(p.Caja().startsWith(u"La vaca ya tiene otro parto nº 3 del año 2026"_s));
+        QCOMPARE(p.Filas("N_Parto, Fecha_Parto"), "3|01/02/26/4|01/11/26"s);
     }
 
     // A calf goes to fattening under the year that its calving has come to.
@@ -342,8 +327,7 @@ private Q_SLOTS:
         Control<QAbstractButton>(*p.f, "B_Siguiente")->click(); // there is none: saved, and stays
         p.Pestaña(1);
         Escoger(*p.f, "Cd_T1(6)", Qt::Key_C);
-        QCOMPARE(p.Texto("SELECT AñoRef FROM T_Cebo") + p.Filas("Año_Ref, Id_Cebo"),
-                 std::string("20252025|1"));
+        QCOMPARE(p.Texto("SELECT AñoRef FROM T_Cebo") + p.Filas("Año_Ref, Id_Cebo"), "20252025|1"s);
         p.Aceptar();
     }
 };

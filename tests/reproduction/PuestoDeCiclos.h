@@ -5,25 +5,23 @@
 #include "frame/Principal.h"
 #include "registers/datos/VacaEnMano.h"
 
-#include <QCheckBox>
-
 namespace prueba {
 
 // A cow of farmer 12 with her sheets' frame. Her code is 1200001, the year 2026.
 struct PuestoDeCiclos : PuestoDeFichas {
-    pastorix::Principal marco{sesion};
-    pastorix::VacaEnMano vaca;
+    Principal marco{sesion};
+    VacaEnMano vaca;
 
     PuestoDeCiclos() {
-        Poner("T_Ganaderos", {{"Id_Ganadero", 12.0}, {"Nombre", "Nora"}, {"Apodo", "La Nora"}});
-        Poner("T_Vacas", {{"Id_Vaca", 1200001.0}, {"Id_Ganadero", 12.0}, {"Nombre", "Luna"}});
+        Poner("T_Ganaderos", "Id_Ganadero=12, Nombre=Nora, Apodo=La Nora");
+        Poner("T_Vacas", "Id_Vaca=1200001, Id_Ganadero=12, Nombre=Luna");
         vaca.idVaca = 1200001;
         vaca.idGanadero = 12;
         vaca.nombreC = "Luna-C";
         marco.Vincular(QStringLiteral("MnuPpal"), [] {});
         QApplication::setKeyboardInputInterval(1); // letters in lists stand for themselves
     }
-    static pastorix::CicloDeVaca Ciclo(int año, int parto) { return {1200001, 0, año, parto, {}, false}; }
+    static CicloDeVaca Ciclo(int año, int parto) { return {1200001, 0, año, parto, {}, false}; }
     void PonerCubricion(int año, int parto, const char* fila = "") {
         PonerCiclo("T_Cubriciones", "Id_Cubricion", año * 100 + parto, año, parto, 1200001, fila);
     }
@@ -31,11 +29,8 @@ struct PuestoDeCiclos : PuestoDeFichas {
         PonerCiclo("T_Partos", "Id_Parto", id, año, parto, idVaca, fila);
     }
     void PonerServicio(int n, const char* fecha) {
-        Poner("T_Servicios", {{"Id_Vaca", 1200001.0},
-                              {"Año_Ref", 2026},
-                              {"N_Parto", 3},
-                              {"N_Servicio", n},
-                              {"Fecha_Servicio", *fecha ? pastorix::Valor(fecha) : pastorix::Valor()}});
+        Poner("T_Servicios", "Id_Vaca=1200001, Año_Ref=2026, N_Parto=3, N_Servicio, Fecha_Servicio", n,
+              *fecha ? Valor(fecha) : Valor());
     }
 
 private:
@@ -53,7 +48,7 @@ private:
 
 template <typename T>
 T* Control(QWidget& ficha, const char* nombre) {
-    return ficha.findChild<T*>(QString::fromUtf8(nombre));
+    return ficha.findChild<T*>(Q(nombre));
 }
 inline QString En(QWidget& ficha, const char* nombre) {
     return Control<QLineEdit>(ficha, nombre)->text();
@@ -66,6 +61,10 @@ inline void TeclearEn(QWidget& ficha, const char* nombre, const char* texto) {
         TeclearEn(*campo, texto);
     else
         QTest::keyClick(campo, Qt::Key_Delete);
+}
+inline void TeclearEn(QWidget& ficha, std::initializer_list<std::pair<const char*, const char*>> campos) {
+    for (const auto& [nombre, texto] : campos)
+        TeclearEn(ficha, nombre, texto);
 }
 // The item that begins with the letter, decided on by Enter.
 inline void Escoger(QWidget& ficha, const char* nombre, Qt::Key letra) {

@@ -9,16 +9,10 @@ namespace prueba {
 // Two farms with their people, the two reserved owners of bulls, a few cows and bulls.
 struct Granjas : Base {
     Granjas() {
-        using pastorix::Valor;
-        const auto T = [](const char* t) { return Valor(std::string(t)); };
-        Poner("T_Veterinarios", {{"Id_Veterinario", 2.0},
-                                 {"NombreVet", T("Eva")},
-                                 {"ApellidosVet", T("López")},
-                                 {"Concejo", T("Tineo")},
-                                 {"Usuario", T("elopez")},
-                                 {"Id_Direccion", 4.0}});
-        Poner("T_Direcciones", {{"Id_Direccion", 3.0}, {"Id_GV", 12.0}, {"Localidad", T("Navelgas")}});
-        Poner("T_Direcciones", {{"Id_Direccion", 4.0}, {"Id_GV", 2.0}, {"Localidad", T("Luarca")}});
+        Poner("T_Veterinarios", "Id_Veterinario=2, NombreVet=Eva, ApellidosVet=López, Concejo=Tineo, "
+                                "Usuario=elopez, Id_Direccion=4");
+        Poner("T_Direcciones", "Id_Direccion=3, Id_GV=12, Localidad=Navelgas");
+        Poner("T_Direcciones", "Id_Direccion=4, Id_GV=2, Localidad=Luarca");
         Ganadero(1, "Toros IA", "", "Toros IA");
         Ganadero(12, "Nicolás", "Ñuño", "Casa Pola", 2.0, 3.0);
         Ganadero(57, "Olga", "Cuesta", "La Braña");
@@ -32,41 +26,29 @@ struct Granjas : Base {
         Toro(900001, 900, "Ajeno", {});
         Toro(3, 1, "Imán", {});
         Toro(4, 1, "Jara", F("05/05/2019"));
-        Poner("T_Nucleos", {{"Id_Nucleo", 1.0}, {"DescNucleo", T("Occidente")}});
+        Poner("T_Nucleos", "Id_Nucleo=1, DescNucleo=Occidente");
     }
 
-    void Ganadero(double codigo, const char* nombre, const char* apellidos, const char* apodo,
-                  pastorix::Valor vet = {}, pastorix::Valor direccion = {}) {
-        Poner("T_Ganaderos", {{"Id_Ganadero", codigo},
-                              {"Nombre", std::string(nombre)},
-                              {"Apellidos", std::string(apellidos)},
-                              {"Apodo", std::string(apodo)},
-                              {"Id_Veterinario", vet},
-                              {"Id_Direccion", direccion}});
+    void Ganadero(double codigo, const char* nombre, const char* apellidos, const char* apodo, Valor vet = {},
+                  Valor direccion = {}) {
+        Poner("T_Ganaderos", "Id_Ganadero, Nombre, Apellidos, Apodo, Id_Veterinario, Id_Direccion", codigo,
+              std::string(nombre), std::string(apellidos), std::string(apodo), vet, direccion);
     }
     void Vaca(double codigo, double ganadero, const char* nombre, const char* crotal, const char* nombreC,
-              std::optional<pastorix::Fecha> baja) {
-        Poner("T_Vacas", {{"Id_Vaca", codigo},
-                          {"Id_Ganadero", ganadero},
-                          {"Nombre", std::string(nombre)},
-                          {"Crotal", std::string(crotal)},
-                          {"NombreC", std::string(nombreC)},
-                          {"FechaDesecho", baja ? pastorix::Valor(*baja) : pastorix::Valor()}});
+              std::optional<Fecha> baja) {
+        Poner("T_Vacas", "Id_Vaca, Id_Ganadero, Nombre, Crotal, NombreC, FechaDesecho", codigo, ganadero,
+              std::string(nombre), std::string(crotal), std::string(nombreC), baja ? Valor(*baja) : Valor());
     }
-    void Toro(double codigo, double ganadero, const char* nombre, std::optional<pastorix::Fecha> baja) {
-        Poner("T_Sementales", {{"Id_Semental", codigo},
-                               {"Id_Ganadero", ganadero},
-                               {"Nombre", std::string(nombre)},
-                               {"NombreC", std::string(nombre) + "-C"},
-                               {"RegGenealogico", std::string("G") + nombre},
-                               {"RegSaneam", std::string("S") + nombre},
-                               {"MG_PN", codigo / 2},
-                               {"FechaBaja", baja ? pastorix::Valor(*baja) : pastorix::Valor()}});
+    void Toro(double codigo, double ganadero, const char* nombre, std::optional<Fecha> baja) {
+        Poner("T_Sementales",
+              "Id_Semental, Id_Ganadero, Nombre, NombreC, RegGenealogico, RegSaneam, MG_PN, FechaBaja",
+              codigo, ganadero, std::string(nombre), std::string(nombre) + "-C", std::string("G") + nombre,
+              std::string("S") + nombre, codigo / 2, baja ? Valor(*baja) : Valor());
     }
 
     // One field of each row, joined by "/".
     std::string Columna(const std::string& sentencia, const std::string& campo) {
-        pastorix::Recordset rs(c, sentencia, pastorix::Cursor::Estatico, pastorix::Bloqueo::SoloLectura);
+        Recordset rs(c, sentencia, Cursor::Estatico, Bloqueo::SoloLectura);
         std::string t;
         for (; !rs.Eof(); rs.Siguiente())
             t += (t.empty() ? "" : "/") + rs[campo].Texto();

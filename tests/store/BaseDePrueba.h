@@ -1,5 +1,7 @@
 #pragma once
 
+#include "prueba.h"
+
 #include "store/Conexion.h"
 #include "store/Esquema.h"
 #include "store/Ficheros.h"
@@ -7,17 +9,13 @@
 
 #include <sqlite3.h>
 
-#include <QTemporaryDir>
-#include <QTest>
-
 #include <functional>
-#include <initializer_list>
 #include <string>
-#include <utility>
+#include <vector>
 
 namespace prueba {
 
-inline void Sql(pastorix::Conexion& c, const std::string& sql) {
+inline void Sql(Conexion& c, const std::string& sql) {
     char* error = nullptr;
     if (sqlite3_exec(c.Manejador(), sql.c_str(), nullptr, nullptr, &error) != SQLITE_OK)
         qCritical("%s: %s", error, sql.c_str());
@@ -28,7 +26,7 @@ inline void Sql(pastorix::Conexion& c, const std::string& sql) {
 inline long Numero(const std::function<void()>& f) {
     try {
         f();
-    } catch (const pastorix::ErrorAlmacen& e) {
+    } catch (const ErrorAlmacen& e) {
         return e.Numero();
     }
     return 0;
@@ -36,30 +34,30 @@ inline long Numero(const std::function<void()>& f) {
 
 // What a test puts into a database, and the look at what is there.
 struct ConFilas {
-    using Fila = std::initializer_list<std::pair<const char*, pastorix::Valor>>;
+    Conexion& conexion;
 
-    pastorix::Conexion& conexion;
-
-    void Poner(const std::string& tabla, Fila fila) {
-        auto rs = pastorix::Recordset::ParaAñadir(conexion, "SELECT * FROM " + tabla);
-        rs.AddNew();
-        for (const auto& [campo, valor] : fila)
-            rs[campo] = valor;
-        rs.Update();
+    // "Campo=valor, Campo": what a column takes as text; fields without one take the values that follow.
+    template <typename... V>
+    void Poner(const std::string& tabla, const char* fila, const V&... valores) {
+        PonerFila(tabla, Q(fila), {Valor(valores)...});
     }
-    // "Campo=valor, Campo=valor": what a column takes as text.
-    void Poner(const std::string& tabla, const char* fila) {
-        auto rs = pastorix::Recordset::ParaAñadir(conexion, "SELECT * FROM " + tabla);
+    void PonerFila(const std::string& tabla, const QString& fila, const std::vector<Valor>& valores) {
+        auto rs = Recordset::ParaAñadir(conexion, "SELECT * FROM " + tabla);
         rs.AddNew();
-        for (const auto& par : QString::fromUtf8(fila).split(QStringLiteral(", ")))
-            rs[par.section(QLatin1Char('='), 0, 0).toStdString()] =
-                par.section(QLatin1Char('='), 1).toStdString();
+        std::size_t i = 0;
+        for (const auto& par : fila.split(QStringLiteral(", ")))
+            if (par.contains(u'='))
+                rs[par.section(u'=', 0, 0).toStdString()] = par.section(u'=', 1).toStdString();
+            else
+                rs[par.toStdString()] = valores.at(i++);
+        if (i != valores.size())
+            qCritical("values without a field: %s", qUtf8Printable(fila));
         rs.Update();
     }
 
     // The whole result as one text: fields by '|', rows by '/', Null as '-'.
-    static std::string Texto(pastorix::Conexion& c, const std::string& sentencia) {
-        pastorix::Recordset rs(c, sentencia, pastorix::Cursor::Keyset, pastorix::Bloqueo::SoloLectura);
+    static std::string Texto(Conexion& c, const std::string& sentencia) {
+        Recordset rs(c, sentencia, Cursor::Keyset, Bloqueo::SoloLectura);
         std::string t;
         for (; !rs.Eof(); rs.Siguiente()) {
             t += t.empty() ? "" : "/";
@@ -71,16 +69,23 @@ struct ConFilas {
     std::string Texto(const std::string& sentencia) { return Texto(conexion, sentencia); }
 };
 
+inline std::string Texto(ConFilas& base, const std::string& sentencia) {
+    return base.Texto(sentencia);
+}
+inline std::string Texto(Conexion& conexion, const std::string& sentencia) {
+    return ConFilas::Texto(conexion, sentencia);
+}
+
 // A fresh main database in a folder of its own, open.
 struct Base : ConFilas {
     QTemporaryDir carpeta;
     std::string fichero = carpeta.filePath(QStringLiteral("prueba.mdb")).toStdString();
-    pastorix::Conexion c;
+    Conexion c;
 
-    explicit Base(pastorix::ClaseDeBase clase = pastorix::ClaseDeBase::Principal)
+    explicit Base(ClaseDeBase clase = ClaseDeBase::Principal)
         : ConFilas{c} {
-        pastorix::CrearBase(pastorix::Ruta(fichero), clase, pastorix::kClave);
-        c.AbrirFichero(fichero, pastorix::kClave);
+        CrearBase(Ruta(fichero), clase, kClave);
+        c.AbrirFichero(fichero, kClave);
         Sql(c, "PRAGMA synchronous=OFF"); // no test pulls the plug
     }
 
@@ -94,8 +99,11 @@ struct Base : ConFilas {
     }
 };
 
-inline pastorix::Fecha F(const char* texto) {
-    return pastorix::FechaDeTexto(texto).value();
+inline Fecha F(const char* texto) {
+    return FechaDeTexto(texto).value();
 }
 
 } // namespace prueba
+
+// What a query brings, its rows by '/', its fields by '|'.
+#define QUEDA(base, consulta, texto) QCOMPARE(prueba::Texto(base, "SELECT " consulta), std::string(texto))

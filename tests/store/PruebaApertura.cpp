@@ -1,32 +1,19 @@
 #include "BaseDePrueba.h"
-#include "prueba.h"
 
 #include "store/Apertura.h"
 #include "store/Integridad.h"
 #include "store/Verificacion.h"
 
-#include <sqlite3.h>
-
-#include <QDir>
-#include <QFile>
-#include <QScopeGuard>
-
 #ifndef _WIN32
 #include <unistd.h>
 #endif
 
-using namespace pastorix;
-using prueba::Base;
-using prueba::Sql;
+using namespace prueba;
 
 // Files as the world leaves them: cut off by a crash, forbidden, changed by other programs, sent by somebody.
 class PruebaApertura : public QObject {
     Q_OBJECT
 
-    static QByteArray Bytes(const std::string& fichero) {
-        QFile f(QString::fromStdString(fichero));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
     static QByteArray Error(Conexion& c, const std::string& fichero, const OpcionesApertura& o = {}) {
         try {
             c.AbrirFichero(fichero, kClave, o);
@@ -42,7 +29,7 @@ private Q_SLOTS:
 #ifndef _WIN32
         Base b;
         b.c.Cerrar();
-        QFile(QString::fromStdString(b.fichero)).setPermissions(QFile::WriteOther);
+        QFile(Q(b.fichero)).setPermissions(QFile::WriteOther);
         QFile(b.carpeta.path()).setPermissions(static_cast<QFile::Permissions>(0x7777));
         const bool todopoderoso = geteuid() == 0;
         if (todopoderoso)
@@ -58,28 +45,28 @@ private Q_SLOTS:
     // The machine stopped in the middle of a save: the file is sound, since what undoes the save lies beside it.
     void TrasUnCierreBrusco() {
         Base b;
-        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+        b.Poner("T_Vacas", "Id_Vaca=1");
         const auto copia = b.fichero + ".copia";
         EnGrupo(b.c, [&] {
             b.c.Execute("UPDATE T_Vacas SET Id_Vaca = 2");
             sqlite3_db_cacheflush(b.c.Manejador());
             CopiarConDiarios(Ruta(b.fichero), Ruta(copia));
         });
-        const auto antes = Bytes(copia);
-        QVERIFY(!Bytes(copia + "-journal").isEmpty());
+        const auto antes = Contenido(Q(copia));
+        QVERIFY(!Contenido(Q(copia + "-journal")).isEmpty());
         QCOMPARE(VerificarBase(copia, kClave), std::vector<std::string>());
-        QCOMPARE(Bytes(copia), antes); // looked at, not touched
-        QVERIFY(QFile::exists(QString::fromStdString(copia + "-journal")));
+        QCOMPARE(Contenido(Q(copia)), antes); // looked at, not touched
+        QVERIFY(QFile::exists(Q(copia + "-journal")));
         const auto etapa = b.fichero + ".etapa";
         Conexion c;
         AbrirPaquete(c, Ruta(copia), Ruta(etapa), kClave);
-        QCOMPARE(ValorDeCampo(c, "SELECT Id_Vaca FROM T_Vacas"), std::string("1"));
-        QCOMPARE(Bytes(copia), antes);
+        QCOMPARE(ValorDeCampo(c, "SELECT Id_Vaca FROM T_Vacas"), "1"s);
+        QCOMPARE(Contenido(Q(copia)), antes);
         c.Cerrar();
         // what an earlier package left beside the staging file has nothing to do with this one
         CopiarConDiarios(Ruta(copia), Ruta(etapa));
         AbrirPaquete(c, Ruta(b.fichero), Ruta(etapa), kClave);
-        QCOMPARE(ValorDeCampo(c, "SELECT Id_Vaca FROM T_Vacas"), std::string("2"));
+        QCOMPARE(ValorDeCampo(c, "SELECT Id_Vaca FROM T_Vacas"), "2"s);
     }
 
     void UnBloqueoNoEsUnaAveria() {
@@ -97,11 +84,11 @@ private Q_SLOTS:
         Base b;
         EnGrupo(b.c, [&] {
             for (int i = 0; i < 400; ++i)
-                b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(300, 'x')}});
+                b.Poner("T_Vacas", "Id_Vaca, Patologia", i, std::string(300, 'x'));
         });
         b.c.Cerrar();
-        const auto sano = Bytes(b.fichero);
-        QFile f(QString::fromStdString(b.fichero));
+        const auto sano = Contenido(Q(b.fichero));
+        QFile f(Q(b.fichero));
         int dañadas = 0;
         for (qsizetype pagina = 1; pagina < sano.size() / 4096; pagina += 5) {
             auto bytes = sano;
@@ -133,8 +120,8 @@ private Q_SLOTS:
         Sql(b.c, "PRAGMA journal_mode=WAL");
         b.c.Cerrar();
         b.c.AbrirFichero(b.fichero, kClave);
-        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
-        QVERIFY(!QFile::exists(QString::fromStdString(b.fichero + "-wal")));
+        b.Poner("T_Vacas", "Id_Vaca=1");
+        QVERIFY(!QFile::exists(Q(b.fichero + "-wal")));
     }
 
     void LasColumnasQueFaltabanSeDicen() {
@@ -154,63 +141,57 @@ private Q_SLOTS:
     // Looked at only: rows stay, and reports and lists have their scratch tables all the same.
     void SoloLectura() {
         Base b;
-        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
-        b.Poner("X_Temp", {{"C1", "del fichero"}});
+        b.Poner("T_Vacas", "Id_Vaca=1");
+        b.Poner("X_Temp", "C1=del fichero");
         b.c.Cerrar();
-        const auto antes = Bytes(b.fichero);
+        const auto antes = Contenido(Q(b.fichero));
         OpcionesApertura o;
         o.soloLectura = true;
         b.c.AbrirFichero(b.fichero, kClave, o);
         QCOMPARE(b.Error("DELETE FROM T_Vacas"), long(CodigoError::SoloLectura));
         EnGrupo(b.c, [&] {
             b.c.Execute("DELETE FROM X_Temp");
-            b.Poner("X_Temp", {{"C1", "dos"}, {"F1", prueba::F("2/1/2026")}});
-            b.Poner("X_Temp", {{"C1", "uno"}, {"F1", prueba::F("1/1/2026")}});
+            b.Poner("X_Temp", "C1=dos, F1", F("2/1/2026"));
+            b.Poner("X_Temp", "C1=uno, F1", F("1/1/2026"));
         });
-        QCOMPARE(b.Texto("Select C1, F1 FROM X_Temp ORDER BY F1"), std::string("uno|01/01/26/dos|02/01/26"));
+        QUEDA(b, "C1, F1 FROM X_Temp ORDER BY F1", "uno|01/01/26/dos|02/01/26");
         b.c.Cerrar();
-        QCOMPARE(Bytes(b.fichero), antes);
+        QCOMPARE(Contenido(Q(b.fichero)), antes);
     }
 
     void PaquetesQueNoSonDeFiar_data() {
-        QTest::addColumn<QString>("sql");
-        QTest::addColumn<QString>("palabra"); // empty: it is taken, and does no harm
-        const QString ajenas = QStringLiteral("tablas que no son");
-        prueba::FilaDeTextos("virtual table", {"CREATE VIRTUAL TABLE v USING fts5(a)", ajenas});
-        prueba::FilaDeTextos(
-            "virtual table in place of ours",
-            {"DROP TABLE T_Tetos; CREATE VIRTUAL TABLE T_Tetos USING fts5(Id_Teto)", ajenas});
-        prueba::FilaDeTextos("column missing", {"ALTER TABLE T_Vacas DROP COLUMN Chekeo", "T_Vacas.Chekeo"});
-        prueba::FilaDeTextos("column of the repairs missing",
-                             {"ALTER TABLE T_Cebo DROP COLUMN Cambiado", ""});
-        prueba::FilaDeTextos("table missing", {"DROP TABLE T_Partos", "T_Partos"});
-        prueba::FilaDeTextos(
-            "view in place of a table",
-            {"DROP TABLE T_Partos; CREATE VIEW T_Partos AS SELECT * FROM T_Vacas", "T_Partos"});
-        prueba::FilaDeTextos("trigger",
-                             {"CREATE TRIGGER t AFTER DELETE ON T_Vacas BEGIN DELETE FROM T_Tetos; END", ""});
+        // palabra: empty: it is taken, and does no harm
+        const QString ajenas = u"tablas que no son"_s;
+        Caso("virtual table", "CREATE VIRTUAL TABLE v USING fts5(a)", ajenas);
+        Caso("virtual table in place of ours",
+             "DROP TABLE T_Tetos; CREATE VIRTUAL TABLE T_Tetos USING fts5(Id_Teto)", ajenas);
+        Caso("column missing", "ALTER TABLE T_Vacas DROP COLUMN Chekeo", "T_Vacas.Chekeo");
+        Caso("column of the repairs missing", "ALTER TABLE T_Cebo DROP COLUMN Cambiado", "");
+        Caso("table missing", "DROP TABLE T_Partos", "T_Partos");
+        Caso("view in place of a table", "DROP TABLE T_Partos; CREATE VIEW T_Partos AS SELECT * FROM T_Vacas",
+             "T_Partos");
+        Caso("trigger", "CREATE TRIGGER t AFTER DELETE ON T_Vacas BEGIN DELETE FROM T_Tetos; END", "");
     }
     void PaquetesQueNoSonDeFiar() {
-        QFETCH(QString, sql);
-        QFETCH(QString, palabra);
+        const auto [sql, palabra] = DelCaso<QString, QString>();
         Base b;
-        b.Poner("T_Vacas", {{"Id_Vaca", 1.0}});
+        b.Poner("T_Vacas", "Id_Vaca=1");
         sqlite3_db_config(b.c.Manejador(), SQLITE_DBCONFIG_DEFENSIVE, 0, nullptr);
         Sql(b.c, qPrintable(sql));
         b.c.Cerrar();
-        const auto antes = Bytes(b.fichero);
+        const auto antes = Contenido(Q(b.fichero));
         Conexion c;
         QByteArray error;
         try {
             AbrirPaquete(c, Ruta(b.fichero), Ruta(b.fichero + ".etapa"), kClave);
             c.Execute("DELETE FROM T_Vacas");
-            QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Tetos"), std::string("4"));
+            QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Tetos"), "4"s);
         } catch (const ErrorAlmacen& e) {
             error = e.what();
             QCOMPARE(c.ResultadoUltimo(), ResultadoApertura::OtroEsquema);
         }
         QVERIFY2(error.isEmpty() == palabra.isEmpty() && error.contains(palabra.toUtf8()), error);
-        QCOMPARE(Bytes(b.fichero), antes);
+        QCOMPARE(Contenido(Q(b.fichero)), antes);
         QVERIFY(!QFile::exists(b.carpeta.filePath("BackUp"))); // of a copy no other copy is kept
     }
 
@@ -219,11 +200,11 @@ private Q_SLOTS:
         QTemporaryDir carpeta;
         const auto etapa = carpeta.filePath("Imp_Cli_VETERINARIO.mdb").toStdString();
         const std::string origen = PASTORIX_DATOS "/paquetes/VETERINARIO.mdb";
-        const auto antes = Bytes(origen);
+        const auto antes = Contenido(Q(origen));
         Conexion c;
         QCOMPARE(AbrirPaquete(c, Ruta(origen), Ruta(etapa), kClave), ResultadoApertura::Convertida);
-        QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Vacas"), std::string("65"));
-        QCOMPARE(Bytes(origen), antes);
+        QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Vacas"), "65"s);
+        QCOMPARE(Contenido(Q(origen)), antes);
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{"Imp_Cli_VETERINARIO.mdb"});
     }
 };

@@ -1,22 +1,12 @@
 #include "BaseDePrueba.h"
-#include "prueba.h"
 
 #include "access/EscritorAccess.h"
 #include "store/Conversion.h"
+#include "store/Diferencias.h"
 #include "store/Instruccion.h"
 #include "store/Verificacion.h"
 
-#include <sqlite3.h>
-
-#include <QCryptographicHash>
-#include <QDir>
-#include <QFile>
-
-#include <set>
-
-using namespace pastorix;
-using prueba::Base;
-using prueba::Sql;
+using namespace prueba;
 
 // Real Access files and broken ones, brought in as the program does at its first start.
 class PruebaConversion : public QObject {
@@ -26,31 +16,20 @@ class PruebaConversion : public QObject {
     int m_n = 0;
 
     QString Copia(const QString& origen) {
-        const auto destino =
-            m_carpeta.filePath(QStringLiteral("%1_%2").arg(++m_n).arg(QFileInfo(origen).fileName()));
+        const auto destino = m_carpeta.filePath(u"%1_%2"_s.arg(++m_n).arg(QFileInfo(origen).fileName()));
         QFile::copy(origen, destino);
         QFile::setPermissions(destino, QFile::ReadOwner | QFile::WriteOwner);
         return destino;
     }
-    static QByteArray Huella(const QString& fichero) {
-        QFile f(fichero);
-        if (!f.open(QIODevice::ReadOnly))
-            return {};
-        QCryptographicHash h(QCryptographicHash::Sha256);
-        h.addData(&f);
-        return h.result();
-    }
-    static QString Datos(const char* n) { return QStringLiteral(PASTORIX_DATOS "/") + QString::fromUtf8(n); }
-    static QString Ejemplo(const char* n) {
-        return QStringLiteral(PASTORIX_EJEMPLO "/") + QString::fromUtf8(n);
-    }
+    static QString Datos(const char* n) { return QStringLiteral(PASTORIX_DATOS "/") + Q(n); }
+    static QString Ejemplo(const char* n) { return QStringLiteral(PASTORIX_EJEMPLO "/") + Q(n); }
 
 private Q_SLOTS:
     void EnSuSitio() {
         const auto fichero = Copia(Ejemplo("BD_PradalC.mdb"));
-        const auto antes = Huella(fichero);
+        const auto antes = Contenido(fichero);
         OpcionesApertura o;
-        o.carpetaBackup = m_carpeta.filePath(QStringLiteral("BackUp")).toStdString();
+        o.carpetaBackup = m_carpeta.filePath(u"BackUp"_s).toStdString();
         int avances = 0;
         o.avance = [&](int hecho, int total) {
             QVERIFY(hecho <= total);
@@ -61,11 +40,10 @@ private Q_SLOTS:
         QVERIFY(avances > 0);
         // canonical columns first although the file has Desconocida in place of one and lacks another
         const auto* cub = c.Esquema().Buscar("T_Cubriciones");
-        QCOMPARE(cub->columnas[40].nombre, std::string("DemoraServIPR"));
-        QCOMPARE(cub->columnas.back().nombre, std::string("Desconocida"));
-        QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Cebo) AS N FROM T_Cebo WHERE Cambiado = 0"),
-                 std::string("749"));
-        QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Vaca) AS N FROM T_Cubriciones"), std::string("2833"));
+        QCOMPARE(cub->columnas[40].nombre, "DemoraServIPR"s);
+        QCOMPARE(cub->columnas.back().nombre, "Desconocida"s);
+        QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Cebo) AS N FROM T_Cebo WHERE Cambiado = 0"), "749"s);
+        QCOMPARE(ValorDeCampo(c, "SELECT Count(Id_Vaca) AS N FROM T_Cubriciones"), "2833"s);
         const auto valor = [&](const char* s) { return ValorDeCampo(c, s); };
         QVERIFY(valor("SELECT Nombre FROM T_Vacas WHERE Id_Vaca = 1200105")
                     .starts_with("Ñandú Güeñó áéíóú ÁÉÍÓÚ çÇ ºª"));
@@ -73,7 +51,7 @@ private Q_SLOTS:
             Recordset rs(c, "SELECT FechaNac, FechaBaja FROM T_Vacas WHERE Id_Vaca = 8500114");
             QCOMPARE(rs["FechaNac"].FechaValor(), (Fecha{0, 0})); // day 0 is a date, not Null
             Recordset lejos(c, "SELECT FechaNac FROM T_Vacas WHERE Id_Vaca = 1200042");
-            QCOMPARE(FechaIso(*lejos["FechaNac"].FechaValor()), std::string("2205-03-01"));
+            QCOMPARE(FechaIso(*lejos["FechaNac"].FechaValor()), "2205-03-01"s);
             Recordset textos(c, "SELECT RegSaneam, ObsDesecho FROM T_Vacas WHERE Id_Vaca = 4230040 OR "
                                 "Id_Vaca = 4230058 ORDER BY Id_Vaca");
             QVERIFY(!textos["RegSaneam"].Nulo()); // empty text stays empty text
@@ -81,17 +59,16 @@ private Q_SLOTS:
             Recordset nombre(c, "SELECT NombreC, Crotal FROM T_Vacas WHERE Id_Vaca = 8500099");
             QVERIFY(nombre["NombreC"].Nulo());
             Recordset raro(c, "SELECT Semental FROM T_Partos WHERE Id_Vaca = 1204009 AND N_Parto = 10");
-            QCOMPARE(raro["Semental"].Texto(), std::string("Toro d'L'Otero \"viejo\""));
+            QCOMPARE(raro["Semental"].Texto(), "Toro d'L'Otero \"viejo\""s);
         }
         c.Cerrar();
         // the original is kept, untouched, with the sheet of what was read beside it
-        const QDir backup(m_carpeta.filePath(QStringLiteral("BackUp")));
-        const auto copias = backup.entryList({QStringLiteral("*_Access_*.mdb")});
+        const QDir backup(m_carpeta.filePath(u"BackUp"_s));
+        const auto copias = backup.entryList({u"*_Access_*.mdb"_s});
         QCOMPARE(copias.size(), 1);
-        QCOMPARE(Huella(backup.filePath(copias.first())), antes);
-        QFile hoja(backup.filePath(QFileInfo(copias.first()).completeBaseName() + QStringLiteral(".txt")));
-        QVERIFY(hoja.open(QIODevice::ReadOnly));
-        const auto texto = hoja.readAll();
+        QCOMPARE(Contenido(backup.filePath(copias.first())), antes);
+        const auto texto =
+            Contenido(backup.filePath(QFileInfo(copias.first()).completeBaseName() + u".txt"_s));
         QVERIFY(texto.contains("T_Cubriciones") && texto.contains("Desconocida") && texto.contains("2833"));
         // once converted it opens as it is
         QCOMPARE(c.AbrirFichero(fichero.toStdString(), kClave, o), ResultadoApertura::Lista);
@@ -99,47 +76,37 @@ private Q_SLOTS:
     }
 
     void OtrosFicheros_data() {
-        QTest::addColumn<QString>("fichero");
-        QTest::addColumn<ResultadoApertura>("resultado");
-        QTest::addColumn<QString>("palabra");
-        QTest::newRow("wrong password")
-            << Datos("otra-clave.mdb") << ResultadoApertura::ClaveErronea << QStringLiteral("clave");
-        QTest::newRow("cut") << Datos("recortada.mdb") << ResultadoApertura::Dañada
-                             << QStringLiteral("cortad");
-        QTest::newRow("table missing")
-            << Datos("sin-T_Partos.mdb") << ResultadoApertura::OtroEsquema << QStringLiteral("T_Partos");
-        QFile texto(m_carpeta.filePath(QStringLiteral("texto.mdb")));
+        Caso("wrong password", Datos("otra-clave.mdb"), ResultadoApertura::ClaveErronea, u"clave"_s);
+        Caso("cut", Datos("recortada.mdb"), ResultadoApertura::Dañada, u"cortad"_s);
+        Caso("table missing", Datos("sin-T_Partos.mdb"), ResultadoApertura::OtroEsquema, u"T_Partos"_s);
+        QFile texto(m_carpeta.filePath(u"texto.mdb"_s));
         QVERIFY(texto.open(QIODevice::WriteOnly));
         texto.write("Estimado colega:\n");
-        QFile vacio(m_carpeta.filePath(QStringLiteral("vacio.mdb")));
+        QFile vacio(m_carpeta.filePath(u"vacio.mdb"_s));
         QVERIFY(vacio.open(QIODevice::WriteOnly));
-        QTest::newRow("text") << texto.fileName() << ResultadoApertura::NoEsBase
-                              << QStringLiteral("no es una base");
-        QTest::newRow("empty") << vacio.fileName() << ResultadoApertura::NoEsBase << QStringLiteral("vacío");
-        QTest::newRow("absent") << m_carpeta.filePath(QStringLiteral("no hay.mdb"))
-                                << ResultadoApertura::Ausente << QStringLiteral("No existe");
+        Caso("text", texto.fileName(), ResultadoApertura::NoEsBase, u"no es una base"_s);
+        Caso("empty", vacio.fileName(), ResultadoApertura::NoEsBase, u"vacío"_s);
+        Caso("absent", m_carpeta.filePath(u"no hay.mdb"_s), ResultadoApertura::Ausente, u"No existe"_s);
     }
     void OtrosFicheros() {
-        QFETCH(QString, fichero);
-        QFETCH(ResultadoApertura, resultado);
-        QFETCH(QString, palabra);
+        const auto [fichero, resultado, palabra] = DelCaso<QString, ResultadoApertura, QString>();
         QTemporaryDir carpeta;
-        const auto copia = carpeta.filePath(QStringLiteral("base.mdb"));
+        const auto copia = carpeta.filePath(u"base.mdb"_s);
         QFile::copy(fichero, copia);
-        const auto antes = Huella(copia);
+        const auto antes = Contenido(copia);
         Conexion c;
         try {
             c.AbrirFichero(copia.toStdString(), kClave);
             QFAIL("opened");
         } catch (const ErrorAlmacen& e) {
             QCOMPARE(e.Codigo(), CodigoError::NoSePuedeAbrir);
-            QVERIFY2(QString::fromUtf8(e.what()).contains(palabra), e.what());
+            QVERIFY2(Q(e.what()).contains(palabra), e.what());
         }
         QCOMPARE(c.ResultadoUltimo(), resultado);
         QVERIFY(!c.Abierta());
-        QCOMPARE(Huella(copia), antes);
+        QCOMPARE(Contenido(copia), antes);
         QCOMPARE(QDir(carpeta.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(),
-                 antes.isEmpty() ? 0 : 1);
+                 QFile::exists(fichero) ? 1 : 0);
     }
 
     void TablasDeMas() {
@@ -154,8 +121,7 @@ private Q_SLOTS:
         }
         Recordset pesadas(c, "SELECT * FROM [Mis pesadas] ORDER BY [Nº]");
         QCOMPARE(pesadas.Contar(), 7L);
-        QVERIFY(pesadas["Kg/día"].Numero() > 0);
-        QVERIFY(pesadas["Fecha pesada"].FechaValor().has_value());
+        QVERIFY(pesadas["Kg/día"].Numero() > 0 && pesadas["Fecha pesada"].FechaValor().has_value());
         QVERIFY(c.Esquema().Buscar("T_Vacas")->Buscar("NotaLibre") >= 0);
         QVERIFY(VerificarBase(fichero.toStdString(), kClave).empty());
 
@@ -164,22 +130,8 @@ private Q_SLOTS:
         Conexion d;
         d.AbrirFichero(otro.toStdString(), kClave);
         for (const auto& t : CatalogoCanonico(ClaseDeBase::Principal).Tablas()) {
-            Recordset a(c, "SELECT * FROM " + t.nombre, Cursor::Keyset, Bloqueo::SoloLectura);
-            Recordset b(d, "SELECT * FROM " + t.nombre, Cursor::Keyset, Bloqueo::SoloLectura);
-            QCOMPARE(a.Contar(), b.Contar());
-            std::multiset<std::string> filasA;
-            std::multiset<std::string> filasB;
-            const auto leer = [&](Recordset& rs, std::multiset<std::string>& filas) {
-                for (; !rs.Eof(); rs.Siguiente()) {
-                    std::string fila;
-                    for (const auto& col : t.columnas)
-                        fila += (rs[col.nombre].Nulo() ? "\x02" : rs[col.nombre].Texto()) + "|";
-                    filas.insert(fila);
-                }
-            };
-            leer(a, filasA);
-            leer(b, filasB);
-            QVERIFY2(filasA == filasB, t.nombre.c_str());
+            const auto distintas = CompararTabla(c, d, t.nombre, {t.columnas[0].nombre}).filas;
+            QVERIFY2(distintas.empty(), t.nombre.c_str());
         }
     }
 
@@ -243,13 +195,13 @@ private Q_SLOTS:
             crudo("SELECT quote(Id_Vaca) || quote(MG_PN) || quote(FechaNac) || quote(FechaCompra) || "
                   "quote(Nombre) "
                   "|| quote(Crotal) || quote(MG_PD) || quote(Calificacion) || quote(Patologia) FROM T_Vacas"),
-            std::string("1.0'doce''2025-12-10''ayer''2,5''09/12/2025''09/12/2025'2.5'-1'\n"
-                        "2.02.5'2025-12-09 23:59:59''2024-03-01'NULLNULLNULLNULL'0'\n"));
-        QCOMPARE(crudo("SELECT quote(Cambiado) FROM T_Cebo"), std::string("-1\n0\n0\n"));
+            "1.0'doce''2025-12-10''ayer''2,5''09/12/2025''09/12/2025'2.5'-1'\n"
+            "2.02.5'2025-12-09 23:59:59''2024-03-01'NULLNULLNULLNULL'0'\n"s);
+        QCOMPARE(crudo("SELECT quote(Cambiado) FROM T_Cebo"), "-1\n0\n0\n"s);
     }
 
     void DestinoQueExiste() {
-        const auto destino = m_carpeta.filePath(QStringLiteral("ya.mdb"));
+        const auto destino = m_carpeta.filePath(u"ya.mdb"_s);
         QFile f(destino);
         QVERIFY(f.open(QIODevice::WriteOnly));
         f.write("mío");
@@ -257,53 +209,47 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(ErrorConversion, ConvertirAccess(Ruta(Datos("minima.mdb").toStdString()),
                                                                   Ruta(destino.toStdString()), kClave));
         QVERIFY_THROWS_EXCEPTION(
-            ErrorConversion,
-            ConvertirAccess(Ruta(Datos("recortada.mdb").toStdString()),
-                            Ruta(m_carpeta.filePath(QStringLiteral("nueva.mdb")).toStdString()), kClave));
-        QVERIFY(!QFile::exists(m_carpeta.filePath(QStringLiteral("nueva.mdb"))));
-        QVERIFY(f.open(QIODevice::ReadOnly));
+            ErrorConversion, ConvertirAccess(Ruta(Datos("recortada.mdb").toStdString()),
+                                             Ruta(m_carpeta.filePath(u"nueva.mdb"_s).toStdString()), kClave));
+        QVERIFY(!QFile::exists(m_carpeta.filePath(u"nueva.mdb"_s)) && f.open(QIODevice::ReadOnly));
         QCOMPARE(f.readAll(), QByteArray("mío"));
     }
 
     // A database of ours whose columns stand otherwise (an older one after its repairs) is brought to canonical order.
     void Orden() {
         Base b;
-        b.Poner("T_Cebo", {{"Id_Cebo", 4.0}, {"Id_Ganadero", 12.0}, {"Obs", "nota"}, {"N_Parto", 3}});
+        b.Poner("T_Cebo", "Id_Cebo=4, Id_Ganadero=12, Obs=nota, N_Parto=3");
         b.c.Execute("ALTER TABLE T_Cebo DROP COLUMN Cambiado");
         b.c.Execute("ALTER TABLE T_Cebo ADD COLUMN Cambiado DOUBLE");
         b.c.Execute("ALTER TABLE T_Vacas ADD COLUMN Propia MEMO");
-        b.Poner("T_Vacas", {{"Id_Vaca", 12001.0}, {"Propia", "ñ"}});
+        b.Poner("T_Vacas", "Id_Vaca=12001, Propia=ñ");
         Sql(b.c,
             "CREATE TABLE [Mis notas] (a TEXT_MEMO, b DOUBLE); INSERT INTO [Mis notas] VALUES ('x', 2.5)");
         b.c.Cerrar();
         QVERIFY(!VerificarBase(b.fichero, kClave).empty());
         Conexion c;
         QCOMPARE(c.AbrirFichero(b.fichero, kClave), ResultadoApertura::Convertida);
-        QCOMPARE(c.Esquema().Buscar("T_Cebo")->columnas[21].nombre, std::string("Cambiado"));
-        QCOMPARE(ValorDeCampo(c, "SELECT Cambiado FROM T_Cebo WHERE Obs = 'nota' AND N_Parto = 3"),
-                 std::string("0"));
-        QCOMPARE(ValorDeCampo(c, "SELECT Propia FROM T_Vacas"), std::string("ñ"));
-        QCOMPARE(ValorDeCampo(c, "SELECT b FROM [Mis notas]"), std::string("2,5"));
+        QCOMPARE(c.Esquema().Buscar("T_Cebo")->columnas[21].nombre, "Cambiado"s);
+        QCOMPARE(ValorDeCampo(c, "SELECT Cambiado FROM T_Cebo WHERE Obs = 'nota' AND N_Parto = 3"), "0"s);
+        QCOMPARE(ValorDeCampo(c, "SELECT Propia FROM T_Vacas"), "ñ"s);
+        QCOMPARE(ValorDeCampo(c, "SELECT b FROM [Mis notas]"), "2,5"s);
         QVERIFY(VerificarBase(b.fichero, kClave).empty());
-        QCOMPARE(QDir(b.carpeta.filePath(QStringLiteral("BackUp"))).entryList(QDir::Files).size(), 1);
+        QCOMPARE(QDir(b.carpeta.filePath(u"BackUp"_s)).entryList(QDir::Files).size(), 1);
     }
 
     void BasesPropias_data() {
-        QTest::addColumn<int>("caso");
-        QTest::addColumn<ResultadoApertura>("resultado");
-        QTest::newRow("damaged page") << 0 << ResultadoApertura::Dañada;
-        QTest::newRow("other password") << 1 << ResultadoApertura::ClaveErronea;
-        QTest::newRow("another program's database") << 2 << ResultadoApertura::NoEsBase;
-        QTest::newRow("locked") << 3 << ResultadoApertura::Bloqueada;
-        QTest::newRow("table gone") << 4 << ResultadoApertura::OtroEsquema;
-        QTest::newRow("cut") << 5 << ResultadoApertura::Dañada;
+        Caso("damaged page", 0, ResultadoApertura::Dañada);
+        Caso("other password", 1, ResultadoApertura::ClaveErronea);
+        Caso("another program's database", 2, ResultadoApertura::NoEsBase);
+        Caso("locked", 3, ResultadoApertura::Bloqueada);
+        Caso("table gone", 4, ResultadoApertura::OtroEsquema);
+        Caso("cut", 5, ResultadoApertura::Dañada);
     }
     void BasesPropias() {
-        QFETCH(int, caso);
-        QFETCH(ResultadoApertura, resultado);
+        const auto [caso, resultado] = DelCaso<int, ResultadoApertura>();
         Base b;
         for (int i = 1; i < 300; ++i)
-            b.Poner("T_Tetos", {{"Id_Teto", 10.0 + i}});
+            b.Poner("T_Tetos", "Id_Teto", 10.0 + i);
         const auto sql = [&](const char* s) { Sql(b.c, s); };
         if (caso == 2)
             sql("PRAGMA application_id=1");
@@ -313,7 +259,7 @@ private Q_SLOTS:
             sql("DROP TABLE T_Partos");
         if (caso != 3)
             b.c.Cerrar();
-        QFile f(QString::fromStdString(b.fichero));
+        QFile f(Q(b.fichero));
         if (caso == 0 || caso == 5) {
             QVERIFY(f.open(QIODevice::ReadWrite));
             if (caso == 5) {
@@ -324,7 +270,7 @@ private Q_SLOTS:
             }
             f.close();
         }
-        const auto antes = Huella(f.fileName());
+        const auto antes = Contenido(f.fileName());
         OpcionesApertura o;
         o.desconfiada = true;
         Conexion c;
@@ -335,7 +281,7 @@ private Q_SLOTS:
             QVERIFY(!QByteArray(e.what()).isEmpty());
         }
         QCOMPARE(c.ResultadoUltimo(), resultado);
-        QCOMPARE(Huella(f.fileName()), antes);
+        QCOMPARE(Contenido(f.fileName()), antes);
         QVERIFY(!VerificarBase(b.fichero, caso == 1 ? "otra12" : kClave).empty());
     }
 
@@ -343,7 +289,7 @@ private Q_SLOTS:
         Base b;
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, CrearBase(Ruta(b.fichero), ClaseDeBase::Toros, kClave));
         QVERIFY(VerificarBase(b.fichero, kClave).empty());
-        QCOMPARE(b.Texto("SELECT Id_Teto FROM T_Tetos ORDER BY Id_Teto"), std::string("1/2/3/4"));
+        QUEDA(b, "Id_Teto FROM T_Tetos ORDER BY Id_Teto", "1/2/3/4");
         QCOMPARE(b.c.Esquema().Buscar("T_Cebo")->clave, (std::vector<std::string>{"Id_Ganadero", "Id_Cebo"}));
         Base toros(ClaseDeBase::Toros);
         QVERIFY(VerificarBase(toros.fichero, kClave).empty());

@@ -1,20 +1,11 @@
 #include "BaseDePrueba.h"
-#include "prueba.h"
 
 #include "store/CopiaDeFilas.h"
 #include "store/Literales.h"
 #include "store/Reemplazo.h"
 #include "store/Verificacion.h"
 
-#include <sqlite3.h>
-
-#include <QDir>
-#include <QFile>
-
-using namespace pastorix;
-using prueba::Base;
-using prueba::Numero;
-using prueba::Sql;
+using namespace prueba;
 
 // Rows and whole files on their way from one database to another.
 class PruebaCopias : public QObject {
@@ -31,15 +22,13 @@ class PruebaCopias : public QObject {
 
 private Q_SLOTS:
     void LasFilasVanComoEstan() {
-        Base a;
-        Base b;
+        Base a, b;
         a.c.Execute("ALTER TABLE T_Vacas ADD COLUMN DeA DOUBLE");
         b.c.Execute("ALTER TABLE T_Vacas ADD COLUMN DeB DOUBLE");
-        Sql(a.c,
-            "INSERT INTO T_Vacas (Id_Vaca, Nombre, MG_PN, FechaNac, Patologia, Calificacion, DeA) VALUES "
-            "(1, 'd''Arriba ñ', 'doce', 'ayer', x'00FF', 2.5, 9), (2, '', 0.1, '2026-01-02', NULL, NULL, 9), "
-            "(3, NULL, 4000000000, '2026-01-02 10:00:00', 'x', 1e300, 9)");
-        b.Poner("T_Vacas", {{"Id_Vaca", 7.0}});
+        Sql(a.c, "INSERT INTO T_Vacas (Id_Vaca, Nombre, MG_PN, FechaNac, Patologia, Calificacion, DeA) "
+                 "VALUES (1, 'd''Arriba ñ', 'doce', 'ayer', x'00FF', 2.5, 9), (2, '', 0.1, '2026-01-02', "
+                 "NULL, NULL, 9), (3, NULL, 4000000000, '2026-01-02 10:00:00', 'x', 1e300, 9)");
+        b.Poner("T_Vacas", "Id_Vaca=7");
         QList<long> avances;
         QCOMPARE(CopiarFilas(a.c, "Select * FROM T_Vacas WHERE Id_Vaca <> 2 ORDER BY Id_Vaca DESC", b.c,
                              "t_vacas", [&](long n) { avances << n; }),
@@ -57,7 +46,7 @@ private Q_SLOTS:
             return t;
         };
         QCOMPARE(volcado(b), volcado(a));
-        QCOMPARE(b.Texto("SELECT Id_Vaca, DeB FROM T_Vacas ORDER BY Id_Vaca"), std::string("1|-/3|-/7|-"));
+        QUEDA(b, "Id_Vaca, DeB FROM T_Vacas ORDER BY Id_Vaca", "1|-/3|-/7|-");
         // a key that is taken ends it; what went before stays, as with any other group
         QCOMPARE(
             Numero([&] { CopiarFilas(a.c, "Select * FROM T_Vacas ORDER BY Id_Vaca DESC", b.c, "T_Vacas"); }),
@@ -67,19 +56,17 @@ private Q_SLOTS:
     }
 
     void LasColumnasFueraDeSuSitioNoPasan_data() {
-        QTest::addColumn<QString>("consulta");
-        QTest::addColumn<bool>("pasa");
-        QTest::newRow("whole") << "SELECT * FROM T_Tetos" << true;
-        QTest::newRow("more than needed") << "SELECT Id_Teto, DescTeto, Id_Teto FROM T_Tetos" << true;
-        QTest::newRow("other case") << "SELECT ID_TETO, DESCTETO FROM T_Tetos" << true;
-        QTest::newRow("other order") << "SELECT DescTeto, Id_Teto FROM T_Tetos" << false;
-        QTest::newRow("one missing") << "SELECT Id_Teto FROM T_Tetos" << false;
+        Caso("whole", "SELECT * FROM T_Tetos", true);
+        Caso("more than needed", "SELECT Id_Teto, DescTeto, Id_Teto FROM T_Tetos", true);
+        Caso("other case", "SELECT ID_TETO, DESCTETO FROM T_Tetos", true);
+        Caso("other order", "SELECT DescTeto, Id_Teto FROM T_Tetos", false);
+        Caso("one missing", "SELECT Id_Teto FROM T_Tetos", false);
     }
     void LasColumnasFueraDeSuSitioNoPasan() {
-        QFETCH(QString, consulta);
-        QFETCH(bool, pasa);
-        Base a;
-        Base b;
+        QString consulta;
+        bool pasa = false;
+        DelCaso(consulta, pasa);
+        Base a, b;
         b.c.Execute("DELETE FROM T_Tetos");
         QCOMPARE(Numero([&] { CopiarFilas(a.c, consulta.toStdString(), b.c, "T_Tetos"); }),
                  pasa ? 0L : long(CodigoError::ColumnaDesconocida));
@@ -91,10 +78,10 @@ private Q_SLOTS:
         Base b;
         EnGrupo(b.c, [&] {
             for (int i = 1; i <= 3000; ++i)
-                b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(400, 'x')}});
+                b.Poner("T_Vacas", "Id_Vaca, Patologia", double(i), std::string(400, 'x'));
         });
         const auto copia = b.fichero + ".copia";
-        QFile(QString::fromStdString(copia)).open(QIODevice::WriteOnly); // something stood there
+        QFile(Q(copia)).open(QIODevice::WriteOnly); // something stood there
         int ultimo = 0;
         CopiarBase(b.c, Ruta(copia), [&](int hecho, int total) {
             QVERIFY(hecho > ultimo && hecho <= total);
@@ -104,7 +91,7 @@ private Q_SLOTS:
         b.c.Execute("DELETE FROM T_Vacas");
         Conexion c;
         c.AbrirFichero(copia, kClave);
-        QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Vacas"), std::string("3000"));
+        QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Vacas"), "3000"s);
         QVERIFY(VerificarBase(copia, kClave).empty());
         QVERIFY_THROWS_EXCEPTION(ErrorAlmacen, CopiarBase(b.c, Ruta(b.fichero + "/no/hay")));
         QCOMPARE(QDir(b.carpeta.path()).entryList(QDir::Files).size(), 2);
@@ -112,24 +99,21 @@ private Q_SLOTS:
 
     // What stands in the place of a database afterwards, and what is kept.
     void ReemplazarUnaBase_data() {
-        QTest::addColumn<QString>("caso");
-        QTest::addColumn<long>("error");
-        QTest::newRow("two sound ones") << "" << 0L;
-        QTest::newRow("the old one with the journal of a crash") << "crash" << 0L;
-        QTest::newRow("the old one in use") << "locked" << long(CodigoError::Bloqueada);
-        QTest::newRow("the new one damaged") << "bad new" << long(CodigoError::NoSePuedeAbrir);
-        QTest::newRow("the old one damaged") << "bad old" << long(CodigoError::NoSePuedeAbrir);
-        QTest::newRow("the old one damaged, and known to be") << "bad old, known" << 0L;
+        Caso("two sound ones", "", 0L);
+        Caso("the old one with the journal of a crash", "crash", 0L);
+        Caso("the old one in use", "locked", long(CodigoError::Bloqueada));
+        Caso("the new one damaged", "bad new", long(CodigoError::NoSePuedeAbrir));
+        Caso("the old one damaged", "bad old", long(CodigoError::NoSePuedeAbrir));
+        Caso("the old one damaged, and known to be", "bad old, known", 0L);
     }
     void ReemplazarUnaBase() {
-        QFETCH(QString, caso);
-        Base vieja;
-        Base nueva;
+        const auto [caso, error] = DelCaso<QString, long>();
+        Base vieja, nueva;
         EnGrupo(vieja.c, [&] {
             for (int i = 1; i <= 500; ++i)
-                vieja.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(200, 'x')}});
+                vieja.Poner("T_Vacas", "Id_Vaca, Patologia", double(i), std::string(200, 'x'));
         });
-        nueva.Poner("T_Vacas", {{"Id_Vaca", 9.0}});
+        nueva.Poner("T_Vacas", "Id_Vaca=9");
         nueva.c.Cerrar();
         sqlite3* otro = nullptr;
         if (caso == "crash" || caso.endsWith("known")) { // the rows are written, the commit never came
@@ -147,7 +131,7 @@ private Q_SLOTS:
             sqlite3_open(vieja.fichero.c_str(), &otro);
             sqlite3_exec(otro, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
         }
-        QFile mala(QString::fromStdString(caso == "bad new" ? nueva.fichero : vieja.fichero));
+        QFile mala(Q(caso == "bad new" ? nueva.fichero : vieja.fichero));
         if (caso.startsWith("bad")) {
             QVERIFY(mala.open(QIODevice::ReadWrite));
             mala.seek(mala.size() / 2);
@@ -162,36 +146,32 @@ private Q_SLOTS:
         const auto reemplazar = [&](BaseAnterior anterior) {
             return Numero([&] { ReemplazarBase(Ruta(vieja.fichero), Ruta(nueva.fichero), lugar, anterior); });
         };
-        QTEST(reemplazar(caso.endsWith("known") ? BaseAnterior::Averiada : BaseAnterior::Sana), "error");
+        QCOMPARE(reemplazar(caso.endsWith("known") ? BaseAnterior::Averiada : BaseAnterior::Sana), error);
         sqlite3_close(otro);
         QCOMPARE(QDir(vieja.carpeta.path()).entryList(QDir::Files).filter("prueba.mdb"),
                  QStringList{"prueba.mdb"});
 
-        QFETCH(long, error);
         if (error != 0) { // as it was
             mala.seek(0);
             QCOMPARE(mala.readAll(), antes);
             QVERIFY(carpeta.isEmpty()); // no second name that would change with it
             if (!caso.startsWith("bad old")) {
                 vieja.c.Reabrir();
-                QCOMPARE(vieja.Texto("SELECT Count(*) AS N FROM T_Vacas"), std::string("500"));
+                QUEDA(vieja, "Count(*) AS N FROM T_Vacas", "500");
             }
             return;
         }
         vieja.c.Reabrir();
-        QCOMPARE(vieja.Texto("SELECT Id_Vaca FROM T_Vacas"), std::string("9"));
+        QUEDA(vieja, "Id_Vaca FROM T_Vacas", "9");
         vieja.c.Cerrar();
-        QVERIFY(QFile::exists(QString::fromStdString(nueva.fichero)));
+        QVERIFY(QFile::exists(Q(nueva.fichero)));
         const auto copia = carpeta.filePath("DB_PradalC_31122026_235959.mdb");
         if (caso.startsWith("bad")) {
-            QFile f(copia);
-            QVERIFY(f.open(QIODevice::ReadOnly));
-            QCOMPARE(f.readAll(), antes);
+            QCOMPARE(Contenido(copia), antes);
         } else {
             Conexion c;
             c.AbrirFichero(copia.toStdString(), kClave);
-            QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Vacas WHERE Nombre Is Null"),
-                     std::string("500"));
+            QCOMPARE(ValorDeCampo(c, "SELECT Count(*) AS N FROM T_Vacas WHERE Nombre Is Null"), "500"s);
         }
         QCOMPARE(reemplazar(BaseAnterior::Sana), 0L); // within the same second
         QVERIFY(carpeta.exists("DB_PradalC_01012027_000000.mdb"));
@@ -202,7 +182,7 @@ private Q_SLOTS:
         Base b;
         EnGrupo(b.c, [&] {
             for (int i = 1; i <= 2000; ++i)
-                b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(400, 'x')}});
+                b.Poner("T_Vacas", "Id_Vaca, Patologia", double(i), std::string(400, 'x'));
         });
         b.c.Execute("DELETE FROM T_Vacas WHERE Id_Vaca > 10");
         b.c.Cerrar();
@@ -213,7 +193,7 @@ private Q_SLOTS:
         QVERIFY(std::filesystem::file_size(copia) == antes &&
                 std::filesystem::file_size(fichero) < antes / 2);
         b.c.Reabrir();
-        QCOMPARE(b.Texto("SELECT Count(*) AS N FROM T_Vacas"), std::string("10"));
+        QUEDA(b, "Count(*) AS N FROM T_Vacas", "10");
         b.c.Cerrar();
         std::filesystem::create_hard_link(fichero, carpeta / "alias.mdb");
         QuitarSegundosNombres(fichero, carpeta);
@@ -224,13 +204,8 @@ private Q_SLOTS:
     void CadenasDeGanaderos() {
         Base b;
         EnGrupo(b.c, [&] {
-            Recordset rs(b.c, "SELECT * FROM T_IPR");
-            for (int i = 1; i <= 3000; ++i) {
-                rs.AddNew();
-                if (i != 2999)
-                    rs["Id_Ganadero"] = i;
-                rs.Update();
-            }
+            for (int i = 1; i <= 3000; ++i)
+                b.Poner("T_IPR", "Id_Ganadero", i == 2999 ? Valor() : Valor(double(i)));
         });
         for (const int n : {2, 50, 51, 500, 2500}) {
             QCOMPARE(b.Texto("SELECT Count(*) AS N FROM T_IPR WHERE " + Terminos("=", " OR ", 1, n)),

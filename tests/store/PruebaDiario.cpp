@@ -1,12 +1,8 @@
 #include "BaseDePrueba.h"
 #include "DiscoLleno.h"
-#include "prueba.h"
 
 #include "store/Diario.h"
 
-#include <QFile>
-
-using namespace pastorix;
 using namespace prueba;
 
 // What a session changed, unit by unit, and back.
@@ -17,13 +13,11 @@ class PruebaDiario : public QObject {
         Diario diario{c, [] { return F("22/11/26"); }};
 
         Libro() {
-            Poner("T_Vacas",
-                  {{"Id_Vaca", 1.0}, {"Nombre", "Luna"}, {"FechaNac", F("1/2/2190")}, {"MG_PN", 1.25}});
-            Poner("T_Vacas", {{"Id_Vaca", 2.0}});
+            Poner("T_Vacas", "Id_Vaca=1, Nombre=Luna, FechaNac=1/2/2190, MG_PN=1.25");
+            Poner("T_Vacas", "Id_Vaca=2");
         }
         QString Vacas() {
-            return QString::fromStdString(
-                Texto("SELECT Id_Vaca, Nombre, FechaNac, MG_PN FROM T_Vacas ORDER BY Id_Vaca"));
+            return Q(Texto("SELECT Id_Vaca, Nombre, FechaNac, MG_PN FROM T_Vacas ORDER BY Id_Vaca"));
         }
         std::size_t Ultima() const { return diario.Acciones().size() - 1; }
     };
@@ -36,16 +30,16 @@ private Q_SLOTS:
         EnGrupo(b.c, [&] {
             b.c.Execute("UPDATE T_Vacas SET Nombre = 'Sol', MG_PN = Null WHERE Id_Vaca = 1");
             b.c.Execute("UPDATE T_Vacas SET Nombre = 'Sola' WHERE Id_Vaca = 1");
-            b.Poner("T_Vacas", {{"Id_Vaca", 3.0}, {"Nombre", "nueva"}});
+            b.Poner("T_Vacas", "Id_Vaca=3, Nombre=nueva");
             b.c.Execute("DELETE FROM T_Vacas WHERE Id_Vaca = 2");
             b.c.Execute("DELETE FROM X_Temp"); // scratch
-            b.Poner("X_Temp", {{"C1", "x"}});
+            b.Poner("X_Temp", "C1=x");
         });
         const auto despues = b.Vacas();
         const auto& accion = b.diario.Acciones().back();
         QCOMPARE(accion.filas.size(), 3U); // each row once
-        QCOMPARE(b.diario.Texto(accion.filas[0], "Nombre"), std::string("Sola"));
-        QCOMPARE(b.diario.Texto(accion.filas[2], "Id_Vaca"), std::string("2")); // as it was
+        QCOMPARE(b.diario.Texto(accion.filas[0], "Nombre"), "Sola"s);
+        QCOMPARE(b.diario.Texto(accion.filas[2], "Id_Vaca"), "2"s); // as it was
         b.diario.Deshacer(b.Ultima());
         QCOMPARE(b.Vacas(), antes);
         b.diario.Deshacer(b.Ultima()); // the undoing is a unit like any other
@@ -87,11 +81,11 @@ private Q_SLOTS:
         QCOMPARE(b.diario.Acciones().size(), acciones + 1);
         QCOMPARE(b.diario.Acciones().back().filas.size(), 1U);
         {
-            const DiscoLleno lleno(static_cast<rlim_t>(QFile(QString::fromStdString(b.fichero)).size()));
+            const DiscoLleno lleno(static_cast<rlim_t>(QFile(Q(b.fichero)).size()));
             QVERIFY_THROWS_EXCEPTION(
                 ErrorAlmacen, EnGrupo(b.c, [&] { // fits into memory, and fails as it goes to the disk
                     for (int i = 10; i < 40; ++i)
-                        b.Poner("T_Vacas", {{"Id_Vaca", double(i)}, {"Patologia", std::string(2000, 'x')}});
+                        b.Poner("T_Vacas", "Id_Vaca, Patologia", double(i), std::string(2000, 'x'));
                 }));
         }
         QCOMPARE(b.diario.Acciones().size(), acciones + 1);
@@ -99,7 +93,7 @@ private Q_SLOTS:
         QVERIFY(b.diario.Acciones().empty());
         b.c.Execute("DELETE FROM T_Vacas WHERE Id_Vaca = 1");
         b.diario.Deshacer(0);
-        QVERIFY(b.Vacas().startsWith(QStringLiteral("1|Sol|01/02/90")));
+        QVERIFY(b.Vacas().startsWith(u"1|Sol|01/02/90"_s));
     }
 };
 

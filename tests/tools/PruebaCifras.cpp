@@ -10,9 +10,7 @@
 #include "store/Ficheros.h"
 #include "store/Recordset.h"
 
-#include <QTemporaryDir>
-
-using namespace pastorix;
+using namespace prueba;
 
 // Where the printed figures come from, on the two sample databases.
 class PruebaCifras : public QObject {
@@ -21,13 +19,18 @@ class PruebaCifras : public QObject {
     int m_preguntadas = 0;
     int m_animales = 0;
 
+    static void Abrir(Conexion& c, const QTemporaryDir& carpeta, const QString& fichero) {
+        const auto base = carpeta.filePath(fichero).toStdString();
+        ConvertirAccess(Ruta((QStringLiteral(PASTORIX_EJEMPLO "/") + fichero).toStdString()), Ruta(base),
+                        kClave);
+        c.AbrirFichero(base, kClave);
+    }
     void Preguntar(Conexion& c, double ganadero, const char* layout) {
         PeticionInforme peticion;
         peticion.ganadero = ganadero;
         if (QByteArray(layout).endsWith("ParamTecnicos.rpt"))
             peticion.parametros = {{"Inicio", "1/12"}, {"Fin", "1/12"}};
-        const InformeTerminado informe =
-            GenerarInforme(LeerDisposicionDeFichero(layout), TablasDeInformes(c), peticion);
+        const auto informe = GenerarInforme(LeerDisposicionDeFichero(layout), TablasDeInformes(c), peticion);
         for (const Pagina& pagina : informe.paginas.paginas) {
             for (const Trozo& trozo : pagina.trozos) {
                 const auto* texto = std::get_if<TextoColocado>(&trozo);
@@ -35,10 +38,9 @@ class PruebaCifras : public QObject {
                     continue;
                 const QString clave = informe.paginas.figuras.at(texto->figura);
                 const auto e = ExplicarFigura(c, clave.toStdString());
-                const QByteArray donde = (clave + QStringLiteral(" printed ") + texto->texto).toUtf8();
+                const QByteArray donde = (clave + u" printed "_s + texto->texto).toUtf8();
                 QVERIFY2(e, donde);
-                const auto impreso =
-                    NumeroDeCelda(texto->texto.section(QLatin1Char(' '), 0, 0).toStdString());
+                const auto impreso = NumeroDeCelda(texto->texto.section(u' ', 0, 0).toStdString());
                 QVERIFY2(impreso, donde);
                 QVERIFY2(*impreso == e->valor, donde + " listed " + QByteArray::number(e->valor));
                 QVERIFY(!e->titulo.empty() && !e->como.empty() && !e->fechas.empty());
@@ -53,22 +55,16 @@ class PruebaCifras : public QObject {
 
 private Q_SLOTS:
     void Muestras_data() {
-        QTest::addColumn<QString>("fichero");
-        QTest::addColumn<int>("preguntas");
-        QTest::newRow("main") << QStringLiteral("BD_PradalC.mdb") << 5500;
-        QTest::newRow("personal") << QStringLiteral("BD_PradalP.mdb") << 2800;
+        Caso("main", u"BD_PradalC.mdb"_s, 5500);
+        Caso("personal", u"BD_PradalP.mdb"_s, 2800);
     }
     // Every figure that can be asked, of every farmer in five years: what is worked out of the listed animals alone is what is printed, and
     // each of them has a cow.
     void Muestras() {
-        QFETCH(QString, fichero);
-        QFETCH(int, preguntas);
+        const auto [fichero, preguntas] = DelCaso<QString, int>();
         QTemporaryDir carpeta;
-        const auto base = carpeta.filePath(fichero).toStdString();
-        ConvertirAccess(Ruta((QStringLiteral(PASTORIX_EJEMPLO "/") + fichero).toStdString()), Ruta(base),
-                        kClave);
         Conexion c;
-        c.AbrirFichero(base, kClave);
+        Abrir(c, carpeta, fichero);
         m_preguntadas = m_animales = 0;
         std::vector<double> ganaderos;
         for (Recordset rs(c, "SELECT Id_Ganadero FROM T_Ganaderos"); !rs.Eof(); rs.Siguiente())
@@ -92,16 +88,14 @@ private Q_SLOTS:
     // The headlines of the three years before are those that the reports of these years print.
     void Titulares() {
         QTemporaryDir carpeta;
-        const auto base = carpeta.filePath(QStringLiteral("p.mdb")).toStdString();
-        ConvertirAccess(Ruta(PASTORIX_EJEMPLO "/BD_PradalP.mdb"), Ruta(base), kClave);
         Conexion c;
-        c.AbrirFichero(base, kClave);
+        Abrir(c, carpeta, u"BD_PradalP.mdb"_s);
         const auto titulares = [&](const char* año) {
             LlenarIndicesTecnicos(c, {{3040}, año});
             return TablasDeInformes(c).Leer("Titulares").filas;
         };
         const auto filas = titulares("2025");
-        QCOMPARE(filas.size(), std::size_t(3));
+        QCOMPARE(filas.size(), 3U);
         for (std::size_t i = 0; i < filas.size(); ++i) {
             const std::string año = std::to_string(2024 - static_cast<int>(i));
             LlenarIndicesTecnicos(c, {{3040}, año});
@@ -116,8 +110,8 @@ private Q_SLOTS:
                 QCOMPARE(TextoDe(filas[i][k]), impresos[k]);
         }
         const auto vacios = titulares("2019"); // before the first records
-        QCOMPARE(TextoDe(vacios.at(2)[2]), std::string("–"));
-        QCOMPARE(TextoDe(vacios.at(2)[4]), std::string("–"));
+        QCOMPARE(TextoDe(vacios.at(2)[2]), "–"s);
+        QCOMPARE(TextoDe(vacios.at(2)[4]), "–"s);
     }
 
     void ClavesDesconocidas() {
