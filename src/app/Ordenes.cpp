@@ -133,12 +133,29 @@ void VincularIntercambio(Principal& principal, Sesion& sesion) {
 }
 
 // The day's work lies on the ground of the main window; F9 puts it away and brings it back.
-void PonerAvisos(Principal& principal, Sesion& sesion) {
+void PonerAvisos(Principal& principal, Sesion& sesion, ControlInforme& informe) {
     auto* fondo = principal.centralWidget();
     auto* avisos = new PanelAvisos(sesion, fondo);
     avisos->alAbrir = [&principal, &sesion](double idVaca) {
         Abrir(principal, [&] { return FichaDeHecho(principal, sesion, {FichaDe::Vaca, idVaca, {}}); });
     };
+    avisos->alImprimir = [&principal, &sesion, &informe, avisos](const QString& deQuien) {
+        try {
+            EscribirAvisos(sesion.conexion, avisos->Avisos());
+            informe.Reiniciar();
+            informe.CampoParametro(0, QStringLiteral("De;") + deQuien + QStringLiteral(";TRUE"));
+            informe.TituloVentana = QStringLiteral(" Avisos");
+            informe.FicheroInforme = sesion.rutas.Informe(QStringLiteral("Avisos.rpt"));
+            informe.FormulaSeleccion.clear();
+            informe.Action(1);
+        } catch (const std::exception& e) {
+            AvisarError(&principal, e);
+        }
+    };
+    PonerAtajo(principal, Qt::CTRL | Qt::Key_P, QStringLiteral("Imprimir los avisos"), [avisos] {
+        if (avisos->isVisible())
+            avisos->alImprimir(avisos->DeQuien());
+    });
     auto* sitio = new QVBoxLayout(fondo);
     sitio->setContentsMargins(24, 24, 24, 24);
     sitio->addWidget(avisos);
@@ -177,7 +194,7 @@ void VincularOrdenes(Principal& principal, Sesion& sesion, ControlInforme& infor
     for (const auto& e : CatalogoDeInformes())
         formulario(e.orden, [&, crear = e.crear] { return crear(sesion, informe, &principal); });
     VincularIntercambio(principal, sesion);
-    PonerAvisos(principal, sesion);
+    PonerAvisos(principal, sesion, informe);
     PonerHoy(principal, sesion);
 }
 

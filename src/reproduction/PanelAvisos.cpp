@@ -95,6 +95,11 @@ QLayout* PanelAvisos::CrearCabecera() {
     auto* cerrar =
         boton("B_CerrarAvisos", "cerrar", QStringLiteral("Cerrar los avisos (F9 los muestra otra vez)"));
     connect(cerrar, &QToolButton::clicked, this, [this] { Cerrar(true); });
+    auto* imprimir = boton("B_ImprimirAvisos", "imprimir", QStringLiteral("Imprimir los avisos (Ctrl+P)"));
+    connect(imprimir, &QToolButton::clicked, this, [this] {
+        if (alImprimir)
+            alImprimir(DeQuien());
+    });
     auto* cabecera = new QHBoxLayout;
     cabecera->addWidget(titulo);
     cabecera->addWidget(m_resumen, 1);
@@ -102,6 +107,7 @@ QLayout* PanelAvisos::CrearCabecera() {
     rotulo->setBuddy(m_ganadero);
     cabecera->addWidget(rotulo);
     cabecera->addWidget(m_ganadero);
+    cabecera->addWidget(imprimir);
     cabecera->addWidget(cerrar);
     return cabecera;
 }
@@ -185,6 +191,10 @@ void PanelAvisos::Mostrar(std::vector<Aviso> avisos) {
 
 double PanelAvisos::Ganadero() const {
     return m_ganadero->currentData().toDouble();
+}
+
+QString PanelAvisos::DeQuien() const {
+    return m_ganadero->currentText();
 }
 
 void PanelAvisos::Filtrar() {

@@ -28,8 +28,10 @@ public:
 
     const std::vector<Aviso>& Avisos() const { return m_avisos; } // those of the farmer chosen
     double Ganadero() const;                                      // 0 all
+    QString DeQuien() const;                                      // the choice in words
 
     std::function<void(double idVaca)> alAbrir;
+    std::function<void(const QString& deQuien)> alImprimir; // those on screen
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;

@@ -261,9 +261,10 @@ class PruebaAvisos : public QObject {
     Q_OBJECT
 
     static QString Todos(Conexion& c) {
+        EscribirAvisos(c, LeerAvisos(c, F("22/11/26"))); // as they are printed
         QStringList filas;
-        for (const auto& a : LeerAvisos(c, F("22/11/26")))
-            filas << Q(NombreDe(a.clase)) + u": "_s + Q(a.texto);
+        for (Recordset rs(c, "SELECT C1, C5 FROM X_Temp"); !rs.Eof(); rs.Siguiente())
+            filas << Q(rs[0].Texto()) + u": "_s + Q(rs[1].Texto());
         return filas.join(u'|');
     }
 

@@ -5,6 +5,7 @@
 #include "reproduction/datos/Limites.h"
 #include "store/Literales.h"
 #include "store/Recordset.h"
+#include "store/TablaDeTrabajo.h"
 
 #include <algorithm>
 #include <functional>
@@ -239,6 +240,20 @@ std::vector<Aviso> LeerAvisos(Conexion& c, Fecha hoy) {
         return std::tie(a.clase, a.fecha) < std::tie(b.clase, b.fecha);
     });
     return avisos;
+}
+
+void EscribirAvisos(Conexion& c, const std::vector<Aviso>& avisos) {
+    VaciarTabla(c, "X_Temp");
+    TablaDeTrabajo tabla(c, "X_Temp");
+    for (const auto& a : avisos) {
+        auto& fila = tabla.Fila();
+        fila["C1"] = NombreDe(a.clase);
+        fila["C2"] = a.ganadero;
+        fila["C3"] = a.vaca;
+        fila["C4"] = a.crotal;
+        fila["C5"] = a.texto;
+    }
+    tabla.Cerrar();
 }
 
 } // namespace pastorix

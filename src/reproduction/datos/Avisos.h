@@ -44,4 +44,7 @@ const char* NombreDe(ClaseAviso clase);
 // former: those of the former that are not complete, and dates that cannot be. Throws ErrorAlmacen.
 std::vector<Aviso> LeerAvisos(Conexion& c, Fecha hoy);
 
+// Leaves them in X_Temp, in their order, for the report of that name. Throws ErrorAlmacen.
+void EscribirAvisos(Conexion& c, const std::vector<Aviso>& avisos);
+
 } // namespace pastorix
