@@ -11,6 +11,7 @@
 #include "frame/Principal.h"
 #include "frame/calendario/Reloj.h"
 #include "registers/Ganaderos.h"
+#include "registers/PanelRecientes.h"
 #include "registers/VentanaHoy.h"
 #include "registers/Veterinarios.h"
 #include "registers/sementales/Sementales.h"
@@ -156,9 +157,16 @@ void PonerAvisos(Principal& principal, Sesion& sesion, ControlInforme& informe) 
         if (avisos->isVisible())
             avisos->alImprimir(avisos->DeQuien());
     });
+    auto* recientes = new PanelRecientes(sesion, fondo);
+    recientes->alAbrir = [&principal, &sesion](const Hecho& hecho) {
+        Abrir(principal, [&] { return FichaDeHecho(principal, sesion, hecho); });
+    };
     auto* sitio = new QVBoxLayout(fondo);
     sitio->setContentsMargins(24, 24, 24, 24);
-    sitio->addWidget(avisos);
+    sitio->addWidget(recientes);
+    sitio->addWidget(avisos, 1);
+    sitio->addStretch();
+    QObject::connect(&principal, &Principal::Activada, recientes, &PanelRecientes::Refrescar);
     PonerAtajo(principal, Qt::Key_F9, QStringLiteral("Mostrar u ocultar los avisos"),
                [avisos] { avisos->Cerrar(!avisos->Cerrado()); });
     QObject::connect(&principal, &Principal::Activada, avisos, &PanelAvisos::Refrescar);

@@ -20,11 +20,8 @@ namespace {
 const Atajo kComunes[] = {
     {QStringLiteral("F1"), QStringLiteral("Ayuda sobre lo que se tiene delante")},
     {QStringLiteral("Tab, Intro"), QStringLiteral("Pasar al campo siguiente")},
-    {QStringLiteral("F4"),
-     QStringLiteral("En una fecha, el calendario; en otro campo con lista o icono, abrirlo")},
+    {QStringLiteral("F4"), QStringLiteral("El calendario de una fecha, o lo que abre el campo")},
     {QStringLiteral("+, -"), QStringLiteral("En una fecha, un día más o menos")},
-    {QStringLiteral("Ctrl+C"), QStringLiteral("En una tabla, copiar la fila")},
-    {QStringLiteral("Ctrl+Mayús+C"), QStringLiteral("En una tabla, copiarla entera con sus títulos")},
     {QStringLiteral("Esc"), QStringLiteral("Cerrar la ventana o dejar lo que se estaba haciendo")},
 };
 

@@ -3,6 +3,7 @@
 #include "store/Conexion.h"
 
 #include <string_view>
+#include <vector>
 
 namespace pastorix {
 
@@ -11,6 +12,8 @@ namespace pastorix {
 
 // 0 when there was none. The record may be gone since.
 double Ultimo(const Conexion& conexion, std::string_view columnaClave);
+// The last ones, the latest first, each once.
+std::vector<double> Recientes(const Conexion& conexion, std::string_view columnaClave);
 // A code of 0 changes nothing.
 void RecordarUltimo(const Conexion& conexion, std::string_view columnaClave, double codigo);
 

@@ -8,6 +8,7 @@
 #include "frame/OrdenesPrincipal.h"
 #include "frame/Principal.h"
 #include "frame/ficha/Ficha.h"
+#include "registers/PanelRecientes.h"
 #include "reports/TablasDeInformes.h"
 #include "reports/motor/ControlInforme.h"
 
@@ -147,6 +148,15 @@ private Q_SLOTS:
             Q_EMIT atajo->activated();
             RevisarLoAbierto(atajo->key().toString(), principal);
         }
+        auto* recientes = static_cast<PanelRecientes*>(principal.findChild<QFrame*>(u"PanelRecientes"_s));
+        recientes->Refrescar();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const auto botones = recientes->findChildren<QToolButton*>();
+        QCOMPARE(botones.size(), 2); // the cow of above and her farmer
+        botones[1]->click();
+        QCOMPARE(QApplication::activeModalWidget()->objectName(), u"Vacas"_s);
+        RevisarLoAbierto(botones[1]->accessibleName(), principal);
+        Revisar(principal, u"recientes"_s);
         m_faltas.removeDuplicates();
         for (const auto& falta : m_faltas)
             qInfo("%s", qPrintable(falta));

@@ -263,6 +263,9 @@ private Q_SLOTS:
         QCOMPARE(filaAlAbrir(TipoSelector::Vacas, Vacas()), u"57000001"_s);
         RecordarUltimo(b.c, "Id_Vaca", 99); // gone since
         QCOMPARE(filaAlAbrir(TipoSelector::Vacas, Vacas()), u"1200001"_s);
+        for (const double codigo : {1.0, 57000001.0, 2.0, 3.0, 4.0, 5.0, 2.0})
+            RecordarUltimo(b.c, "Id_Vaca", codigo);
+        QCOMPARE(Recientes(b.c, "Id_Vaca"), (std::vector<double>{2, 5, 4, 3, 57000001, 1}));
     }
 
     void TecladoEntreLaListaYLasCajas() {
