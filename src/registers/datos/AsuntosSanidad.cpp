@@ -10,8 +10,6 @@ constexpr const char* kReservas[] = {"Fuerte", "Moderada", "Nula", "Engrasada"};
 constexpr const char* kSerologia[] = {"Negativa", "Positiva", "Dudosa"};
 constexpr const char* kSerologiaDeCiclo[] = {"Positiva", "Negativa", "ConvSp", "ConvBp"};
 
-constexpr int kFecha = 8;
-constexpr int kNota = 5; // a condition score
 
 constexpr ColumnaLinea kCCNatural[] = {{"AñoNat", Numero}, {"CCmar", Decimal}, {"CCnov", Decimal}};
 

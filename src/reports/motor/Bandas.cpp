@@ -49,10 +49,8 @@ struct Bandas::Medido {
     double baja = 0; // pushed down by what grows above it
 };
 
-Bandas::Bandas(const Disposicion& disposicion, const Conjuntos& conjuntos, const Evaluador& evaluador,
-               Medidor& medidor)
-    : m_disposicion(disposicion)
-    , m_conjuntos(conjuntos)
+Bandas::Bandas(const Conjuntos& conjuntos, const Evaluador& evaluador, Medidor& medidor)
+    : m_conjuntos(conjuntos)
     , m_evaluador(evaluador)
     , m_medidor(medidor) {}
 

@@ -8,8 +8,7 @@ namespace pastorix {
 // Fills bands: evaluates texts, breaks and measures them, grows the band, and yields a strip of primitives.
 class Bandas {
 public:
-    Bandas(const Disposicion& disposicion, const Conjuntos& conjuntos, const Evaluador& evaluador,
-           Medidor& medidor);
+    Bandas(const Conjuntos& conjuntos, const Evaluador& evaluador, Medidor& medidor);
 
     // x is where the band begins, right of the left margin (mm); ancho is its width. impar says that it is every second row.
     Tira Hacer(const Banda& banda, const Contexto* contexto, double x, double ancho, bool impar = false,
@@ -28,7 +27,6 @@ private:
     void PonerCaja(Tira& tira, const Medido& medido, double x, double crece) const;
     std::shared_ptr<const DatosGrafico> Grafico(const Elemento& elemento, const Contexto* contexto);
 
-    const Disposicion& m_disposicion;
     const Conjuntos& m_conjuntos;
     const Evaluador& m_evaluador;
     Medidor& m_medidor;

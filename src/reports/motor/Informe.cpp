@@ -86,7 +86,7 @@ InformeTerminado GenerarInforme(const Disposicion& disposicion, const FuenteDeTa
     const DatosDeInforme datos{peticion.titulo, peticion.parametros, Hoy(), peticion.ganadero};
     const Evaluador evaluador(disposicion, conjuntos, datos);
     Medidor medidor(disposicion.familias);
-    Bandas bandas(disposicion, conjuntos, evaluador, medidor);
+    Bandas bandas(conjuntos, evaluador, medidor);
     Compositor compositor(disposicion, conjuntos, evaluador, bandas);
     const double altoCabecera = disposicion.cabeceraPagina ? disposicion.cabeceraPagina->alto : 0;
     Paginador paginador(disposicion.AltoUtil(), disposicion.izquierda, disposicion.arriba + altoCabecera);
