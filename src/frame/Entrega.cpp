@@ -72,7 +72,7 @@ void Entregar(const QString& carpeta,
 }
 
 QString Hallada(const QString& origen, const QString& base) {
-    const QString fichero = BuscarSinCaja(origen, base);
+    QString fichero = BuscarSinCaja(origen, base);
     if (QFileInfo(fichero).isFile())
         return fichero;
     return BuscarSinCaja(BuscarSinCaja(origen, QStringLiteral("Base de Datos")), base);
