@@ -2,6 +2,7 @@
 #include "exchange/FormularioDeRuta.h"
 #include "exchange/Historial.h"
 #include "exchange/datos/BasesEnteras.h"
+#include "frame/AvisosDeBase.h"
 #include "frame/Ciclo.h"
 #include "frame/Mensajes.h"
 #include "frame/Principal.h"
@@ -41,14 +42,6 @@ void DecirSinBase(const Sesion& sesion, QWidget* ventana) {
         principal->MostrarPeligro(QStringLiteral("SIN BASE DE DATOS: salga del programa y vuelva a entrar"));
 }
 
-QString Describir(const ContenidoDeBase& c) {
-    return QStringLiteral("%1 ganaderos, %2 vacas, %3 toros; último parto: %4")
-        .arg(c.ganaderos)
-        .arg(c.vacas)
-        .arg(c.sementales)
-        .arg(c.ultimoParto ? Texto(FormatoFecha(*c.ultimoParto, "dd/mm/yyyy")) : QStringLiteral("ninguno"));
-}
-
 } // namespace
 
 bool RestaurarEnSesion(Sesion& sesion, const fs::path& copia, QWidget* padre) {
@@ -62,7 +55,7 @@ bool RestaurarEnSesion(Sesion& sesion, const fs::path& copia, QWidget* padre) {
                        QStringLiteral(
                            "%1:\n%2\n\nLa base de datos de ahora se guarda como una copia más. Lo anotado "
                            "después de la copia deja de estar a la vista. ¿Desea restaurarla?")
-                           .arg(nombre, Describir(dentro)),
+                           .arg(nombre, EnPalabras(dentro)),
                        TipoMensaje::Atencion))
             return false;
         const auto momento = Ahora();
@@ -155,8 +148,8 @@ void Copias::Examinar(int fila) {
     QString texto;
     try {
         const auto copia = m_copias[static_cast<std::size_t>(fila)];
-        texto = Describir(EnSegundoPlano([&](const auto&) { return ExaminarCopia(copia, kClave); },
-                                         AvanceTardio(this, QStringLiteral("Examinando la copia..."))));
+        texto = EnPalabras(EnSegundoPlano([&](const auto&) { return ExaminarCopia(copia, kClave); },
+                                          AvanceTardio(this, QStringLiteral("Examinando la copia..."))));
     } catch (const ErrorAlmacen& e) {
         texto = QStringLiteral("No sirve: ") + QString::fromUtf8(e.what()).section(QLatin1Char('\n'), 0, 0);
     }

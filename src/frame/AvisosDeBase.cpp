@@ -23,20 +23,6 @@ QString Nombre(const std::filesystem::path& ruta) {
     return QString::fromStdString(TextoDeRuta(ruta.filename()));
 }
 
-// "5 ganaderos, 249 vacas, 56 toros; último parto, 30/11/2026"
-QString Describir(const ContenidoDeBase& c) {
-    const auto cuantos = [](long n, const char* uno, const char* varios) {
-        return QString::number(n) + QLatin1Char(' ') + QString::fromUtf8(n == 1 ? uno : varios);
-    };
-    QString texto = cuantos(c.ganaderos, "ganadero", "ganaderos") + QStringLiteral(", ") +
-                    cuantos(c.vacas, "vaca", "vacas") + QStringLiteral(", ") +
-                    cuantos(c.sementales, "toro", "toros");
-    if (c.ultimoParto)
-        texto += QStringLiteral("; último parto, ") +
-                 QString::fromStdString(FormatoFecha(*c.ultimoParto, "dd/mm/yyyy"));
-    return texto;
-}
-
 std::optional<CopiaSana> BuscarCopia(const Sesion& sesion, const QString& fichero,
                                      const HacerAvance& avance) {
     const auto carpeta = Camino(sesion.rutas.BackUp());
@@ -52,7 +38,7 @@ bool QuiereRestaurar(const CopiaSana& sana, const QString& problema, const QStri
                      problema +
                          QStringLiteral("\n\nLa última copia de seguridad sana es del %1 (%2):\n%3\n\nLo "
                                         "anotado después de esa fecha no está en ella. ¿Desea restaurarla?%4")
-                             .arg(momento, Nombre(sana.copia.fichero), Describir(sana.contenido), siNo),
+                             .arg(momento, Nombre(sana.copia.fichero), EnPalabras(sana.contenido), siNo),
                      TipoMensaje::Critico, false, detalle);
 }
 
@@ -82,6 +68,19 @@ bool Restaurar(Sesion& sesion, const QString& fichero, const CopiaSana& sana, QW
 }
 
 } // namespace
+
+QString EnPalabras(const ContenidoDeBase& c) {
+    const auto cuantos = [](long n, const char* uno, const char* varios) {
+        return QString::number(n) + QLatin1Char(' ') + QString::fromUtf8(n == 1 ? uno : varios);
+    };
+    QString texto = cuantos(c.ganaderos, "ganadero", "ganaderos") + QStringLiteral(", ") +
+                    cuantos(c.vacas, "vaca", "vacas") + QStringLiteral(", ") +
+                    cuantos(c.sementales, "toro", "toros");
+    if (c.ultimoParto)
+        texto += QStringLiteral("; último parto, ") +
+                 QString::fromStdString(FormatoFecha(*c.ultimoParto, "dd/mm/yyyy"));
+    return texto;
+}
 
 void AvisarColumnasAñadidas(const Sesion& sesion, QWidget* padre) {
     QStringList columnas;

@@ -10,7 +10,11 @@ class QWidget;
 
 namespace pastorix {
 
+struct ContenidoDeBase;
 struct Sesion;
+
+// "5 ganaderos, 249 vacas, 56 toros; último parto, 30/11/2026"
+QString EnPalabras(const ContenidoDeBase& contenido);
 
 // Tells that the database just opened lacked columns, which are there now, empty. No box when it lacked none.
 void AvisarColumnasAñadidas(const Sesion& sesion, QWidget* padre);

@@ -1,8 +1,8 @@
 #include "frame/MirarFichero.h"
 
+#include "frame/AvisosDeBase.h"
 #include "frame/Mensajes.h"
 #include "frame/Sesion.h"
-#include "frame/calendario/Calendario.h"
 #include "store/Copias.h"
 #include "store/Ficheros.h"
 #include "store/Verificacion.h"
@@ -12,19 +12,6 @@
 #include <QStringList>
 
 namespace pastorix {
-
-namespace {
-
-QString Describir(const ContenidoDeBase& c) {
-    return QStringLiteral("Ganaderos: %1\nVacas: %2\nToros: %3\nÚltimo parto: %4")
-        .arg(c.ganaderos)
-        .arg(c.vacas)
-        .arg(c.sementales)
-        .arg(c.ultimoParto ? QString::fromStdString(FormatoFecha(*c.ultimoParto, "dd/mm/yyyy"))
-                           : QStringLiteral("ninguno"));
-}
-
-} // namespace
 
 bool MirarFichero(const QString& fichero) {
     const QString nombre = QDir::toNativeSeparators(QFileInfo(fichero).absoluteFilePath());
@@ -54,7 +41,7 @@ bool MirarFichero(const QString& fichero) {
                      EsDeAccess(ruta)
                          ? QStringLiteral("Una base de datos de Access de la aplicación anterior")
                          : QStringLiteral("Una base de datos de Pastorix"),
-                     Describir(ExaminarCopia(ruta, ClaveDeBases))),
+                     EnPalabras(ExaminarCopia(ruta, ClaveDeBases))),
             TipoMensaje::Informacion);
     } catch (const std::exception& error) {
         Avisar(nullptr, TipoMensaje::Atencion, titulo,

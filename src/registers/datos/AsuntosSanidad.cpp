@@ -10,7 +10,6 @@ constexpr const char* kReservas[] = {"Fuerte", "Moderada", "Nula", "Engrasada"};
 constexpr const char* kSerologia[] = {"Negativa", "Positiva", "Dudosa"};
 constexpr const char* kSerologiaDeCiclo[] = {"Positiva", "Negativa", "ConvSp", "ConvBp"};
 
-
 constexpr ColumnaLinea kCCNatural[] = {{"AñoNat", Numero}, {"CCmar", Decimal}, {"CCnov", Decimal}};
 
 constexpr ColumnaLinea kCCDeCiclo[] = {{"AñoRef", Numero},      {"NumParto", Numero},
