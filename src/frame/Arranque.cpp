@@ -143,6 +143,8 @@ bool Arrancar(Sesion& sesion, const FuncionAvance& avance, const PedirBases& ped
             AvisarDeLoInacabado(sesion.rutas);
         }
         PrepararCarpetas(sesion.rutas, pedirBases);
+        if (!sesion.cerrojo)
+            Ocupar(sesion); // its folder has only now been made
         DeclararOrigenes(sesion);
         AbrirPrincipal(sesion, avance);
         AvisarColumnasAñadidas(sesion, nullptr);
